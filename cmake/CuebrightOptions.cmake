@@ -1,0 +1,21 @@
+# How every target of this project is compiled: link `cuebright_options` privately.
+add_library(cuebright_options INTERFACE)
+
+if(NOT MSVC)
+    target_compile_options(cuebright_options INTERFACE
+        -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wold-style-cast -Wnon-virtual-dtor)
+    if(CUEBRIGHT_WERROR)
+        target_compile_options(cuebright_options INTERFACE -Werror)
+    endif()
+endif()
+
+if(CUEBRIGHT_SANITIZE)
+    target_compile_options(cuebright_options INTERFACE
+        -fsanitize=${CUEBRIGHT_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(cuebright_options INTERFACE -fsanitize=${CUEBRIGHT_SANITIZE})
+endif()
+
+# Qt targets link this as well: Qt's keywords and silent conversions stay off.
+add_library(cuebright_qt_options INTERFACE)
+target_compile_definitions(cuebright_qt_options INTERFACE QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_FOREACH)
+target_link_libraries(cuebright_qt_options INTERFACE cuebright_options)

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace cuebright {
+
+struct FileError {
+    std::string description; ///< one line in the system's words
+};
+
+/// The few file operations that the program needs. Nothing here throws.
+class FileSystem {
+public:
+    virtual ~FileSystem() = default;
+
+    /// The user's folder for application data, without the application's own name. Absent where there is none.
+    [[nodiscard]] virtual std::optional<std::filesystem::path> applicationSupportDirectory() = 0;
+
+    /// Creates the folder with all missing parents, for its owner only; true if it exists afterwards.
+    virtual bool createDirectories(const std::filesystem::path& directory) = 0;
+
+    [[nodiscard]] virtual bool exists(const std::filesystem::path& path) = 0;
+
+    /// Removes a file; false if there was none or it could not be removed.
+    virtual bool removeFile(const std::filesystem::path& path) = 0;
+
+    /// The whole content of a regular file, with at least `spareCapacity` bytes of capacity behind it; absent when it
+    /// cannot be read.
+    [[nodiscard]] virtual std::optional<std::string> readFile(
+        const std::filesystem::path& path, std::size_t spareCapacity)
+        = 0;
+
+    /// Replaces the file's content as a whole: a reader sees the old content or the new, also after a power cut. On
+    /// failure the old content stays. Symbolic links are followed; a new file is for its owner only.
+    [[nodiscard]] virtual std::optional<FileError> writeFileAtomically(
+        const std::filesystem::path& path, std::string_view content)
+        = 0;
+};
+
+} // namespace cuebright

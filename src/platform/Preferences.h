@@ -1,0 +1,48 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace cuebright {
+
+/// The user's preferences by key. Reading never fails: what is not there, or does not hold a value of the kind asked
+/// for, is absent. Writing takes effect at once and reports nothing.
+class Preferences {
+public:
+    using Numbers = std::map<std::string, double, std::less<>>;
+
+    virtual ~Preferences() = default;
+
+    /// True only for true, 1 and yes; absent only when the key is.
+    [[nodiscard]] virtual std::optional<bool> boolean(std::string_view key) = 0;
+    [[nodiscard]] virtual std::optional<std::int64_t> integer(std::string_view key) = 0;
+    /// Always finite.
+    [[nodiscard]] virtual std::optional<double> number(std::string_view key) = 0;
+    [[nodiscard]] virtual std::optional<std::string> text(std::string_view key) = 0;
+    /// The finite numbers kept under `key`, each by its own name; empty when there are none.
+    [[nodiscard]] virtual Numbers numbers(std::string_view key) = 0;
+
+    virtual void setBoolean(std::string_view key, bool value) = 0;
+    virtual void setInteger(std::string_view key, std::int64_t value) = 0;
+    virtual void setNumber(std::string_view key, double value) = 0;
+    virtual void setText(std::string_view key, std::string_view value) = 0;
+    virtual void setNumbers(std::string_view key, const Numbers& values) = 0;
+
+    /// Removes the value of whatever kind.
+    virtual void remove(std::string_view key) = 0;
+};
+
+namespace preferenceKeys {
+inline constexpr std::string_view kTheme = "cuebrightTheme";
+inline constexpr std::string_view kFontSize = "cuebrightFontSize";
+inline constexpr std::string_view kOpacity = "cuebrightOpacity";
+inline constexpr std::string_view kWordCount = "cuebrightWordCount";
+inline constexpr std::string_view kSpeakingPace = "cuebrightSpeakingPace";
+inline constexpr std::string_view kWindowFrame = "cuebrightWindowFrame";
+inline constexpr std::string_view kOnboardingDone = "cuebrightOnboardingDone";
+}
+
+} // namespace cuebright

@@ -1,0 +1,138 @@
+#include "foundation/Signal.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace cuebright {
+
+namespace {
+
+struct SignalTest : testing::Test {
+    auto recorder(const char* name)
+    {
+        return [this, name] { calls.emplace_back(name); };
+    }
+    std::vector<std::string> calls;
+    std::unique_ptr<Signal<>> signal = std::make_unique<Signal<>>();
+};
+
+using Calls = std::vector<std::string>;
+
+} // namespace
+
+TEST_F(SignalTest, ListenersAreCalledInTheOrderOfSubscribing)
+{
+    const auto first = signal->subscribe(recorder("first"));
+    const auto second = signal->subscribe(recorder("second"));
+    signal->notify();
+    EXPECT_EQ(calls, (Calls {"first", "second"}));
+}
+
+TEST_F(SignalTest, AListenerEndsWithItsSubscription)
+{
+    {
+        const auto subscription = signal->subscribe(recorder("ended"));
+    }
+    signal->notify();
+    EXPECT_EQ(calls, Calls {});
+}
+
+TEST_F(SignalTest, AMovedSubscriptionKeepsItsListener)
+{
+    auto first = signal->subscribe(recorder("first"));
+    auto second = signal->subscribe(recorder("second"));
+    first = std::move(second);
+    signal->notify();
+    EXPECT_EQ(calls, (Calls {"second"}));
+}
+
+TEST_F(SignalTest, ALaterListenerEndedDuringANotificationIsNotCalledAnyMore)
+{
+    Subscription later;
+    const auto first = signal->subscribe([&] { later.end(); });
+    later = signal->subscribe(recorder("later"));
+    signal->notify();
+    EXPECT_EQ(calls, Calls {});
+}
+
+TEST_F(SignalTest, AListenerMayEndItselfAndTheNextOneIsStillCalled)
+{
+    Subscription own;
+    own = signal->subscribe([&] {
+        calls.emplace_back("own");
+        own.end();
+    });
+    const auto next = signal->subscribe(recorder("next"));
+    signal->notify();
+    signal->notify();
+    EXPECT_EQ(calls, (Calls {"own", "next", "next"}));
+}
+
+TEST_F(SignalTest, AListenerAddedDuringANotificationIsCalledFromTheNextOneOn)
+{
+    std::vector<Subscription> added;
+    const auto first = signal->subscribe([&] { added.push_back(signal->subscribe(recorder("added"))); });
+    signal->notify();
+    EXPECT_EQ(calls, Calls {});
+    signal->notify();
+    EXPECT_EQ(calls, (Calls {"added"}));
+}
+
+TEST_F(SignalTest, DestroyingTheSignalDuringANotificationSilencesTheRest)
+{
+    const auto first = signal->subscribe([&] { signal.reset(); });
+    const auto second = signal->subscribe(recorder("second"));
+    signal->notify();
+    EXPECT_EQ(calls, Calls {});
+}
+
+TEST_F(SignalTest, ASubscriptionMayOutliveItsSignal)
+{
+    auto subscription = signal->subscribe(recorder("listener"));
+    signal.reset();
+    subscription.end();
+    EXPECT_EQ(calls, Calls {});
+}
+
+TEST_F(SignalTest, AListenerMayNotifyAgain)
+{
+    const auto first = signal->subscribe([&] {
+        calls.emplace_back("first");
+        if (calls.size() == 1)
+            signal->notify();
+    });
+    const auto second = signal->subscribe(recorder("second"));
+    signal->notify();
+    EXPECT_EQ(calls, (Calls {"first", "first", "second", "second"}));
+}
+
+TEST_F(SignalTest, AListenerEndedInANestedNotificationIsNotCalledByTheOuterOne)
+{
+    Subscription last;
+    const auto first = signal->subscribe([&] {
+        calls.emplace_back("first");
+        if (calls.size() == 1)
+            signal->notify();
+        else
+            last.end();
+    });
+    last = signal->subscribe(recorder("last"));
+    signal->notify();
+    EXPECT_EQ(calls, (Calls {"first", "first"}));
+}
+
+TEST(SignalArguments, EveryListenerReceivesThem)
+{
+    Signal<int, std::string> signal;
+    std::vector<std::string> received;
+    const auto record = [&](int number, const std::string& text) { received.push_back(text + std::to_string(number)); };
+    const auto first = signal.subscribe(record);
+    const auto second = signal.subscribe(record);
+    signal.notify(7, "a");
+    EXPECT_EQ(received, (std::vector<std::string> {"a7", "a7"}));
+}
+
+} // namespace cuebright

@@ -1,0 +1,41 @@
+#include "foundation/Uuid.h"
+
+#include <gtest/gtest.h>
+
+namespace cuebright {
+
+TEST(Uuid, TheTextFormIsReadAndWrittenWithUpperCaseDigits)
+{
+    const auto uuid = Uuid::parse("6B0F5C1E-3D0A-4E8B-9D55-2F7A1C9E4B21");
+    ASSERT_TRUE(uuid);
+    EXPECT_EQ(uuid->bytes.front(), 0x6b);
+    EXPECT_EQ(uuid->bytes.back(), 0x21);
+    EXPECT_EQ(uuid->text(), "6B0F5C1E-3D0A-4E8B-9D55-2F7A1C9E4B21");
+}
+
+TEST(Uuid, LowerAndMixedCaseReadAsTheSame)
+{
+    const auto upper = Uuid::parse("ABCDEF01-2345-6789-ABCD-EF0123456789");
+    EXPECT_EQ(Uuid::parse("abcdef01-2345-6789-abcd-ef0123456789"), upper);
+    EXPECT_EQ(Uuid::parse("aBcDeF01-2345-6789-AbCd-eF0123456789"), upper);
+}
+
+TEST(Uuid, EverythingElseIsRefused)
+{
+    constexpr std::string_view kBad[] = {
+        "",
+        "6B0F5C1E-3D0A-4E8B-9D55-2F7A1C9E4B2", // a digit short
+        "6B0F5C1E-3D0A-4E8B-9D55-2F7A1C9E4B210", // a digit too many
+        "6B0F5C1E3D0A4E8B9D552F7A1C9E4B21", // no hyphens
+        "{6B0F5C1E-3D0A-4E8B-9D55-2F7A1C9E4B}", // braces, right length
+        "6B0F5C1E-3D0A-4E8B-9D55-2F7A1C9E4BG1", // no digit
+        "6B0F5C1E 3D0A 4E8B 9D55 2F7A1C9E4B21", // blanks for hyphens
+        "6B0F5C1-E3D0A-4E8B-9D55-2F7A1C9E4B21", // hyphen displaced
+        "6B0F5C1E-3D0A-4E8B-9D55-2F7A1C9E4B-1", // hyphen for a digit
+        "6B0F5C1E-3D0A-4E8B-9D55-2F7A1C9E4\xc3\xa9", // a letter beyond ASCII
+    };
+    for (const auto text : kBad)
+        EXPECT_FALSE(Uuid::parse(text)) << text;
+}
+
+} // namespace cuebright

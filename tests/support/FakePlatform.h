@@ -1,0 +1,188 @@
+#pragma once
+
+#include "platform/Accessibility.h"
+#include "platform/Appearance.h"
+#include "platform/Clock.h"
+#include "platform/FileSystem.h"
+#include "platform/Log.h"
+#include "platform/MainQueue.h"
+#include "platform/Platform.h"
+#include "platform/Preferences.h"
+#include "platform/UuidSource.h"
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <utility>
+#include <variant>
+#include <vector>
+
+namespace cuebright::test {
+
+/// Time that stands still until a test moves it (through `FakeMainQueue::advance`).
+class FakeClock final : public Clock {
+public:
+    Instant now() override
+    {
+        ++reads;
+        return std::exchange(wallClock, wallClock + stepPerRead);
+    }
+    Seconds uptime() override { return up; }
+
+    Instant wallClock = Instant(std::chrono::sys_days(std::chrono::year(2026) / 11 / 16)) + std::chrono::hours(9);
+    Seconds up { 1000 };
+    int reads = 0;
+    std::chrono::microseconds stepPerRead {}; ///< tells one reading of the date from the next
+};
+
+/// Counts up, so that the n-th identifier made is `Uuid` with n in its last bytes.
+class FakeUuidSource final : public UuidSource {
+public:
+    Uuid makeUuid() override { return nth(++count); }
+    static Uuid nth(int n)
+    {
+        Uuid uuid;
+        uuid.bytes[14] = static_cast<std::uint8_t>(n >> 8);
+        uuid.bytes[15] = static_cast<std::uint8_t>(n);
+        return uuid;
+    }
+    int count = 0;
+};
+
+/// Runs work in the order in which it falls due, when a test says so.
+class FakeMainQueue final : public MainQueue {
+public:
+    explicit FakeMainQueue(FakeClock& clock)
+        : m_clock(clock)
+    {
+    }
+    void post(std::function<void()> work) override;
+    PendingTask after(Seconds delay, std::function<void()> work) override;
+    PendingTask every(Seconds interval, std::function<void()> work) override;
+
+    /// Runs what was posted, also by the work itself.
+    void runPosted();
+    /// Moves both clocks on and runs all that falls due, each at its time.
+    void advance(Seconds duration);
+    /// Delayed and repeating work that still waits.
+    [[nodiscard]] std::size_t pendingCount() const { return m_timed.size(); }
+
+private:
+    struct Timed {
+        Seconds due;
+        int order;
+        std::optional<Seconds> interval;
+        std::function<void()> work;
+    };
+    PendingTask schedule(Seconds delay, std::optional<Seconds> interval, std::function<void()> work);
+
+    FakeClock& m_clock;
+    std::vector<std::function<void()>> m_posted;
+    std::map<int, Timed> m_timed;
+    int m_nextOrder = 0;
+    std::shared_ptr<const char> m_alive = std::make_shared<const char>('\0');
+};
+
+/// Files in memory; records each write.
+class FakeFileSystem final : public FileSystem {
+public:
+    std::optional<std::filesystem::path> applicationSupportDirectory() override { return supportDirectory; }
+    bool createDirectories(const std::filesystem::path& directory) override;
+    bool exists(const std::filesystem::path& path) override { return files.contains(path.string()); }
+    bool removeFile(const std::filesystem::path& path) override { return files.erase(path.string()) > 0; }
+    std::optional<std::string> readFile(const std::filesystem::path& path, std::size_t spareCapacity) override;
+    std::optional<FileError> writeFileAtomically(const std::filesystem::path& path, std::string_view content) override;
+
+    std::optional<std::filesystem::path> supportDirectory = "/support";
+    std::map<std::string, std::string> files;
+    std::vector<std::string> createdDirectories;
+    bool createsNoDirectories = false;
+    std::vector<std::string> writes; ///< the path of each write that was tried
+    std::optional<std::string> writeError; ///< makes every write fail
+    bool readsFail = false;
+};
+
+class FakePreferences final : public Preferences {
+public:
+    using Value = std::variant<bool, std::int64_t, double, std::string, Numbers>;
+
+    std::optional<bool> boolean(std::string_view key) override { return find<bool>(key); }
+    std::optional<std::int64_t> integer(std::string_view key) override { return find<std::int64_t>(key); }
+    std::optional<double> number(std::string_view key) override { return find<double>(key); }
+    std::optional<std::string> text(std::string_view key) override { return find<std::string>(key); }
+    Numbers numbers(std::string_view key) override { return find<Numbers>(key).value_or(Numbers {}); }
+    void setBoolean(std::string_view key, bool value) override { store(key, value); }
+    void setInteger(std::string_view key, std::int64_t value) override { store(key, value); }
+    void setNumber(std::string_view key, double value) override { store(key, value); }
+    void setText(std::string_view key, std::string_view value) override { store(key, std::string(value)); }
+    void setNumbers(std::string_view key, const Numbers& named) override { store(key, named); }
+    void remove(std::string_view key) override
+    {
+        if (const auto it = values.find(key); it != values.end())
+            values.erase(it);
+    }
+
+    std::map<std::string, Value, std::less<>> values;
+    std::vector<std::string> writes; ///< the key of each write
+
+private:
+    template<typename T>
+    std::optional<T> find(std::string_view key) const
+    {
+        const auto it = values.find(key);
+        if (it == values.end() || !std::holds_alternative<T>(it->second))
+            return std::nullopt;
+        return std::get<T>(it->second);
+    }
+    void store(std::string_view key, Value value)
+    {
+        writes.emplace_back(key);
+        values.insert_or_assign(std::string(key), std::move(value));
+    }
+};
+
+class FakeAccessibility final : public Accessibility {
+public:
+    bool reduceMotion() override { return motionReduced; }
+    bool reduceTransparency() override { return transparencyReduced; }
+    bool increaseContrast() override { return contrastIncreased; }
+
+    bool motionReduced = false;
+    bool transparencyReduced = false;
+    bool contrastIncreased = false;
+};
+
+class FakeAppearance final : public Appearance {
+public:
+    void choose(Choice choice) override { choices.push_back(choice); }
+    bool isDark() override { return !choices.empty() && choices.back() == Choice::Dark; }
+
+    std::vector<Choice> choices;
+};
+
+class FakeLog final : public Log {
+public:
+    void writeLine(std::string_view line) override { lines.emplace_back(line); }
+
+    std::vector<std::string> lines;
+};
+
+/// A whole surroundings for the core, under a test's control.
+struct FakePlatform {
+    FakeClock clock;
+    FakeUuidSource uuids;
+    FakeMainQueue mainQueue { clock };
+    FakeFileSystem fileSystem;
+    FakePreferences preferences;
+    FakeAccessibility accessibility;
+    FakeAppearance appearance;
+    FakeLog log;
+
+    Platform platform()
+    {
+        return { clock, uuids, mainQueue, fileSystem, preferences, accessibility, appearance, log };
+    }
+};
+
+} // namespace cuebright::test
