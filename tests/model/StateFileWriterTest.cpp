@@ -1,0 +1,162 @@
+#include "model/StateFile.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace cuebright {
+
+namespace {
+
+const auto kDate = parseIso8601("2026-11-16T01:21:19Z").value();
+const auto kDeckId = Uuid::parse("6B0F5C1E-3D0A-4E8B-9D55-2F7A1C9E4B21").value();
+const auto kCardId = Uuid::parse("0C8E6A52-9B1F-4C7D-8E2A-5D3B7F1A6C90").value();
+
+Deck deckWith(std::vector<Card> cards) { return {kDeckId, "Getting Started", std::move(cards), kDate, kDate}; }
+Card cardWith(std::string content) { return {kCardId, std::move(content), kDate, kDate}; }
+
+std::variant<std::string, EncodeError> encoded(const std::vector<Deck>& decks, double opacity = 1, double fontSize = 17)
+{
+    return encodeState(
+        {.decks = decks, .activeDeckId = kDeckId, .activeCardIndex = 1, .opacity = opacity, .fontSize = fontSize});
+}
+
+std::string text(const std::variant<std::string, EncodeError>& result)
+{
+    const auto error = std::get_if<EncodeError>(&result);
+    return error ? "error: " + error->description : std::get<std::string>(result);
+}
+
+/// The card's text as it stands in the file, quotes included.
+std::string writtenContent(const std::string& content)
+{
+    const auto json = text(encoded({deckWith({cardWith(content)})}));
+    const std::string before = "\"content\" : ";
+    const auto start = json.find(before) + before.size();
+    return json.substr(start, json.find(",\n          \"createdAt\"") - start);
+}
+
+} // namespace
+
+TEST(StateFileWriter, TheLayoutIsExact)
+{
+    const auto json = text(encoded(
+        {deckWith({cardWith("# Navigating your cards\n\n- Press the **← → arrow keys** to move between cards.")})}));
+    EXPECT_EQ(json, R"({
+  "activeCardIndex" : 1,
+  "activeDeckId" : "6B0F5C1E-3D0A-4E8B-9D55-2F7A1C9E4B21",
+  "decks" : [
+    {
+      "cards" : [
+        {
+          "content" : "# Navigating your cards\n\n- Press the **← → arrow keys** to move between cards.",
+          "createdAt" : "2026-11-16T01:21:19Z",
+          "id" : "0C8E6A52-9B1F-4C7D-8E2A-5D3B7F1A6C90",
+          "updatedAt" : "2026-11-16T01:21:19Z"
+        }
+      ],
+      "createdAt" : "2026-11-16T01:21:19Z",
+      "id" : "6B0F5C1E-3D0A-4E8B-9D55-2F7A1C9E4B21",
+      "name" : "Getting Started",
+      "updatedAt" : "2026-11-16T01:21:19Z"
+    }
+  ],
+  "fontSize" : 17,
+  "opacity" : 1
+})");
+}
+
+TEST(StateFileWriter, ElementsAreSeparatedByACommaAndALineBreak)
+{
+    const auto json = text(encoded({deckWith({cardWith("a"), cardWith("b")}), deckWith({cardWith("c")})}));
+    EXPECT_NE(json.find("        },\n        {\n          \"content\" : \"b\","), std::string::npos) << json;
+    EXPECT_NE(json.find("    },\n    {\n      \"cards\" : [\n"), std::string::npos) << json;
+}
+
+TEST(StateFileWriter, AnEmptyListIsABlankLineBetweenItsBrackets)
+{
+    EXPECT_EQ(text(encodeState(
+                  {.decks = {}, .activeDeckId = std::nullopt, .activeCardIndex = 0, .opacity = 1, .fontSize = 17})),
+        "{\n  \"activeCardIndex\" : 0,\n  \"decks\" : [\n\n  ],\n  \"fontSize\" : 17,\n  \"opacity\" : 1\n}");
+    EXPECT_NE(
+        text(encoded({deckWith({})})).find("      \"cards\" : [\n\n      ],\n      \"createdAt\""), std::string::npos);
+}
+
+TEST(StateFileWriter, OnlyWhatMustBeAndTheSlashIsEscaped)
+{
+    const struct {
+        std::string content;
+        std::string expected;
+    } kCases[] = {
+        {"", R"("")"},
+        {"say \"hi\"", R"("say \"hi\"")"},
+        {"a\\b", R"("a\\b")"},
+        {"https://a/b", R"("https:\/\/a\/b")"},
+        {"\b\f\n\r\t", R"("\b\f\n\r\t")"},
+        {std::string("\0\x01\x0b\x1f", 4), R"("\u0000\u0001\u000b\u001f")"},
+        {"\x7f", "\"\x7f\""},
+        {"é → — 😀 שלום", "\"é → — 😀 שלום\""},
+        {"\u00a0\u2028\ufeff", "\"\u00a0\u2028\ufeff\""},
+    };
+    for (const auto& c : kCases)
+        EXPECT_EQ(writtenContent(c.content), c.expected);
+}
+
+TEST(StateFileWriter, AnEscapeIsWrittenWhereverItFallsInALongText)
+{
+    for (std::size_t position = 0; position < 100; ++position) {
+        std::string content(100, 'x');
+        content[position] = '"';
+        EXPECT_EQ(writtenContent(content),
+            "\"" + std::string(position, 'x') + "\\\"" + std::string(99 - position, 'x') + "\"");
+    }
+}
+
+TEST(StateFileWriter, TextsLongerThanAnyBufferAreWrittenWhole)
+{
+    const std::string controls(100'000, '\x01');
+    EXPECT_EQ(writtenContent(controls).size(), controls.size() * 6 + 2);
+    const std::string letters(100'000, 'x');
+    EXPECT_EQ(writtenContent(letters), "\"" + letters + "\"");
+}
+
+TEST(StateFileWriter, NumbersTakeTheirShortestForm)
+{
+    const struct {
+        double value;
+        const char* expected;
+    } kCases[] = {
+        {17.0, "17"},
+        {1.0, "1"},
+        {0.85, "0.85"},
+        {0.1 + 0.2, "0.30000000000000004"},
+        {-0.5, "-0.5"},
+        {1e300, "1e+300"},
+    };
+    for (const auto& c : kCases)
+        EXPECT_TRUE(text(encoded({}, c.value)).ends_with("\"opacity\" : " + std::string(c.expected) + "\n}"))
+            << c.expected;
+}
+
+TEST(StateFileWriter, NumbersThatJsonCannotHoldAreAnError)
+{
+    using Limits = std::numeric_limits<double>;
+    for (const double value : {Limits::infinity(), -Limits::infinity(), Limits::quiet_NaN()}) {
+        EXPECT_TRUE(std::holds_alternative<EncodeError>(encoded({}, value)));
+        EXPECT_TRUE(std::holds_alternative<EncodeError>(encoded({}, 1, value)));
+    }
+}
+
+TEST(StateFileWriter, DatesOutsideFourDigitYearsAreAnError)
+{
+    for (const auto date : {Instant::max(), Instant::min()}) {
+        auto card = cardWith("a");
+        card.updatedAt = date;
+        EXPECT_TRUE(std::holds_alternative<EncodeError>(encoded({deckWith({card, cardWith("b")})})));
+        auto deck = deckWith({});
+        deck.createdAt = date;
+        EXPECT_TRUE(std::holds_alternative<EncodeError>(encoded({deck, deckWith({})})));
+    }
+}
+
+} // namespace cuebright
