@@ -1,0 +1,38 @@
+#include "store/CardStoreInternal.h"
+
+#include "platform/UuidSource.h"
+
+namespace cuebright {
+
+CardStore::CardStore(const Platform& platform)
+    : m_platform(platform)
+    , m_deckTransitionId(platform.uuids.makeUuid())
+{
+    openAppSupportDir();
+    readPreferences();
+    loadFromDisk();
+    applyThemeToApp();
+}
+
+CardStore::~CardStore() = default;
+
+void CardStore::setUndoManager(std::weak_ptr<UndoManager> undoManager) { m_undoManager = std::move(undoManager); }
+
+void CardStore::noticeOf(Property property) { willChange.notify(Change { property, m_animation }); }
+
+Deck* CardStore::mutableActiveDeck()
+{
+    if (m_activeDeckIndex < 0 || m_activeDeckIndex >= deckCount())
+        return nullptr;
+    return &m_decks[static_cast<std::size_t>(m_activeDeckIndex)];
+}
+
+Card* CardStore::mutableActiveCard()
+{
+    const auto deck = mutableActiveDeck();
+    if (!deck || m_activeCardIndex < 0 || m_activeCardIndex >= cardCount())
+        return nullptr;
+    return &deck->cards[static_cast<std::size_t>(m_activeCardIndex)];
+}
+
+} // namespace cuebright

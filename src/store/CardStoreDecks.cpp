@@ -1,0 +1,96 @@
+#include "store/CardStoreInternal.h"
+
+#include "foundation/Unicode.h"
+#include "platform/UuidSource.h"
+
+#include <algorithm>
+#include <cassert>
+
+namespace cuebright {
+
+void CardStore::createNewDeck(std::string_view name)
+{
+    keepEditWithoutCeremony();
+    std::string trimmed(trimBlanks(name));
+    if (trimmed.empty())
+        trimmed = "Untitled Deck";
+    const auto now = m_platform.clock.now();
+    Card card { m_platform.uuids.makeUuid(), "# " + trimmed + "\n\nStart writing here.", now, now };
+    Deck deck { m_platform.uuids.makeUuid(), std::move(trimmed), {}, now, now };
+    deck.cards.push_back(std::move(card));
+    performDeckInsertion(std::move(deck), deckCount(), "New Deck");
+}
+
+void CardStore::performDeckInsertion(Deck deck, std::int64_t index, const std::string& actionName)
+{
+    assert(index >= 0 && "a deck is inserted at a position, never before the first");
+    const auto position = std::min(index, deckCount());
+    noticeOf(Property::Decks);
+    m_decks.insert(m_decks.begin() + position, std::move(deck));
+    set(m_activeCardIndex, 0, Property::ActiveCardIndex);
+    set(m_activeDeckIndex, position, Property::ActiveDeckIndex);
+    scheduleSave();
+    registerUndo(actionName, [this, position, actionName] { performDeckRemoval(position, actionName); });
+}
+
+void CardStore::deleteActiveDeck()
+{
+    if (deckCount() < 2)
+        return;
+    if (m_isEditing)
+        set(m_isEditing, false, Property::IsEditing);
+    performDeckRemoval(m_activeDeckIndex, "Delete Deck");
+}
+
+void CardStore::performDeckRemoval(std::int64_t index, const std::string& actionName)
+{
+    if (index < 0 || index >= deckCount() || deckCount() < 2)
+        return;
+    noticeOf(Property::Decks);
+    const auto removed = m_decks.begin() + index;
+    auto deck = std::move(*removed);
+    m_decks.erase(removed);
+    set(m_activeCardIndex, 0, Property::ActiveCardIndex);
+    set(m_activeDeckIndex, std::min(deckCount() - 1, m_activeDeckIndex), Property::ActiveDeckIndex);
+    scheduleSave();
+    registerUndo(actionName, [this, deck = std::move(deck), index, actionName] {
+        performDeckInsertion(deck, index, actionName);
+    });
+}
+
+void CardStore::renameDeck(std::string_view name)
+{
+    const auto deck = activeDeck();
+    const auto trimmed = trimBlanks(name);
+    if (!deck || trimmed.empty())
+        return;
+    auto oldName = deck->name;
+    nameActiveDeck(std::string(trimmed));
+    showFeedback("Renamed");
+    // On purpose this names whichever deck is active when it runs, and offers no redo.
+    registerUndo("Rename Deck", [this, oldName = std::move(oldName)] {
+        if (activeDeck())
+            nameActiveDeck(oldName);
+    });
+}
+
+void CardStore::nameActiveDeck(std::string name)
+{
+    noticeOf(Property::Decks);
+    mutableActiveDeck()->name = std::move(name);
+    touchActiveDeck();
+    scheduleSave();
+}
+
+std::string CardStore::exportDeckAsMarkdown() const
+{
+    std::string text;
+    for (const auto& card : cards()) {
+        if (&card != &cards().front())
+            text += "\n\n---\n\n";
+        text += card.content;
+    }
+    return text;
+}
+
+} // namespace cuebright

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "platform/Accessibility.h"
+#include "store/CardStore.h"
+#include "store/UndoManager.h"
+
+#include <utility>
+
+/// What the store's sources share; nobody else includes this.
+namespace cuebright {
+
+/// While it lives, the store's changes carry an animation, unless the user wants less motion.
+class CardStore::AnimatedTransaction final {
+public:
+    AnimatedTransaction(CardStore& store, Animation animation)
+        : m_store(store)
+    {
+        if (!store.m_platform.accessibility.reduceMotion())
+            store.m_animation = animation;
+    }
+    AnimatedTransaction(const AnimatedTransaction&) = delete;
+    AnimatedTransaction& operator=(const AnimatedTransaction&) = delete;
+    ~AnimatedTransaction() { m_store.m_animation.reset(); }
+
+private:
+    CardStore& m_store;
+};
+
+template<typename Value>
+void CardStore::set(Value& member, std::type_identity_t<Value> value, Property property)
+{
+    noticeOf(property);
+    member = std::move(value);
+}
+
+/// Registers `work`, which runs only while the store lives.
+template<typename Work>
+void CardStore::registerUndo(const std::string& actionName, Work work)
+{
+    const auto undoManager = m_undoManager.lock();
+    if (!undoManager)
+        return;
+    undoManager->registerUndo(m_weakTarget.guard(std::move(work)));
+    undoManager->setActionName(actionName);
+}
+
+} // namespace cuebright

@@ -1,0 +1,127 @@
+#include "store/CardStoreInternal.h"
+
+#include "model/StateFile.h"
+#include "platform/FileSystem.h"
+#include "platform/Log.h"
+#include "platform/Preferences.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace cuebright {
+
+namespace {
+
+constexpr Seconds kSaveDelay { 0.25 };
+constexpr auto kSaveFailedMessage = "Not saved — check disk space";
+
+} // namespace
+
+void CardStore::openAppSupportDir()
+{
+    const auto directory = m_platform.fileSystem.applicationSupportDirectory();
+    if (!directory) {
+        m_platform.log.writeLine("[Cuebright] FATAL: the system names no folder for application data");
+        std::abort();
+    }
+    m_appSupportDir = *directory / "Cuebright";
+    m_platform.fileSystem.createDirectories(m_appSupportDir); // a failure shows when saving
+}
+
+std::filesystem::path CardStore::stateUrl() const { return m_appSupportDir / "state.json"; }
+
+void CardStore::loadFromDisk()
+{
+    auto& fileSystem = m_platform.fileSystem;
+    std::optional<AppState> state;
+    if (fileSystem.exists(stateUrl())) {
+        if (const auto json = fileSystem.readFile(stateUrl(), kDecodePadding))
+            state = decodeState(*json);
+    }
+    if (!state || state->decks.empty())
+        state = AppState::makeDefault(m_platform.clock.now(), m_platform.uuids);
+    applyState(std::move(*state));
+}
+
+void CardStore::applyState(AppState state)
+{
+    set(m_decks, std::move(state.decks), Property::Decks);
+    const auto isActive = [&](const Deck& deck) { return deck.id == state.activeDeckId; };
+    const auto active = std::find_if(m_decks.begin(), m_decks.end(), isActive);
+    set(m_activeDeckIndex, active == m_decks.end() ? 0 : active - m_decks.begin(), Property::ActiveDeckIndex);
+    const auto lastIndex = std::max<std::int64_t>(cardCount() - 1, 0);
+    set(m_activeCardIndex, std::min(state.activeCardIndex, lastIndex), Property::ActiveCardIndex);
+}
+
+void CardStore::scheduleSave()
+{
+    m_saveWorkItem.cancel();
+    m_saveWorkItem = m_platform.mainQueue.after(kSaveDelay, m_weakTarget.guard([this] { writeToDisk(); }));
+}
+
+void CardStore::flushToDisk()
+{
+    m_saveWorkItem.cancel();
+    writeToDisk();
+}
+
+void CardStore::writeToDisk()
+{
+    const auto deck = activeDeck();
+    const auto encoded = encodeState({ .decks = m_decks,
+        .activeDeckId = deck ? std::optional(deck->id) : std::nullopt,
+        .activeCardIndex = m_activeCardIndex,
+        .opacity = m_opacity,
+        .fontSize = m_fontSize });
+    if (const auto error = std::get_if<EncodeError>(&encoded)) {
+        reportSaveFailure(error->description);
+        return;
+    }
+    m_platform.fileSystem.createDirectories(m_appSupportDir); // somebody may have removed it meanwhile
+    const auto error = m_platform.fileSystem.writeFileAtomically(stateUrl(), std::get<std::string>(encoded));
+    if (error)
+        reportSaveFailure(error->description);
+    else
+        reportSaveSuccess();
+}
+
+void CardStore::reportSaveSuccess()
+{
+    if (m_consecutiveSaveFailures == 0)
+        return;
+    m_consecutiveSaveFailures = 0;
+    m_platform.mainQueue.post(m_weakTarget.guard([this] {
+        set(m_persistentError, std::nullopt, Property::PersistentError);
+        set(m_errorDismissed, false, Property::ErrorDismissed);
+        showFeedback("Saved");
+    }));
+}
+
+void CardStore::reportSaveFailure(const std::string& description)
+{
+    ++m_consecutiveSaveFailures;
+    m_platform.log.writeLine(
+        "[Cuebright] ERROR: Save failed (" + std::to_string(m_consecutiveSaveFailures) + "x): " + description);
+    m_platform.mainQueue.post(m_weakTarget.guard([this] {
+        set(m_persistentError, kSaveFailedMessage, Property::PersistentError);
+        set(m_errorDismissed, false, Property::ErrorDismissed);
+    }));
+}
+
+void CardStore::dismissError() { set(m_errorDismissed, true, Property::ErrorDismissed); }
+
+void CardStore::resetAllData()
+{
+    m_platform.fileSystem.removeFile(stateUrl());
+    for (const auto key : { preferenceKeys::kTheme, preferenceKeys::kFontSize, preferenceKeys::kOpacity,
+             preferenceKeys::kWindowFrame, preferenceKeys::kOnboardingDone })
+        m_platform.preferences.remove(key);
+    loadFromDisk();
+    setTheme("system");
+    resetFontSize();
+    setOpacity(1.0);
+    if (const auto undoManager = m_undoManager.lock())
+        undoManager->removeAllActions();
+}
+
+} // namespace cuebright

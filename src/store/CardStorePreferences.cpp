@@ -1,0 +1,106 @@
+#include "store/CardStoreInternal.h"
+
+#include "foundation/Unicode.h"
+#include "platform/Appearance.h"
+#include "platform/Preferences.h"
+
+#include <algorithm>
+
+namespace cuebright {
+
+namespace {
+
+constexpr double kDefaultFontSize = 17;
+constexpr double kMinFontSize = 14;
+constexpr double kMaxFontSize = 28;
+constexpr double kFontSizeStep = 1;
+constexpr double kDefaultOpacity = 1;
+constexpr double kMinOpacity = 0.4;
+constexpr double kMaxOpacity = 1;
+constexpr double kOpacityStep = 0.1;
+constexpr std::int64_t kDefaultPace = 130;
+constexpr std::int64_t kMinPace = 80;
+constexpr std::int64_t kMaxPace = 250;
+
+template<typename Number>
+Number positiveOr(std::optional<Number> stored, Number fallback)
+{
+    return stored && *stored > 0 ? *stored : fallback;
+}
+
+} // namespace
+
+/// Values are taken as stored, even out of range, so that a start writes nothing.
+void CardStore::readPreferences()
+{
+    auto& preferences = m_platform.preferences;
+    m_showWordCount = preferences.boolean(preferenceKeys::kWordCount).value_or(false);
+    m_speakingPace = positiveOr(preferences.integer(preferenceKeys::kSpeakingPace), kDefaultPace);
+    m_theme = preferences.text(preferenceKeys::kTheme).value_or("system");
+    m_fontSize = positiveOr(preferences.number(preferenceKeys::kFontSize), kDefaultFontSize);
+    m_opacity = positiveOr(preferences.number(preferenceKeys::kOpacity), kDefaultOpacity);
+}
+
+void CardStore::setTheme(std::string theme)
+{
+    set(m_theme, std::move(theme), Property::Theme);
+    m_platform.preferences.setText(preferenceKeys::kTheme, m_theme);
+    applyThemeToApp();
+}
+
+void CardStore::applyThemeToApp()
+{
+    using enum Appearance::Choice;
+    m_platform.appearance.choose(m_theme == "light" ? Light : m_theme == "dark" ? Dark : FollowSystem);
+}
+
+void CardStore::setFontSize(double points)
+{
+    set(m_fontSize, std::min(std::max(points, kMinFontSize), kMaxFontSize), Property::FontSize);
+    m_platform.preferences.setNumber(preferenceKeys::kFontSize, m_fontSize);
+}
+
+void CardStore::increaseFontSize() { setFontSize(m_fontSize + kFontSizeStep); }
+
+void CardStore::decreaseFontSize() { setFontSize(m_fontSize - kFontSizeStep); }
+
+void CardStore::resetFontSize() { setFontSize(kDefaultFontSize); }
+
+void CardStore::setOpacity(double opacity)
+{
+    set(m_opacity, std::min(std::max(opacity, kMinOpacity), kMaxOpacity), Property::Opacity);
+    m_platform.preferences.setNumber(preferenceKeys::kOpacity, m_opacity);
+}
+
+void CardStore::increaseOpacity() { setOpacity(m_opacity + kOpacityStep); }
+
+void CardStore::decreaseOpacity() { setOpacity(m_opacity - kOpacityStep); }
+
+void CardStore::setSpeakingPace(std::int64_t wordsPerMinute)
+{
+    set(m_speakingPace, std::clamp(wordsPerMinute, kMinPace, kMaxPace), Property::SpeakingPace);
+    m_platform.preferences.setInteger(preferenceKeys::kSpeakingPace, m_speakingPace);
+}
+
+void CardStore::toggleWordCount()
+{
+    set(m_showWordCount, !m_showWordCount, Property::ShowWordCount);
+    m_platform.preferences.setBoolean(preferenceKeys::kWordCount, m_showWordCount);
+}
+
+std::int64_t CardStore::wordCount() const
+{
+    if (m_isEditing)
+        return static_cast<std::int64_t>(countWords(m_editText));
+    const auto card = activeCard();
+    return card ? static_cast<std::int64_t>(countWords(card->content)) : 0;
+}
+
+std::string CardStore::readingTime() const
+{
+    const auto words = wordCount();
+    const auto roundedUp = words / m_speakingPace + (words % m_speakingPace != 0 ? 1 : 0);
+    return "~" + std::to_string(std::max<std::int64_t>(roundedUp, 1)) + " min";
+}
+
+} // namespace cuebright

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "store/CardStore.h"
+#include "store/UndoManager.h"
+#include "support/FakePlatform.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace cuebright::test {
+
+using namespace std::chrono_literals;
+
+/// All decks with their cards, then whatever is out of the ordinary: "Talk*[a|b*|c] Demo[d] editing 'x' feedback
+/// 'Saved'". Stars mark the active deck and card; "card -3" follows where no card is active.
+[[nodiscard]] std::string describe(const CardStore& store);
+
+/// What could be undone and redone: "undo 'Add Card' redo ''".
+[[nodiscard]] std::string describe(const UndoManager& undoManager);
+
+/// A store on fake surroundings, loaded from decks in the notation of `describe`.
+class CardStoreFixture : public testing::Test {
+protected:
+    static constexpr std::string_view kStateFile = "/support/Cuebright/state.json";
+    /// The date of everything that `open` makes.
+    static constexpr Instant kWritten = Instant(std::chrono::sys_days(std::chrono::year(2026) / 1 / 1));
+
+    /// Makes a new store and forgets what was recorded before. `storedCardIndex` goes into the state file instead of the
+    /// position of the star.
+    void open(std::string_view decks, std::optional<std::int64_t> storedCardIndex = std::nullopt);
+    void openWithStateFile(std::string content);
+    void openWithoutStateFile();
+    void close();
+
+    [[nodiscard]] static std::string stateFileOf(
+        std::string_view decks, std::optional<std::int64_t> storedCardIndex = std::nullopt);
+    [[nodiscard]] std::string stateFile() { return surroundings.fileSystem.files[std::string(kStateFile)]; }
+    [[nodiscard]] std::size_t saves() const { return surroundings.fileSystem.writes.size(); }
+    /// Each property about to change, its value at that moment, and the animation: "navigationDirection forward;
+    /// activeCardIndex 0 ease-in-out 0.18". Equal changes in a row count once. Empties the record.
+    [[nodiscard]] std::string takeNotices();
+    void advance(Seconds duration) { surroundings.mainQueue.advance(duration); }
+    [[nodiscard]] const Deck& deck(std::size_t index) const { return store->decks().at(index); }
+    [[nodiscard]] const Card& card(std::size_t index) const { return store->cards().at(index); }
+
+    FakePlatform surroundings;
+    std::shared_ptr<UndoManager> undoManager = std::make_shared<UndoManager>();
+    std::optional<CardStore> store;
+
+private:
+    void observe();
+    void record(const Change& change);
+
+    std::vector<std::string> m_notices;
+    std::optional<Change> m_lastChange;
+    Subscription m_subscription;
+};
+
+} // namespace cuebright::test
