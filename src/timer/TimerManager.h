@@ -1,0 +1,72 @@
+#pragma once
+
+#include "foundation/Signal.h"
+#include "foundation/WeakTarget.h"
+#include "platform/Clock.h"
+#include "platform/MainQueue.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace cuebright {
+
+/// The talk timer: a stopwatch, or a countdown that warns as time runs out. Not persisted.
+///
+/// Elapsed time is computed from the start point at each tick, so late ticks do not drift. An expired countdown stays
+/// `Running` without a tick, until the user acts.
+class TimerManager final {
+public:
+    enum class Mode { Stopwatch, Countdown };
+    enum class RunState { Stopped, Running, Paused };
+    enum class Urgency { Normal, Warning, Critical, Expired };
+
+    TimerManager(Clock& clock, MainQueue& mainQueue);
+    TimerManager(const TimerManager&) = delete;
+    TimerManager& operator=(const TimerManager&) = delete;
+    ~TimerManager();
+
+    [[nodiscard]] Mode mode() const { return m_mode; }
+    [[nodiscard]] RunState runState() const { return m_runState; }
+    [[nodiscard]] bool isRunning() const { return m_runState == RunState::Running; }
+    [[nodiscard]] Seconds elapsed() const { return m_elapsed; }
+    [[nodiscard]] Seconds countdownDuration() const { return m_countdownDuration; }
+    [[nodiscard]] Seconds remaining() const; ///< of the countdown, never negative
+    [[nodiscard]] Seconds displayTime() const; ///< what counts down or up, by mode
+    [[nodiscard]] std::string displayString() const; ///< "mm:ss", minutes without limit
+    [[nodiscard]] Urgency urgency() const; ///< `Normal` unless a countdown is running
+
+    /// Whether the countdown of so many minutes is the one chosen.
+    [[nodiscard]] bool isCountdownOf(std::int64_t minutes) const;
+
+    void start();
+    void pause();
+    void resume();
+    /// Starts, pauses or resumes, by the run state.
+    void toggle();
+    void reset();
+    void setCountdown(std::int64_t minutes);
+    void setStopwatch();
+
+    /// A value is about to change.
+    Signal<> willChange;
+
+private:
+    void scheduleTimer();
+    void stopTimer();
+    void tick();
+    void updateElapsed();
+
+    Clock& m_clock;
+    MainQueue& m_mainQueue;
+    Mode m_mode = Mode::Stopwatch;
+    RunState m_runState = RunState::Stopped;
+    Seconds m_elapsed { 0 };
+    Seconds m_countdownDuration { 1800 };
+    std::optional<PendingTask> m_timer;
+    std::optional<Seconds> m_startDate; ///< uptime when the current running stretch began
+    Seconds m_accumulated { 0 }; ///< counted in earlier stretches
+    WeakTarget m_weakTarget;
+};
+
+} // namespace cuebright
