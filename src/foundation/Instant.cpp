@@ -41,8 +41,8 @@ std::optional<Instant> parseIso8601(std::string_view text)
     const auto second = parseDigits(text.substr(17, 2));
     if (!year || !month || !day || !hour || !minute || !second || *hour > 23 || *minute > 59 || *second > 59)
         return std::nullopt;
-    const year_month_day date { std::chrono::year(*year), std::chrono::month(static_cast<unsigned>(*month)),
-        std::chrono::day(static_cast<unsigned>(*day)) };
+    const year_month_day date {std::chrono::year(*year), std::chrono::month(static_cast<unsigned>(*month)),
+        std::chrono::day(static_cast<unsigned>(*day))};
     if (!date.ok())
         return std::nullopt;
     return Instant(sys_days(date)) + std::chrono::hours(*hour) + std::chrono::minutes(*minute)

@@ -30,7 +30,7 @@ public:
 
 private:
     std::chrono::sys_days m_day {};
-    char m_dayText[10] = { '1', '9', '7', '0', '-', '0', '1', '-', '0', '1' };
+    char m_dayText[10] = {'1', '9', '7', '0', '-', '0', '1', '-', '0', '1'};
 };
 
 } // namespace cuebright

@@ -47,8 +47,7 @@ private:
 ///
 /// A listener may do anything during a notification: subscribe (it is called from the next notification on), end any
 /// subscription, notify again, destroy the signal (the remaining listeners are then not called). One thread only.
-template<typename... Args>
-class Signal final {
+template <typename... Args> class Signal final {
 public:
     using Listener = std::function<void(Args...)>;
 

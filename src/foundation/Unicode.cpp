@@ -20,21 +20,21 @@ utf8proc_category_t category(char32_t c)
 CodePoint firstCodePoint(std::string_view text)
 {
     if (text.empty())
-        return { kInvalidCodePoint, 0 };
+        return {kInvalidCodePoint, 0};
     if (isAscii(text.front()))
-        return { static_cast<char32_t>(text.front()), 1 };
+        return {static_cast<char32_t>(text.front()), 1};
     utf8proc_int32_t value = -1;
-    const auto length = utf8proc_iterate(reinterpret_cast<const utf8proc_uint8_t*>(text.data()),
-        static_cast<utf8proc_ssize_t>(text.size()), &value);
+    const auto length = utf8proc_iterate(
+        reinterpret_cast<const utf8proc_uint8_t*>(text.data()), static_cast<utf8proc_ssize_t>(text.size()), &value);
     if (length <= 0)
-        return { kInvalidCodePoint, 1 };
-    return { static_cast<char32_t>(value), static_cast<std::size_t>(length) };
+        return {kInvalidCodePoint, 1};
+    return {static_cast<char32_t>(value), static_cast<std::size_t>(length)};
 }
 
 CodePoint lastCodePoint(std::string_view text)
 {
     if (text.empty())
-        return { kInvalidCodePoint, 0 };
+        return {kInvalidCodePoint, 0};
     for (std::size_t length = 1; length <= 4 && length <= text.size(); ++length) {
         const auto start = text.size() - length;
         const bool isContinuation = (static_cast<unsigned char>(text[start]) & 0xc0) == 0x80;
@@ -45,7 +45,7 @@ CodePoint lastCodePoint(std::string_view text)
             return codePoint;
         break;
     }
-    return { kInvalidCodePoint, 1 };
+    return {kInvalidCodePoint, 1};
 }
 
 bool isBlank(char32_t c)

@@ -8,9 +8,9 @@ constexpr std::array<std::uint8_t, 256> kDigitValues = [] {
     std::array<std::uint8_t, 256> values {};
     values.fill(0xff);
     for (std::uint8_t i = 0; i < 10; ++i)
-        values[std::size_t { '0' } + i] = i;
+        values[std::size_t {'0'} + i] = i;
     for (std::uint8_t i = 0; i < 6; ++i)
-        values[std::size_t { 'a' } + i] = values[std::size_t { 'A' } + i] = static_cast<std::uint8_t>(10 + i);
+        values[std::size_t {'a'} + i] = values[std::size_t {'A'} + i] = static_cast<std::uint8_t>(10 + i);
     return values;
 }();
 

@@ -13,8 +13,7 @@ public:
     WeakTarget(const WeakTarget&) = delete;
     WeakTarget& operator=(const WeakTarget&) = delete;
 
-    template<typename Work>
-    [[nodiscard]] auto guard(Work work) const
+    template <typename Work> [[nodiscard]] auto guard(Work work) const
     {
         return [alive = std::weak_ptr<const char>(m_alive), work = std::move(work)] {
             if (!alive.expired())

@@ -59,7 +59,7 @@ Block blockOf(std::string_view line)
 std::vector<Block> parseMarkdown(std::string_view content)
 {
     std::vector<Block> blocks;
-    for (std::size_t start = 0; start <= content.size();) {
+    for (std::size_t start = 0; start < content.size();) {
         const auto end = std::min(content.find('\n', start), content.size());
         if (const auto line = trimBlanks(content.substr(start, end - start)); !line.empty())
             blocks.push_back(blockOf(line));

@@ -28,7 +28,8 @@ class UndoManager;
 /// may be out of range; there is no active deck or card then. All texts are UTF-8. Lives on the main thread.
 class CardStore final {
 public:
-    /// Reads the preferences and the state file, falling back to the sample decks without a word, and applies the theme.
+    /// Reads the preferences and the state file, falling back to the sample decks without a word, and applies the
+    /// theme.
     explicit CardStore(const Platform& platform);
     CardStore(const CardStore&) = delete;
     CardStore& operator=(const CardStore&) = delete;
@@ -134,8 +135,7 @@ private:
     class AnimatedTransaction;
     using Property = Change::Property;
 
-    template<typename Value>
-    void set(Value& member, std::type_identity_t<Value> value, Property property);
+    template <typename Value> void set(Value& member, std::type_identity_t<Value> value, Property property);
     void noticeOf(Property property);
 
     [[nodiscard]] Deck* mutableActiveDeck();
@@ -152,8 +152,7 @@ private:
     void nameActiveDeck(std::string name);
     void performDeckInsertion(Deck deck, std::int64_t index, const std::string& actionName);
     void performDeckRemoval(std::int64_t index, const std::string& actionName);
-    template<typename Work>
-    void registerUndo(const std::string& actionName, Work work);
+    template <typename Work> void registerUndo(const std::string& actionName, Work work);
 
     void openAppSupportDir();
     void readPreferences();

@@ -9,7 +9,7 @@ namespace cuebright {
 
 namespace {
 
-constexpr Seconds kFeedbackTime { 2.0 };
+constexpr Seconds kFeedbackTime {2.0};
 constexpr auto kNewCardContent = "# New Card\n\nStart writing here.";
 
 } // namespace
@@ -20,7 +20,7 @@ void CardStore::addCard()
         return;
     saveEdit();
     const auto now = m_platform.clock.now();
-    performCardInsertion({ m_platform.uuids.makeUuid(), kNewCardContent, now, now }, cardCount(), "Add Card");
+    performCardInsertion({m_platform.uuids.makeUuid(), kNewCardContent, now, now}, cardCount(), "Add Card");
     beginEditing();
     showFeedback("Card added");
 }
@@ -63,9 +63,8 @@ void CardStore::performCardRemoval(std::int64_t index, const std::string& action
     const auto lastIndex = std::max<std::int64_t>(cardCount() - 1, 0);
     set(m_activeCardIndex, std::min(m_activeCardIndex, lastIndex), Property::ActiveCardIndex);
     scheduleSave();
-    registerUndo(actionName, [this, card = std::move(card), index, actionName] {
-        performCardInsertion(card, index, actionName);
-    });
+    registerUndo(actionName,
+        [this, card = std::move(card), index, actionName] { performCardInsertion(card, index, actionName); });
 }
 
 void CardStore::moveCardUp() { moveActiveCard(-1); }
@@ -74,9 +73,11 @@ void CardStore::moveCardDown() { moveActiveCard(1); }
 
 void CardStore::moveActiveCard(std::int64_t distance)
 {
+    if (!activeCard() || m_isEditing)
+        return;
     const auto from = m_activeCardIndex;
     const auto to = from + distance;
-    if (!activeCard() || m_isEditing || to < 0 || to >= cardCount())
+    if (to < 0 || to >= cardCount())
         return;
     noticeOf(Property::Decks);
     auto& cards = mutableActiveDeck()->cards;
@@ -91,8 +92,8 @@ void CardStore::showFeedback(std::string message)
 {
     m_feedbackWorkItem.cancel();
     set(m_feedbackMessage, std::move(message), Property::FeedbackMessage);
-    m_feedbackWorkItem = m_platform.mainQueue.after(kFeedbackTime,
-        m_weakTarget.guard([this] { set(m_feedbackMessage, std::nullopt, Property::FeedbackMessage); }));
+    m_feedbackWorkItem = m_platform.mainQueue.after(
+        kFeedbackTime, m_weakTarget.guard([this] { set(m_feedbackMessage, std::nullopt, Property::FeedbackMessage); }));
 }
 
 } // namespace cuebright

@@ -15,8 +15,8 @@ void CardStore::createNewDeck(std::string_view name)
     if (trimmed.empty())
         trimmed = "Untitled Deck";
     const auto now = m_platform.clock.now();
-    Card card { m_platform.uuids.makeUuid(), "# " + trimmed + "\n\nStart writing here.", now, now };
-    Deck deck { m_platform.uuids.makeUuid(), std::move(trimmed), {}, now, now };
+    Card card {m_platform.uuids.makeUuid(), "# " + trimmed + "\n\nStart writing here.", now, now};
+    Deck deck {m_platform.uuids.makeUuid(), std::move(trimmed), {}, now, now};
     deck.cards.push_back(std::move(card));
     performDeckInsertion(std::move(deck), deckCount(), "New Deck");
 }
@@ -53,9 +53,8 @@ void CardStore::performDeckRemoval(std::int64_t index, const std::string& action
     set(m_activeCardIndex, 0, Property::ActiveCardIndex);
     set(m_activeDeckIndex, std::min(deckCount() - 1, m_activeDeckIndex), Property::ActiveDeckIndex);
     scheduleSave();
-    registerUndo(actionName, [this, deck = std::move(deck), index, actionName] {
-        performDeckInsertion(deck, index, actionName);
-    });
+    registerUndo(actionName,
+        [this, deck = std::move(deck), index, actionName] { performDeckInsertion(deck, index, actionName); });
 }
 
 void CardStore::renameDeck(std::string_view name)

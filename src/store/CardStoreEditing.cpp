@@ -6,7 +6,7 @@ namespace cuebright {
 
 namespace {
 
-constexpr Animation kEditorFade { Animation::Curve::EaseInOut, Seconds(0.14) };
+constexpr Animation kEditorFade {Animation::Curve::EaseInOut, Seconds(0.14)};
 
 } // namespace
 

@@ -26,16 +26,14 @@ private:
     CardStore& m_store;
 };
 
-template<typename Value>
-void CardStore::set(Value& member, std::type_identity_t<Value> value, Property property)
+template <typename Value> void CardStore::set(Value& member, std::type_identity_t<Value> value, Property property)
 {
     noticeOf(property);
     member = std::move(value);
 }
 
 /// Registers `work`, which runs only while the store lives.
-template<typename Work>
-void CardStore::registerUndo(const std::string& actionName, Work work)
+template <typename Work> void CardStore::registerUndo(const std::string& actionName, Work work)
 {
     const auto undoManager = m_undoManager.lock();
     if (!undoManager)

@@ -6,9 +6,9 @@ namespace cuebright {
 
 namespace {
 
-constexpr Animation kCardMove { Animation::Curve::EaseInOut, Seconds(0.18) };
-constexpr Animation kDeckSwitch { Animation::Curve::EaseInOut, Seconds(0.14) };
-constexpr Seconds kDeckSwitchFlagTime { 0.16 };
+constexpr Animation kCardMove {Animation::Curve::EaseInOut, Seconds(0.18)};
+constexpr Animation kDeckSwitch {Animation::Curve::EaseInOut, Seconds(0.14)};
+constexpr Seconds kDeckSwitchFlagTime {0.16};
 
 std::string twoDigits(std::int64_t number)
 {
@@ -92,8 +92,8 @@ void CardStore::switchToDeck(std::int64_t index)
         const AnimatedTransaction transaction(*this, kDeckSwitch);
         set(m_deckTransitionId, m_platform.uuids.makeUuid(), Property::DeckTransitionId);
     }
-    m_platform.mainQueue.after(kDeckSwitchFlagTime,
-        m_weakTarget.guard([this] { set(m_isDeckSwitch, false, Property::IsDeckSwitch); }));
+    m_platform.mainQueue.after(
+        kDeckSwitchFlagTime, m_weakTarget.guard([this] { set(m_isDeckSwitch, false, Property::IsDeckSwitch); }));
     scheduleSave();
 }
 

@@ -12,7 +12,7 @@ namespace cuebright {
 
 namespace {
 
-constexpr Seconds kSaveDelay { 0.25 };
+constexpr Seconds kSaveDelay {0.25};
 constexpr auto kSaveFailedMessage = "Not saved — check disk space";
 
 } // namespace
@@ -20,10 +20,8 @@ constexpr auto kSaveFailedMessage = "Not saved — check disk space";
 void CardStore::openAppSupportDir()
 {
     const auto directory = m_platform.fileSystem.applicationSupportDirectory();
-    if (!directory) {
-        m_platform.log.writeLine("[Cuebright] FATAL: the system names no folder for application data");
-        std::abort();
-    }
+    if (!directory)
+        std::abort(); // no supported system is without one: our own mistake
     m_appSupportDir = *directory / "Cuebright";
     m_platform.fileSystem.createDirectories(m_appSupportDir); // a failure shows when saving
 }
@@ -68,11 +66,11 @@ void CardStore::flushToDisk()
 void CardStore::writeToDisk()
 {
     const auto deck = activeDeck();
-    const auto encoded = encodeState({ .decks = m_decks,
+    const auto encoded = encodeState({.decks = m_decks,
         .activeDeckId = deck ? std::optional(deck->id) : std::nullopt,
         .activeCardIndex = m_activeCardIndex,
         .opacity = m_opacity,
-        .fontSize = m_fontSize });
+        .fontSize = m_fontSize});
     if (const auto error = std::get_if<EncodeError>(&encoded)) {
         reportSaveFailure(error->description);
         return;
@@ -113,8 +111,8 @@ void CardStore::dismissError() { set(m_errorDismissed, true, Property::ErrorDism
 void CardStore::resetAllData()
 {
     m_platform.fileSystem.removeFile(stateUrl());
-    for (const auto key : { preferenceKeys::kTheme, preferenceKeys::kFontSize, preferenceKeys::kOpacity,
-             preferenceKeys::kWindowFrame, preferenceKeys::kOnboardingDone })
+    for (const auto key : {preferenceKeys::kTheme, preferenceKeys::kFontSize, preferenceKeys::kOpacity,
+             preferenceKeys::kWindowFrame, preferenceKeys::kOnboardingDone})
         m_platform.preferences.remove(key);
     loadFromDisk();
     setTheme("system");

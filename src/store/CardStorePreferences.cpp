@@ -22,11 +22,13 @@ constexpr std::int64_t kDefaultPace = 130;
 constexpr std::int64_t kMinPace = 80;
 constexpr std::int64_t kMaxPace = 250;
 
-template<typename Number>
-Number positiveOr(std::optional<Number> stored, Number fallback)
+template <typename Number> Number positiveOr(std::optional<Number> stored, Number fallback)
 {
     return stored && *stored > 0 ? *stored : fallback;
 }
+
+/// What is no number becomes the least.
+double limited(double value, double least, double most) { return std::min(std::max(least, value), most); }
 
 } // namespace
 
@@ -56,7 +58,7 @@ void CardStore::applyThemeToApp()
 
 void CardStore::setFontSize(double points)
 {
-    set(m_fontSize, std::min(std::max(points, kMinFontSize), kMaxFontSize), Property::FontSize);
+    set(m_fontSize, limited(points, kMinFontSize, kMaxFontSize), Property::FontSize);
     m_platform.preferences.setNumber(preferenceKeys::kFontSize, m_fontSize);
 }
 
@@ -68,7 +70,7 @@ void CardStore::resetFontSize() { setFontSize(kDefaultFontSize); }
 
 void CardStore::setOpacity(double opacity)
 {
-    set(m_opacity, std::min(std::max(opacity, kMinOpacity), kMaxOpacity), Property::Opacity);
+    set(m_opacity, limited(opacity, kMinOpacity, kMaxOpacity), Property::Opacity);
     m_platform.preferences.setNumber(preferenceKeys::kOpacity, m_opacity);
 }
 

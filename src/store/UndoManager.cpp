@@ -4,14 +4,20 @@
 
 namespace cuebright {
 
-std::string UndoManager::undoActionName() const { return m_undoStack.empty() ? std::string() : m_undoStack.back().name; }
+std::string UndoManager::undoActionName() const
+{
+    return m_undoStack.empty() ? std::string() : m_undoStack.back().name;
+}
 
-std::string UndoManager::redoActionName() const { return m_redoStack.empty() ? std::string() : m_redoStack.back().name; }
+std::string UndoManager::redoActionName() const
+{
+    return m_redoStack.empty() ? std::string() : m_redoStack.back().name;
+}
 
 void UndoManager::registerUndo(Action action)
 {
     auto& stack = m_activity == Activity::Undoing ? m_redoStack : m_undoStack;
-    stack.push_back({ std::move(action), m_performedName });
+    stack.push_back({std::move(action), m_performedName});
     if (m_activity == Activity::Idle)
         m_redoStack.clear();
     changed.notify();

@@ -6,8 +6,8 @@ namespace cuebright {
 
 namespace {
 
-constexpr DynamicColor kHighContrastMuted { { 0.3, 0.27, 0.24 }, { 0.75, 0.72, 0.69 } };
-constexpr DynamicColor kHighContrastSeparator { { 0.55, 0.52, 0.49 }, { 0.45, 0.42, 0.39 } };
+constexpr DynamicColor kHighContrastMuted {{0.3, 0.27, 0.24}, {0.75, 0.72, 0.69}};
+constexpr DynamicColor kHighContrastSeparator {{0.55, 0.52, 0.49}, {0.45, 0.42, 0.39}};
 
 } // namespace
 

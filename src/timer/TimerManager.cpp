@@ -7,9 +7,9 @@ namespace cuebright {
 
 namespace {
 
-constexpr Seconds kTickInterval { 1.0 };
-constexpr Seconds kCriticalTime { 60 };
-constexpr Seconds kWarningTime { 300 };
+constexpr Seconds kTickInterval {1.0};
+constexpr Seconds kCriticalTime {60};
+constexpr Seconds kWarningTime {300};
 
 std::string twoDigits(std::int64_t number)
 {
@@ -122,6 +122,7 @@ void TimerManager::setStopwatch()
 
 void TimerManager::scheduleTimer()
 {
+    stopTimer();
     m_timer = m_mainQueue.every(kTickInterval, m_weakTarget.guard([this] { tick(); }));
 }
 

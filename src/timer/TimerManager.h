@@ -61,11 +61,11 @@ private:
     MainQueue& m_mainQueue;
     Mode m_mode = Mode::Stopwatch;
     RunState m_runState = RunState::Stopped;
-    Seconds m_elapsed { 0 };
-    Seconds m_countdownDuration { 1800 };
+    Seconds m_elapsed {0};
+    Seconds m_countdownDuration {1800};
     std::optional<PendingTask> m_timer;
     std::optional<Seconds> m_startDate; ///< uptime when the current running stretch began
-    Seconds m_accumulated { 0 }; ///< counted in earlier stretches
+    Seconds m_accumulated {0}; ///< counted in earlier stretches
     WeakTarget m_weakTarget;
 };
 

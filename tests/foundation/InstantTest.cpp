@@ -81,6 +81,7 @@ TEST(Instant, DatesOutsideFourDigitYearsHaveNoText)
 {
     EXPECT_FALSE(iso8601(day(0, 1, 1) - 1us));
     EXPECT_FALSE(iso8601(day(10000, 1, 1)));
+    EXPECT_FALSE(iso8601(Instant(std::chrono::days(23'950'000)))) << "a year that 16 bits would wrap to 2007";
     EXPECT_FALSE(iso8601(Instant::min()));
     EXPECT_FALSE(iso8601(Instant::max()));
 }

@@ -118,7 +118,7 @@ TEST(CardParser, ANumberThatDoesNotFitIsOne)
     expectBlocks({
         {"9223372036854775808. x", {item(1, "x")}}, {"99999999999999999999. big", {item(1, "big")}},
         {"\xd9\xa3. x", {item(1, "x")}}, // arabic-indic three
-        {"1\xef\xbc\x92. x", {item(1, "x")}}, // a fullwidth two behind the one
+        {"3\xef\xbc\x92. x", {item(1, "x")}}, // a fullwidth two behind the three
     });
 }
 

@@ -14,7 +14,7 @@ std::string object(const Members& members)
 {
     std::string json;
     for (const auto& [name, value] : members)
-        json += (json.empty() ? "" : ",") + ("\"" + name + "\":") + value;
+        json.append(json.empty() ? "\"" : ",\"").append(name).append("\":").append(value);
     return "{" + json + "}";
 }
 

@@ -112,6 +112,21 @@ TEST(StateFileWriter, AnEscapeIsWrittenWhereverItFallsInALongText)
     }
 }
 
+TEST(StateFileWriter, ACharacterIsWrittenTheSameAloneAndInALongText)
+{
+    for (char c = 0; c < 0x7f; ++c) {
+        auto alone = writtenContent(std::string(1, c));
+        alone = alone.substr(1, alone.size() - 2);
+        std::string expected;
+        for (int i = 0; i < 20; ++i)
+            expected.append("xy").append(alone);
+        std::string content;
+        for (int i = 0; i < 20; ++i)
+            content.append("xy").append(1, c);
+        EXPECT_EQ(writtenContent(content), '"' + expected + '"') << int {c};
+    }
+}
+
 TEST(StateFileWriter, TextsLongerThanAnyBufferAreWrittenWhole)
 {
     const std::string controls(100'000, '\x01');

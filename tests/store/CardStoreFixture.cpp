@@ -10,107 +10,105 @@ namespace cuebright::test {
 
 namespace {
 
-    std::string quoted(const std::optional<std::string>& text) { return text ? "'" + *text + "'" : "none"; }
+std::string inQuotes(const std::optional<std::string>& text) { return text ? "'" + *text + "'" : "none"; }
 
-    bool takeStar(std::string& text)
-    {
-        const bool hasStar = text.ends_with('*');
-        if (hasStar)
-            text.pop_back();
-        return hasStar;
-    }
+bool takeStar(std::string& text)
+{
+    const bool hasStar = text.ends_with('*');
+    if (hasStar)
+        text.pop_back();
+    return hasStar;
+}
 
-    struct State {
-        std::vector<Deck> decks;
-        std::optional<Uuid> activeDeckId;
-        std::int64_t activeCardIndex = 0;
-    };
+struct Description {
+    std::vector<Deck> decks;
+    std::optional<Uuid> activeDeckId;
+    std::int64_t activeCardIndex = 0;
+    std::optional<std::string> editText;
+};
 
-    /// Gives the n-th deck the number n00 and its cards n01, n02, …, counted from 1.
-    State parse(std::string_view text, Instant date)
-    {
-        State state;
-        while (!text.empty()) {
-            const auto open = text.find('[');
-            const auto close = text.find(']');
-            std::string name(text.substr(0, open));
-            std::string cards(text.substr(open + 1, close - open - 1));
-            text.remove_prefix(std::min(text.size(), close + 2));
+Description parse(std::string_view text, Instant date)
+{
+    Description result;
+    for (auto open = text.find('['); open != std::string_view::npos; open = text.find('[')) {
+        const auto close = text.find(']');
+        std::string name(text.substr(0, open));
+        std::istringstream cards(std::string(text.substr(open + 1, close - open - 1)) + (close > open + 1 ? "|" : ""));
+        text.remove_prefix(std::min(text.size(), close + 2));
 
-            const int number = static_cast<int>(state.decks.size() + 1) * 100;
-            const bool isActive = takeStar(name);
-            Deck deck { FakeUuidSource::nth(number), name, {}, date, date };
-            std::istringstream pieces(cards + "|");
-            for (std::string content; !cards.empty() && std::getline(pieces, content, '|');) {
-                if (takeStar(content) && isActive)
-                    state.activeCardIndex = static_cast<std::int64_t>(deck.cards.size());
-                const int cardNumber = number + 1 + static_cast<int>(deck.cards.size());
-                deck.cards.push_back({ FakeUuidSource::nth(cardNumber), content, date, date });
-            }
-            if (isActive)
-                state.activeDeckId = deck.id;
-            state.decks.push_back(std::move(deck));
+        const int number = static_cast<int>(result.decks.size() + 1) * 100;
+        const bool isActive = takeStar(name);
+        Deck deck {FakeUuidSource::nth(number), name, {}, date, date};
+        for (std::string content; std::getline(cards, content, '|');) {
+            if (takeStar(content) && isActive)
+                result.activeCardIndex = std::ssize(deck.cards);
+            const auto id = FakeUuidSource::nth(number + 1 + static_cast<int>(deck.cards.size()));
+            deck.cards.push_back({id, content, date, date});
         }
-        return state;
+        if (isActive)
+            result.activeDeckId = deck.id;
+        result.decks.push_back(std::move(deck));
     }
+    const std::string rest(text);
+    if (const auto card = rest.find("card "); card != std::string::npos)
+        result.activeCardIndex = std::stoll(rest.substr(card + 5));
+    if (const auto edit = rest.find("editing '"); edit != std::string::npos)
+        result.editText = rest.substr(edit + 9, rest.find('\'', edit + 9) - edit - 9);
+    return result;
+}
 
-    std::string nameAndValue(Change::Property property, const CardStore& store)
-    {
+std::string withoutAnimations(std::string notices)
+{
+    for (auto start = notices.find(" ease-"); start != std::string::npos; start = notices.find(" ease-"))
+        notices.erase(start, notices.find(';', start) - start);
+    return notices;
+}
+
+std::string valueOf(Change::Property property, const CardStore& store)
+{
+    using enum Change::Property;
+    const auto text = [](std::string name, const auto& value) {
         std::ostringstream out;
-        out << std::boolalpha;
-        switch (property) {
-        case Change::Property::Decks:
-            out << "decks";
-            break;
-        case Change::Property::ActiveDeckIndex:
-            out << "activeDeckIndex " << store.activeDeckIndex();
-            break;
-        case Change::Property::ActiveCardIndex:
-            out << "activeCardIndex " << store.activeCardIndex();
-            break;
-        case Change::Property::IsEditing:
-            out << "isEditing " << store.isEditing();
-            break;
-        case Change::Property::EditText:
-            out << "editText '" << store.editText() << "'";
-            break;
-        case Change::Property::NavigationDirection:
-            out << "navigationDirection "
-                << (store.navigationDirection() == NavigationDirection::Forward ? "forward" : "backward");
-            break;
-        case Change::Property::DeckTransitionId:
-            out << "deckTransitionId";
-            break;
-        case Change::Property::ShowWordCount:
-            out << "showWordCount " << store.showWordCount();
-            break;
-        case Change::Property::SpeakingPace:
-            out << "speakingPace " << store.speakingPace();
-            break;
-        case Change::Property::IsDeckSwitch:
-            out << "isDeckSwitch " << store.isDeckSwitch();
-            break;
-        case Change::Property::FeedbackMessage:
-            out << "feedbackMessage " << quoted(store.feedbackMessage());
-            break;
-        case Change::Property::PersistentError:
-            out << "persistentError " << quoted(store.persistentError());
-            break;
-        case Change::Property::ErrorDismissed:
-            out << "errorDismissed " << store.errorDismissed();
-            break;
-        case Change::Property::Theme:
-            out << "theme '" << store.theme() << "'";
-            break;
-        case Change::Property::FontSize:
-            out << "fontSize " << store.fontSize();
-            break;
-        case Change::Property::Opacity:
-            out << "opacity " << store.opacity();
-            break;
-        }
+        out << std::boolalpha << name << " " << value;
         return out.str();
+    };
+    switch (property) {
+    case Decks:
+        return "decks";
+    case ActiveDeckIndex:
+        return text("activeDeckIndex", store.activeDeckIndex());
+    case ActiveCardIndex:
+        return text("activeCardIndex", store.activeCardIndex());
+    case IsEditing:
+        return text("isEditing", store.isEditing());
+    case EditText:
+        return text("editText", inQuotes(store.editText()));
+    case NavigationDirection:
+        return store.navigationDirection() == cuebright::NavigationDirection::Forward ? "navigationDirection forward"
+                                                                                      : "navigationDirection backward";
+    case DeckTransitionId:
+        return "deckTransitionId";
+    case ShowWordCount:
+        return text("showWordCount", store.showWordCount());
+    case SpeakingPace:
+        return text("speakingPace", store.speakingPace());
+    case IsDeckSwitch:
+        return text("isDeckSwitch", store.isDeckSwitch());
+    case FeedbackMessage:
+        return text("feedbackMessage", inQuotes(store.feedbackMessage()));
+    case PersistentError:
+        return text("persistentError", inQuotes(store.persistentError()));
+    case ErrorDismissed:
+        return text("errorDismissed", store.errorDismissed());
+    case Theme:
+        return text("theme", inQuotes(store.theme()));
+    case FontSize:
+        return text("fontSize", store.fontSize());
+    case Opacity:
+        return text("opacity", store.opacity());
     }
+    return "unknown property";
+}
 
 } // namespace
 
@@ -118,25 +116,22 @@ std::string describe(const CardStore& store)
 {
     std::string text;
     for (const auto& deck : store.decks()) {
-        const bool isActive = &deck == store.activeDeck();
-        text += (text.empty() ? "" : " ") + deck.name + (isActive ? "*[" : "[");
-        for (std::size_t i = 0; i < deck.cards.size(); ++i) {
-            const bool isActiveCard = &deck.cards[i] == store.activeCard();
-            text += (i == 0 ? "" : "|") + deck.cards[i].content + (isActiveCard ? "*" : "");
+        text += (text.empty() ? "" : " ") + deck.name + (&deck == store.activeDeck() ? "*[" : "[");
+        for (const auto& card : deck.cards) {
+            text += (&card == &deck.cards.front() ? "" : "|") + card.content;
+            text += &card == store.activeCard() ? "*" : "";
         }
         text += "]";
     }
     if (!store.activeCard())
         text += " card " + std::to_string(store.activeCardIndex());
     if (store.isEditing())
-        text += " editing '" + store.editText() + "'";
+        text += " editing " + inQuotes(store.editText());
     if (store.feedbackMessage())
-        text += " feedback " + quoted(store.feedbackMessage());
+        text += " feedback " + inQuotes(store.feedbackMessage());
     if (store.persistentError())
-        text += " error " + quoted(store.persistentError());
-    if (store.errorDismissed())
-        text += " dismissed";
-    return text;
+        text += " error " + inQuotes(store.persistentError());
+    return text + (store.errorDismissed() ? " dismissed" : "");
 }
 
 std::string describe(const UndoManager& undoManager)
@@ -144,23 +139,31 @@ std::string describe(const UndoManager& undoManager)
     return "undo '" + undoManager.undoActionName() + "' redo '" + undoManager.redoActionName() + "'";
 }
 
-void CardStoreFixture::open(std::string_view decks, std::optional<std::int64_t> storedCardIndex)
+void CardStoreFixture::open(std::string_view description)
 {
-    openWithStateFile(stateFileOf(decks, storedCardIndex));
+    openWithStateFile(stateFileOf(description));
+    if (const auto editText = parse(description, kWritten).editText) {
+        if (store->activeCardIndex() == -1)
+            store->nextCard();
+        store->beginEditing();
+        store->setEditText(*editText);
+        store->loadFromDisk(); // an edit stays open even where its card goes
+    }
+    (void)takeNotices();
 }
 
 void CardStoreFixture::openWithStateFile(std::string content)
 {
     close();
     surroundings.fileSystem.files[std::string(kStateFile)] = std::move(content);
-    observe();
+    makeStore();
 }
 
 void CardStoreFixture::openWithoutStateFile()
 {
     close();
     surroundings.fileSystem.files.clear();
-    observe();
+    makeStore();
 }
 
 void CardStoreFixture::close()
@@ -170,11 +173,29 @@ void CardStoreFixture::close()
     undoManager->removeAllActions();
 }
 
-std::string CardStoreFixture::stateFileOf(std::string_view decks, std::optional<std::int64_t> storedCardIndex)
+void CardStoreFixture::makeStore()
 {
-    const auto state = parse(decks, kWritten);
-    const auto cardIndex = storedCardIndex.value_or(state.activeCardIndex);
-    return std::get<std::string>(encodeState({ state.decks, state.activeDeckId, cardIndex, 1.0, 17.0 }));
+    surroundings.fileSystem.writes.clear();
+    surroundings.preferences.writes.clear();
+    surroundings.appearance.choices.clear();
+    surroundings.log.lines.clear();
+    store.emplace(surroundings.platform());
+    store->setUndoManager(undoManager);
+    (void)takeNotices();
+    m_subscription = store->willChange.subscribe([this](const Change& change) { record(change); });
+}
+
+void CardStoreFixture::loadFromDisk(std::string_view description)
+{
+    surroundings.fileSystem.files[std::string(kStateFile)] = stateFileOf(description);
+    store->loadFromDisk();
+    (void)takeNotices();
+}
+
+std::string CardStoreFixture::stateFileOf(std::string_view description)
+{
+    const auto state = parse(description, kWritten);
+    return std::get<std::string>(encodeState({state.decks, state.activeDeckId, state.activeCardIndex, 1.0, 17.0}));
 }
 
 std::string CardStoreFixture::takeNotices()
@@ -186,29 +207,74 @@ std::string CardStoreFixture::takeNotices()
     return text;
 }
 
-void CardStoreFixture::observe()
-{
-    surroundings.fileSystem.writes.clear();
-    surroundings.preferences.writes.clear();
-    surroundings.appearance.choices.clear();
-    surroundings.log.lines.clear();
-    m_notices.clear();
-    m_lastChange.reset();
-    store.emplace(surroundings.platform());
-    store->setUndoManager(undoManager);
-    m_subscription = store->willChange.subscribe([this](const Change& change) { record(change); });
-}
-
 void CardStoreFixture::record(const Change& change)
 {
     if (std::exchange(m_lastChange, change) == change)
         return;
     std::ostringstream notice;
-    notice << nameAndValue(change.property, *store);
+    notice << valueOf(change.property, *store);
     if (change.animation)
         notice << (change.animation->curve == Animation::Curve::EaseInOut ? " ease-in-out " : " ease-out ")
                << change.animation->duration.count();
     m_notices.push_back(notice.str());
+}
+
+void CardStoreFixture::expectEffects(const std::vector<Effect>& effects)
+{
+    for (const bool motionReduced : {false, true}) {
+        surroundings.accessibility.motionReduced = motionReduced;
+        for (const auto& effect : effects) {
+            SCOPED_TRACE(effect.before + " -> " + effect.after + (motionReduced ? ", motion reduced" : ""));
+            open(effect.before);
+            effect.operation(*store);
+            EXPECT_EQ(describe(*store), effect.after);
+            EXPECT_EQ(takeNotices(), motionReduced ? withoutAnimations(effect.notices) : effect.notices);
+            EXPECT_EQ(describe(*undoManager), "undo '" + effect.undoName + "' redo ''");
+            advance(1s);
+            EXPECT_EQ(saves(), effect.saves);
+        }
+    }
+    surroundings.accessibility.motionReduced = false;
+}
+
+void CardStoreFixture::expectNothing(const std::vector<Nothing>& cases)
+{
+    for (const auto& [before, operation] : cases) {
+        SCOPED_TRACE(before);
+        open(before);
+        const auto transition = store->deckTransitionId();
+        operation(*store);
+        advance(1s);
+        EXPECT_EQ(describe(*store), before);
+        EXPECT_EQ(takeNotices(), "");
+        EXPECT_EQ(store->deckTransitionId(), transition);
+        EXPECT_EQ(describe(*undoManager), "undo '' redo ''");
+        EXPECT_EQ(saves(), 0U);
+        store->flushToDisk();
+        EXPECT_EQ(stateFile(), stateFileOf(before)); // dates included
+    }
+}
+
+void CardStoreFixture::expectAlternations(const std::vector<Alternation>& cases)
+{
+    for (const auto& [name, before, operation, after, undone] : cases) {
+        SCOPED_TRACE(name + ": " + before);
+        open(before);
+        operation(*store);
+        advance(3s);
+        for (std::size_t round = 1; round <= 3; ++round) {
+            EXPECT_EQ(describe(*store), after);
+            EXPECT_EQ(describe(*undoManager), "undo '" + name + "' redo ''");
+            undoManager->undo();
+            EXPECT_EQ(describe(*store), undone);
+            EXPECT_EQ(describe(*undoManager), "undo '' redo '" + name + "'");
+            advance(1s);
+            EXPECT_EQ(saves(), 2 * round);
+            undoManager->redo();
+            advance(1s);
+            EXPECT_EQ(saves(), 2 * round + 1);
+        }
+    }
 }
 
 } // namespace cuebright::test

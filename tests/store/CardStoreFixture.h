@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -16,6 +17,8 @@
 namespace cuebright::test {
 
 using namespace std::chrono_literals;
+
+using StoreOperation = std::function<void(CardStore&)>;
 
 /// All decks with their cards, then whatever is out of the ordinary: "Talk*[a|b*|c] Demo[d] editing 'x' feedback
 /// 'Saved'". Stars mark the active deck and card; "card -3" follows where no card is active.
@@ -28,18 +31,17 @@ using namespace std::chrono_literals;
 class CardStoreFixture : public testing::Test {
 protected:
     static constexpr std::string_view kStateFile = "/support/Cuebright/state.json";
-    /// The date of everything that `open` makes.
+    /// The date of everything that `open` makes. Deck n has the identifier n00, its cards n01, n02, …
     static constexpr Instant kWritten = Instant(std::chrono::sys_days(std::chrono::year(2026) / 1 / 1));
 
-    /// Makes a new store and forgets what was recorded before. `storedCardIndex` goes into the state file instead of the
-    /// position of the star.
-    void open(std::string_view decks, std::optional<std::int64_t> storedCardIndex = std::nullopt);
+    /// Makes a new store and forgets what was recorded before.
+    void open(std::string_view description);
     void openWithStateFile(std::string content);
     void openWithoutStateFile();
     void close();
+    void loadFromDisk(std::string_view description);
 
-    [[nodiscard]] static std::string stateFileOf(
-        std::string_view decks, std::optional<std::int64_t> storedCardIndex = std::nullopt);
+    [[nodiscard]] static std::string stateFileOf(std::string_view description);
     [[nodiscard]] std::string stateFile() { return surroundings.fileSystem.files[std::string(kStateFile)]; }
     [[nodiscard]] std::size_t saves() const { return surroundings.fileSystem.writes.size(); }
     /// Each property about to change, its value at that moment, and the animation: "navigationDirection forward;
@@ -49,12 +51,40 @@ protected:
     [[nodiscard]] const Deck& deck(std::size_t index) const { return store->decks().at(index); }
     [[nodiscard]] const Card& card(std::size_t index) const { return store->cards().at(index); }
 
+    struct Effect {
+        std::string before;
+        StoreOperation operation;
+        std::string after;
+        std::string notices;
+        std::size_t saves;
+        std::string undoName = {};
+    };
+    /// Checks what each operation does, also where the user wants less motion.
+    void expectEffects(const std::vector<Effect>& effects);
+
+    struct Nothing {
+        std::string before;
+        StoreOperation operation;
+    };
+    /// Checks that the operations change nothing, tell nobody, and leave nothing to undo or save.
+    void expectNothing(const std::vector<Nothing>& cases);
+
+    struct Alternation {
+        std::string name;
+        std::string before;
+        StoreOperation operation;
+        std::string after;
+        std::string undone;
+    };
+    /// Checks that each operation can be undone and redone again and again, with a save each time.
+    void expectAlternations(const std::vector<Alternation>& cases);
+
     FakePlatform surroundings;
     std::shared_ptr<UndoManager> undoManager = std::make_shared<UndoManager>();
     std::optional<CardStore> store;
 
 private:
-    void observe();
+    void makeStore();
     void record(const Change& change);
 
     std::vector<std::string> m_notices;

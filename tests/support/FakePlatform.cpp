@@ -19,7 +19,7 @@ PendingTask FakeMainQueue::every(Seconds interval, std::function<void()> work)
 PendingTask FakeMainQueue::schedule(Seconds delay, std::optional<Seconds> interval, std::function<void()> work)
 {
     const int order = m_nextOrder++;
-    m_timed.emplace(order, Timed { m_clock.up + delay, order, interval, std::move(work) });
+    m_timed.emplace(order, Timed {m_clock.up + delay, order, interval, std::move(work)});
     return PendingTask([this, order, alive = std::weak_ptr<const char>(m_alive)] {
         if (!alive.expired())
             m_timed.erase(order);
@@ -36,7 +36,7 @@ void FakeMainQueue::runPosted()
 
 void FakeMainQueue::advance(Seconds duration)
 {
-    constexpr Seconds kRounding { 1e-9 };
+    constexpr Seconds kRounding {1e-9};
     const auto moveTo = [this](Seconds time) {
         m_clock.wallClock += std::chrono::round<std::chrono::microseconds>(time - m_clock.up);
         m_clock.up = time;
@@ -80,11 +80,12 @@ std::optional<std::string> FakeFileSystem::readFile(const std::filesystem::path&
     return content;
 }
 
-std::optional<FileError> FakeFileSystem::writeFileAtomically(const std::filesystem::path& path, std::string_view content)
+std::optional<FileError> FakeFileSystem::writeFileAtomically(
+    const std::filesystem::path& path, std::string_view content)
 {
     writes.push_back(path.string());
     if (writeError)
-        return FileError { *writeError };
+        return FileError {*writeError};
     files[path.string()] = content;
     return std::nullopt;
 }

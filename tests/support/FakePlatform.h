@@ -31,7 +31,7 @@ public:
     Seconds uptime() override { return up; }
 
     Instant wallClock = Instant(std::chrono::sys_days(std::chrono::year(2026) / 11 / 16)) + std::chrono::hours(9);
-    Seconds up { 1000 };
+    Seconds up {1000};
     int reads = 0;
     std::chrono::microseconds stepPerRead {}; ///< tells one reading of the date from the next
 };
@@ -127,8 +127,7 @@ public:
     std::vector<std::string> writes; ///< the key of each write
 
 private:
-    template<typename T>
-    std::optional<T> find(std::string_view key) const
+    template <typename T> std::optional<T> find(std::string_view key) const
     {
         const auto it = values.find(key);
         if (it == values.end() || !std::holds_alternative<T>(it->second))
@@ -172,17 +171,14 @@ public:
 struct FakePlatform {
     FakeClock clock;
     FakeUuidSource uuids;
-    FakeMainQueue mainQueue { clock };
+    FakeMainQueue mainQueue {clock};
     FakeFileSystem fileSystem;
     FakePreferences preferences;
     FakeAccessibility accessibility;
     FakeAppearance appearance;
     FakeLog log;
 
-    Platform platform()
-    {
-        return { clock, uuids, mainQueue, fileSystem, preferences, accessibility, appearance, log };
-    }
+    Platform platform() { return {clock, uuids, mainQueue, fileSystem, preferences, accessibility, appearance, log}; }
 };
 
 } // namespace cuebright::test
