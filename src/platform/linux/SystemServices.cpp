@@ -1,0 +1,34 @@
+#include "platform/qt/SystemServices.h"
+
+#include "platform/linux/FileDescriptor.h"
+#include "platform/linux/SystemClock.h"
+#include "platform/none/NoAccessibility.h"
+
+#include <cerrno>
+#include <system_error>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace cuebright {
+
+std::unique_ptr<Clock> makeClock() { return std::make_unique<SystemClock>(); }
+
+std::unique_ptr<Accessibility> makeAccessibility() { return std::make_unique<NoAccessibility>(); }
+
+std::optional<FileError> syncFile(int fileDescriptor)
+{
+    // Some file systems cannot sync and say so with EINVAL or ENOSYS: that is no failure to write.
+    if (::fsync(fileDescriptor) == 0 || errno == EINVAL || errno == ENOSYS)
+        return std::nullopt;
+    return FileError {std::generic_category().message(errno)};
+}
+
+void syncDirectory(const std::filesystem::path& directory)
+{
+    const FileDescriptor opened(::open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (opened.get() >= 0)
+        ::fsync(opened.get());
+}
+
+} // namespace cuebright

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "platform/Accessibility.h"
+
+namespace cuebright {
+
+/// For a system whose settings cannot be asked: nobody has asked for anything.
+class NoAccessibility final : public Accessibility {
+public:
+    bool reduceMotion() override { return false; }
+    bool reduceTransparency() override { return false; }
+    bool increaseContrast() override { return false; }
+};
+
+} // namespace cuebright

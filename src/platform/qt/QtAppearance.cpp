@@ -1,0 +1,78 @@
+#include "platform/qt/QtAppearance.h"
+
+#include "platform/qt/ApplicationPalette.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QStyleFactory>
+#include <QToolTip>
+
+namespace cuebright {
+
+namespace {
+
+void show(bool isDark)
+{
+    const auto palette = applicationPalette(isDark);
+    QApplication::setPalette(palette);
+    QToolTip::setPalette(palette);
+}
+
+} // namespace
+
+QtAppearance::QtAppearance()
+    : m_guessedDark(looksDark(QApplication::palette()))
+    , m_isDark(m_guessedDark)
+{
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    show(m_isDark);
+    qApp->installEventFilter(this);
+}
+
+void QtAppearance::choose(Choice choice)
+{
+    m_choice = choice;
+    update();
+}
+
+void QtAppearance::setSystemIsDark(bool isDark)
+{
+    m_reportedDark = isDark;
+    update();
+}
+
+bool QtAppearance::looksDark(const QPalette& palette)
+{
+    return palette.color(QPalette::Window).lightnessF() < palette.color(QPalette::WindowText).lightnessF();
+}
+
+bool QtAppearance::eventFilter(QObject*, QEvent* event)
+{
+    // Every window is told, one after the other; one look at the end is enough.
+    if (event->type() == QEvent::ThemeChange && !m_reportedDark && !std::exchange(m_guessWaits, true))
+        QMetaObject::invokeMethod(
+            this, [this] { guessAgain(); }, Qt::QueuedConnection);
+    return false;
+}
+
+void QtAppearance::guessAgain()
+{
+    m_guessWaits = false;
+    QApplication::setPalette(QPalette()); // the desktop's own shows only while there is none of ours
+    m_guessedDark = looksDark(QApplication::palette());
+    show(m_isDark);
+    update();
+}
+
+void QtAppearance::update()
+{
+    const bool followedDark = m_reportedDark.value_or(m_guessedDark);
+    const bool isDark = m_choice == Choice::FollowSystem ? followedDark : m_choice == Choice::Dark;
+    if (isDark == m_isDark)
+        return;
+    m_isDark = isDark;
+    show(isDark);
+    changed.notify();
+}
+
+} // namespace cuebright
