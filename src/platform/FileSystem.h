@@ -31,14 +31,12 @@ public:
     /// The whole content of a regular file, with at least `spareCapacity` bytes of capacity behind it; absent when it
     /// cannot be read.
     [[nodiscard]] virtual std::optional<std::string> readFile(
-        const std::filesystem::path& path, std::size_t spareCapacity)
-        = 0;
+        const std::filesystem::path& path, std::size_t spareCapacity) = 0;
 
     /// Replaces the file's content as a whole: a reader sees the old content or the new, also after a power cut. On
     /// failure the old content stays. Symbolic links are followed; a new file is for its owner only.
     [[nodiscard]] virtual std::optional<FileError> writeFileAtomically(
-        const std::filesystem::path& path, std::string_view content)
-        = 0;
+        const std::filesystem::path& path, std::string_view content) = 0;
 };
 
 } // namespace cuebright

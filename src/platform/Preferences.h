@@ -16,7 +16,7 @@ public:
 
     virtual ~Preferences() = default;
 
-    /// True only for true, 1 and yes; absent only when the key is.
+    /// True only for true, 1 and yes; any other text is false.
     [[nodiscard]] virtual std::optional<bool> boolean(std::string_view key) = 0;
     [[nodiscard]] virtual std::optional<std::int64_t> integer(std::string_view key) = 0;
     /// Always finite.
@@ -43,6 +43,6 @@ inline constexpr std::string_view kWordCount = "cuebrightWordCount";
 inline constexpr std::string_view kSpeakingPace = "cuebrightSpeakingPace";
 inline constexpr std::string_view kWindowFrame = "cuebrightWindowFrame";
 inline constexpr std::string_view kOnboardingDone = "cuebrightOnboardingDone";
-}
+} // namespace preferenceKeys
 
 } // namespace cuebright

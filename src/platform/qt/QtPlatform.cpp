@@ -11,10 +11,10 @@
 
 namespace cuebright {
 
-QtPlatform::QtPlatform(std::filesystem::path preferencesFile)
+QtPlatform::QtPlatform(const std::filesystem::path& preferencesFile)
     : m_clock(makeClock())
     , m_accessibility(makeAccessibility())
-    , m_preferences(m_fileSystem, m_mainQueue, std::move(preferencesFile))
+    , m_preferences(m_mainQueue, preferencesFile)
 {
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/Platform.h"
-#include "platform/qt/FilePreferences.h"
+#include "platform/qt/QtPreferences.h"
 #include "platform/qt/QtAppearance.h"
 #include "platform/qt/QtFileSystem.h"
 #include "platform/qt/QtMainQueue.h"
@@ -17,7 +17,7 @@ namespace cuebright {
 /// before that.
 class QtPlatform final {
 public:
-    explicit QtPlatform(std::filesystem::path preferencesFile = defaultPreferencesFile());
+    explicit QtPlatform(const std::filesystem::path& preferencesFile = defaultPreferencesFile());
     ~QtPlatform();
 
     /// `Cuebright/Cuebright.conf` in the user's folder for settings.
@@ -33,7 +33,7 @@ private:
     StdoutLog m_log;
     QtMainQueue m_mainQueue;
     QtFileSystem m_fileSystem;
-    FilePreferences m_preferences;
+    QtPreferences m_preferences;
     QtAppearance m_appearance;
 };
 

@@ -2,26 +2,25 @@
 
 #include "foundation/WeakTarget.h"
 #include "platform/Preferences.h"
-#include "platform/qt/IniFile.h"
+
+#include <QMap>
+#include <QString>
 
 #include <filesystem>
-#include <optional>
 
 namespace cuebright {
 
-class FileSystem;
 class MainQueue;
 
-/// Preferences in one settings file, laid out as QSettings lays out its own and replaced as a whole, so that a full
-/// disk costs no more than the latest change (Qt 6.4.2's QSettings can leave an empty file behind).
+/// Preferences in a settings file of QSettings, one text for each key.
 ///
 /// All changes of one turn of the event loop are written together at its end, and the last ones on destruction. What
 /// could not be written is tried again with the next change. Keys are plain ASCII words.
-class FilePreferences final : public Preferences {
+class QtPreferences final : public Preferences {
 public:
-    /// Reads the file; `fileSystem` and `mainQueue` must outlive this.
-    FilePreferences(FileSystem& fileSystem, MainQueue& mainQueue, std::filesystem::path file);
-    ~FilePreferences() override;
+    /// Reads the file; `mainQueue` must outlive this.
+    QtPreferences(MainQueue& mainQueue, const std::filesystem::path& file);
+    ~QtPreferences() override;
 
     std::optional<bool> boolean(std::string_view key) override;
     std::optional<std::int64_t> integer(std::string_view key) override;
@@ -37,19 +36,20 @@ public:
     void remove(std::string_view key) override;
 
 private:
-    using Changes = std::map<std::string, std::optional<std::string>>;
+    using Texts = QMap<QString, QString>;
 
-    void change(std::string key, std::optional<std::string> value);
+    static Texts readFile(const QString& file);
+    void set(const QString& key, const QString& value);
+    void removeGroup(const QString& key);
     void scheduleWrite();
     void write();
 
-    FileSystem& m_fileSystem;
     MainQueue& m_mainQueue;
-    std::filesystem::path m_file;
-    IniValues m_values;
-    Changes m_unwritten; ///< by key; nothing for what was removed
+    QString m_file;
+    Texts m_values;
+    Texts m_written; ///< what the file holds
     bool m_writeScheduled = false;
-    WeakTarget m_weak;
+    WeakTarget m_weakTarget;
 };
 
 } // namespace cuebright

@@ -1,0 +1,189 @@
+#include "platform/qt/QtPreferences.h"
+
+#include "platform/MainQueue.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSettings>
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <system_error>
+#include <utility>
+
+namespace cuebright {
+
+namespace {
+
+QString toKey(std::string_view key) { return QString::fromLatin1(key.data(), static_cast<qsizetype>(key.size())); }
+
+template <typename Number> std::optional<Number> parseWhole(const std::string& text)
+{
+    Number number {};
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (error != std::errc() || end != text.data() + text.size())
+        return std::nullopt;
+    return number;
+}
+
+template <typename Number> QString shortest(Number number)
+{
+    std::array<char, 32> text {};
+    const auto [end, error] = std::to_chars(text.data(), text.data() + text.size(), number);
+    return QString::fromLatin1(text.data(), end - text.data());
+}
+
+/// A text with bare commas comes as a list, one that somebody put in by hand: it is a text all the same.
+std::optional<QString> toText(const QVariant& value)
+{
+    if (value.typeId() == QMetaType::QStringList)
+        return value.toStringList().join(QStringLiteral(", "));
+    if (value.typeId() == QMetaType::QString)
+        return value.toString();
+    return std::nullopt;
+}
+
+} // namespace
+
+QtPreferences::QtPreferences(MainQueue& mainQueue, const std::filesystem::path& file)
+    : m_mainQueue(mainQueue)
+    , m_file(QFileInfo(file).filePath())
+    , m_values(readFile(m_file))
+    , m_written(m_values)
+{
+}
+
+QtPreferences::~QtPreferences() { write(); }
+
+QtPreferences::Texts QtPreferences::readFile(const QString& file)
+{
+    Texts values;
+    if (!QFileInfo(file).isFile()) // opening a pipe would wait for its other end
+        return values;
+    const QSettings settings(file, QSettings::IniFormat);
+    for (const auto& key : settings.allKeys()) {
+        if (const auto text = toText(settings.value(key)))
+            values.insert(key, *text);
+    }
+    return values;
+}
+
+std::optional<bool> QtPreferences::boolean(std::string_view key)
+{
+    const auto value = m_values.constFind(toKey(key));
+    if (value == m_values.cend())
+        return std::nullopt;
+    const auto word = value->toLower();
+    return word == QLatin1String("true") || word == QLatin1String("1") || word == QLatin1String("yes");
+}
+
+std::optional<std::int64_t> QtPreferences::integer(std::string_view key)
+{
+    const auto value = text(key);
+    return value ? parseWhole<std::int64_t>(*value) : std::nullopt;
+}
+
+std::optional<double> QtPreferences::number(std::string_view key)
+{
+    const auto value = text(key);
+    const auto number = value ? parseWhole<double>(*value) : std::nullopt;
+    return number && std::isfinite(*number) ? number : std::nullopt;
+}
+
+std::optional<std::string> QtPreferences::text(std::string_view key)
+{
+    const auto value = m_values.constFind(toKey(key));
+    return value == m_values.cend() ? std::nullopt : std::optional(value->toStdString());
+}
+
+Preferences::Numbers QtPreferences::numbers(std::string_view key)
+{
+    const auto prefix = std::string(key) + '/';
+    Numbers found;
+    for (const auto& member : m_values.keys()) {
+        const auto name = member.toStdString();
+        if (!name.starts_with(prefix))
+            continue;
+        if (const auto value = number(name))
+            found.emplace(name.substr(prefix.size()), *value);
+    }
+    return found;
+}
+
+void QtPreferences::setBoolean(std::string_view key, bool value)
+{
+    set(toKey(key), value ? QStringLiteral("true") : QStringLiteral("false"));
+}
+
+void QtPreferences::setInteger(std::string_view key, std::int64_t value) { set(toKey(key), shortest(value)); }
+
+void QtPreferences::setNumber(std::string_view key, double value) { set(toKey(key), shortest(value)); }
+
+void QtPreferences::setText(std::string_view key, std::string_view value)
+{
+    set(toKey(key), QString::fromUtf8(value.data(), static_cast<qsizetype>(value.size())));
+}
+
+void QtPreferences::setNumbers(std::string_view key, const Numbers& values)
+{
+    removeGroup(toKey(key));
+    for (const auto& [name, value] : values)
+        set(toKey(key) + QLatin1Char('/') + toKey(name), shortest(value));
+}
+
+void QtPreferences::remove(std::string_view key)
+{
+    m_values.remove(toKey(key));
+    removeGroup(toKey(key));
+    scheduleWrite();
+}
+
+void QtPreferences::set(const QString& key, const QString& value)
+{
+    m_values.insert(key, value);
+    scheduleWrite();
+}
+
+void QtPreferences::removeGroup(const QString& key)
+{
+    m_values.removeIf([prefix = key + QLatin1Char('/')](const auto& value) { return value.key().startsWith(prefix); });
+}
+
+void QtPreferences::scheduleWrite()
+{
+    if (!std::exchange(m_writeScheduled, true))
+        m_mainQueue.post(m_weakTarget.guard([this] { write(); }));
+}
+
+/// On a full disk QSettings can leave an empty file and call it a success (seen in Qt 6.4.2): it writes a new file,
+/// which takes the old one's place only if it reads back whole.
+void QtPreferences::write()
+{
+    m_writeScheduled = false;
+    if (m_values == m_written)
+        return;
+    const QFileInfo old(m_file);
+    const auto target = old.exists() ? old.canonicalFilePath() : m_file;
+    const auto scratch = target + QStringLiteral(".new");
+    QDir().mkpath(old.path());
+    QFile::remove(scratch);
+    {
+        QSettings settings(scratch, QSettings::IniFormat);
+        for (auto value = m_values.cbegin(); value != m_values.cend(); ++value)
+            settings.setValue(value.key(), value.value());
+    }
+    std::error_code error;
+    if (QFileInfo::exists(scratch) && readFile(scratch) == m_values) {
+        QFile::setPermissions(scratch, QFile::ReadOwner | QFile::WriteOwner);
+        std::filesystem::rename(QFileInfo(scratch).filesystemFilePath(), QFileInfo(target).filesystemFilePath(), error);
+        if (!error) {
+            m_written = m_values;
+            return;
+        }
+    }
+    QFile::remove(scratch);
+}
+
+} // namespace cuebright
