@@ -1,0 +1,56 @@
+#include "app/AppDelegate.h"
+
+#include "panel/NotesPanel.h"
+#include "panel/PanelController.h"
+
+#include <QCoreApplication>
+
+namespace cuebright {
+
+AppDelegate::AppDelegate(const Platform& platform)
+    : m_store(platform)
+    , m_context {m_store, m_notifications, platform}
+{
+}
+
+AppDelegate::~AppDelegate() = default;
+
+void AppDelegate::applicationDidFinishLaunching()
+{
+    m_panelController = std::make_unique<PanelController>(m_context);
+    addCommandActions(m_panelController->panelWindow(), [this](Command command) { perform(command); });
+    m_panelController->showPanel();
+}
+
+QWidget* AppDelegate::panelWindow() const { return m_panelController ? &m_panelController->panelWindow() : nullptr; }
+
+void AppDelegate::applicationWillTerminate()
+{
+    m_store.saveEdit();
+    m_store.flushToDisk();
+}
+
+void AppDelegate::quit()
+{
+    applicationWillTerminate();
+    // Not QApplication::quit(): a window that stays visible after its close event would cancel that.
+    QCoreApplication::exit(0);
+}
+
+void AppDelegate::perform(Command command)
+{
+    switch (command) {
+    case Command::NewCard:
+        return m_store.addCard();
+    case Command::NewDeck:
+        return m_store.createNewDeck("New Deck");
+    case Command::MoveCardUp:
+        return m_store.moveCardUp();
+    case Command::MoveCardDown:
+        return m_store.moveCardDown();
+    case Command::Quit:
+        return quit();
+    }
+}
+
+} // namespace cuebright

@@ -1,0 +1,73 @@
+#include "panel/ChromeButton.h"
+
+#include "theme/CuebrightChromeStyle.h"
+#include "theme/Fonts.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+
+#include <cmath>
+
+namespace cuebright {
+
+namespace {
+
+constexpr int kHeight = 28;
+constexpr int kArrowWidth = 30;
+constexpr int kTitlePadding = 10;
+constexpr double kTitleSpacing = 1;
+
+QFont fontOf(ChromeButton::Kind kind)
+{
+    if (kind == ChromeButton::Kind::Arrow)
+        return systemFont(14, QFont::Medium);
+    return letterSpaced(monospacedFont(10, QFont::DemiBold), kTitleSpacing);
+}
+
+} // namespace
+
+ChromeButton::ChromeButton(const PanelContext& context, Kind kind, const QString& text, QWidget* parent)
+    : QAbstractButton(parent)
+    , m_context(context)
+    , m_kind(kind)
+{
+    setText(text);
+    setFont(fontOf(kind));
+    setFocusPolicy(Qt::TabFocus);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    m_press.setDuration(CuebrightChromeStyle::kPressAnimationTime);
+    m_press.setEasingCurve(QEasingCurve::OutQuad);
+    m_press.setStartValue(0.0);
+    m_press.setEndValue(0.0);
+    connect(&m_press, &QVariantAnimation::valueChanged, this, qOverload<>(&QWidget::update));
+    connect(this, &QAbstractButton::pressed, this, [this] { animatePress(true); });
+    connect(this, &QAbstractButton::released, this, [this] { animatePress(false); });
+}
+
+QSize ChromeButton::sizeHint() const
+{
+    if (m_kind == Kind::Arrow)
+        return {kArrowWidth, kHeight};
+    return {static_cast<int>(std::ceil(QFontMetricsF(font()).horizontalAdvance(text()))) + 2 * kTitlePadding, kHeight};
+}
+
+void ChromeButton::animatePress(bool isDown)
+{
+    const auto from = m_press.currentValue();
+    m_press.stop();
+    m_press.setStartValue(from);
+    m_press.setEndValue(isDown ? 1.0 : 0.0);
+    m_press.start();
+}
+
+void ChromeButton::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    const CuebrightChromeStyle::State state {m_press.currentValue().toDouble(), isEnabled(), hasFocus()};
+    CuebrightChromeStyle(m_context.colors()).draw(painter, rect(), state, [this](QPainter& labelPainter) {
+        labelPainter.setFont(font());
+        labelPainter.drawText(rect(), Qt::AlignCenter, text());
+    });
+}
+
+} // namespace cuebright

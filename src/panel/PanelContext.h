@@ -1,0 +1,22 @@
+#pragma once
+
+#include "platform/Appearance.h"
+#include "platform/Platform.h"
+#include "theme/Colors.h"
+
+namespace cuebright {
+
+class CardStore;
+class NotificationCenter;
+
+/// What the panel and its views work with. Outlives them all.
+struct PanelContext {
+    CardStore& store;
+    NotificationCenter& notifications;
+    Platform platform;
+
+    /// The colours to draw with now.
+    [[nodiscard]] Colors colors() const { return {platform.appearance.isDark(), platform.accessibility}; }
+};
+
+} // namespace cuebright

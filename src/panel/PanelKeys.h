@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QKeyEvent>
+
+#include <cstdint>
+#include <optional>
+
+namespace cuebright {
+
+/// What a key of the panel asks for.
+enum class PanelCommand {
+    Swallow, ///< the key is taken, nothing happens
+    AskToDeleteCard,
+    Undo,
+    Redo,
+    BeginEditing,
+    SaveEdit,
+    CancelEdit,
+    ToggleOverwrite,
+    PrevCard,
+    NextCard,
+    SwitchToDeck,
+    ToggleWordCount,
+};
+
+struct PanelKeyAction {
+    PanelCommand command;
+    std::int64_t deckIndex = 0; ///< of `SwitchToDeck`
+
+    bool operator==(const PanelKeyAction&) const = default;
+};
+
+/// A key as the tables see it.
+struct KeyStroke {
+    Qt::KeyboardModifiers modifiers; ///< only Shift, Ctrl, Alt and Meta count
+    int key = 0; ///< `Qt::Key`
+    int digit = -1; ///< of the character, or of the physical key of the top row where the character is none; else −1
+
+    [[nodiscard]] static KeyStroke of(const QKeyEvent& event);
+};
+
+/// The panel's shortcuts, tried before those of the menus; absent where the key is not one of them.
+[[nodiscard]] std::optional<PanelKeyAction> panelKeyAction(const KeyStroke& stroke, bool isEditing);
+
+/// The plain arrow keys, which step through the cards while nothing is edited.
+[[nodiscard]] std::optional<PanelKeyAction> arrowKeyAction(const KeyStroke& stroke, bool isEditing);
+
+} // namespace cuebright

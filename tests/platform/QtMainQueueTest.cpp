@@ -1,0 +1,152 @@
+#include "platform/qt/QtMainQueue.h"
+
+#include "support/EventLoop.h"
+
+#include <QElapsedTimer>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace cuebright::test {
+
+namespace {
+
+class QtMainQueueTest : public testing::Test {
+protected:
+    std::function<void()> note(char c)
+    {
+        return [this, c] { ran += c; };
+    }
+    /// Runs the loop until work that was asked for now, `delay` long, has run.
+    [[nodiscard]] bool letPass(Seconds delay)
+    {
+        auto passed = std::make_shared<bool>(false);
+        QtMainQueue other;
+        other.after(delay, [passed] { *passed = true; });
+        return waitUntil([&] { return *passed; });
+    }
+
+    std::string ran;
+    std::optional<QtMainQueue> queue {std::in_place};
+};
+
+} // namespace
+
+TEST_F(QtMainQueueTest, PostedWorkRunsLaterAndInOrder)
+{
+    for (const char c : {'a', 'b', 'c'})
+        queue->post(note(c));
+    EXPECT_EQ(ran, "");
+    processEvents();
+    EXPECT_EQ(ran, "abc");
+}
+
+TEST_F(QtMainQueueTest, PostedWorkMayPostMore)
+{
+    queue->post([&] {
+        ran += 'a';
+        queue->post(note('c'));
+    });
+    queue->post(note('b'));
+    EXPECT_TRUE(waitUntil([&] { return ran == "abc"; })) << ran;
+}
+
+TEST_F(QtMainQueueTest, DelayedWorkRunsOnceInTheOrderOfItsTimesAndNotEarly)
+{
+    QElapsedTimer elapsed;
+    elapsed.start();
+    qint64 ranAfter = 0;
+    queue->after(Seconds(0.03), [&] {
+        ran += 'c';
+        ranAfter = elapsed.nsecsElapsed();
+    });
+    queue->after(Seconds(0.015), note('b'));
+    queue->after(Seconds(0), note('a'));
+    EXPECT_TRUE(waitUntil([&] { return ran == "abc"; })) << ran;
+    EXPECT_GE(ranAfter, 29'000'000);
+    EXPECT_TRUE(letPass(Seconds(0.04)));
+    EXPECT_EQ(ran, "abc");
+}
+
+TEST_F(QtMainQueueTest, AHandleLetGoDoesNotCancel)
+{
+    {
+        const auto handle = queue->after(Seconds(0.001), note('a'));
+    }
+    EXPECT_TRUE(waitUntil([&] { return ran == "a"; }));
+}
+
+TEST_F(QtMainQueueTest, CancelledWorkNeverRunsAndIsLetGoAtOnce)
+{
+    const auto held = std::make_shared<int>();
+    auto once = queue->after(Seconds(0.002), [this, held] { ran += 'a'; });
+    auto repeated = queue->every(Seconds(0.002), [this, held] { ran += 'b'; });
+    once.cancel();
+    repeated.cancel();
+    repeated.cancel();
+    EXPECT_EQ(held.use_count(), 1);
+    EXPECT_TRUE(letPass(Seconds(0.01)));
+    EXPECT_EQ(ran, "");
+}
+
+TEST_F(QtMainQueueTest, CancellingAfterTheRunDoesNothing)
+{
+    auto handle = queue->after(Seconds(0), note('a'));
+    EXPECT_TRUE(waitUntil([&] { return ran == "a"; }));
+    handle.cancel();
+    EXPECT_TRUE(letPass(Seconds(0.002)));
+    EXPECT_EQ(ran, "a");
+}
+
+TEST_F(QtMainQueueTest, RepeatedWorkRunsUntilItCancelsItself)
+{
+    const auto held = std::make_shared<std::string>("still here");
+    PendingTask handle;
+    handle = queue->every(Seconds(0.002), [&, held] {
+        ran += 'a';
+        if (ran.size() == 3) {
+            handle.cancel();
+            ran += *held; // what the work holds lives until it ends
+        }
+    });
+    EXPECT_TRUE(waitUntil([&] { return ran.size() > 3; }));
+    EXPECT_TRUE(letPass(Seconds(0.01)));
+    EXPECT_EQ(ran, "aaastill here");
+    EXPECT_EQ(held.use_count(), 1);
+}
+
+TEST_F(QtMainQueueTest, DelayedWorkMayCancelItselfAndStartAnew)
+{
+    PendingTask handle;
+    handle = queue->after(Seconds(0.001), [&] {
+        handle.cancel();
+        ran += 'a';
+        handle = queue->after(Seconds(0.001), note('b'));
+    });
+    EXPECT_TRUE(waitUntil([&] { return ran == "ab"; })) << ran;
+}
+
+TEST_F(QtMainQueueTest, AQueueThatIsGoneRunsNothingAndItsHandlesAreHarmless)
+{
+    auto once = queue->after(Seconds(0), note('a'));
+    auto repeated = queue->every(Seconds(0.001), note('b'));
+    queue->post(note('c'));
+    queue.reset();
+    EXPECT_TRUE(letPass(Seconds(0.005)));
+    once.cancel();
+    repeated.cancel();
+    EXPECT_EQ(ran, "");
+}
+
+TEST_F(QtMainQueueTest, TimesWithoutSenseAreTakenAsTheNearestThatMakesSense)
+{
+    auto never = queue->after(Seconds(1e300), note('x'));
+    queue->after(Seconds(-5), note('a'));
+    EXPECT_TRUE(waitUntil([&] { return ran == "a"; })) << ran;
+    never.cancel();
+}
+
+} // namespace cuebright::test

@@ -1,0 +1,17 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QTemporaryDir>
+
+/// Runs the tests that need Qt: no display, and no files but in a folder that goes away.
+int main(int argc, char* argv[])
+{
+    testing::InitGoogleTest(&argc, argv);
+    const QTemporaryDir home;
+    for (const char* folder : {"XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_STATE_HOME"})
+        qputenv(folder, home.filePath(QString::fromLatin1(folder)).toUtf8());
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Cuebright"));
+    return RUN_ALL_TESTS();
+}
