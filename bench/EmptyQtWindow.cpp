@@ -1,0 +1,12 @@
+// The reference for start-up and memory: the least that a Qt program with a window does.
+#include <QApplication>
+#include <QWidget>
+
+int main(int argc, char* argv[])
+{
+    QApplication application(argc, argv);
+    QWidget window;
+    window.resize(720, 560);
+    window.show();
+    return QApplication::exec();
+}
