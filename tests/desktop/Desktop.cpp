@@ -1,0 +1,230 @@
+#include "desktop/Desktop.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <fstream>
+#include <stdexcept>
+#include <vector>
+
+#include <unistd.h>
+
+#include <X11/XKBlib.h>
+#include <X11/Xatom.h>
+#include <X11/Xlib.h>
+#include <X11/extensions/XTest.h>
+
+namespace cuebright::test {
+
+namespace {
+
+// Left to its own devices the window manager keeps some of our shortcuts for itself.
+constexpr std::string_view kWindowManagerSettings = R"(<?xml version="1.0" encoding="UTF-8"?>
+<openbox_config xmlns="http://openbox.org/3.4/rc">
+  <placement><policy>Smart</policy></placement>
+  <theme><name>Clearlooks</name></theme>
+  <desktops><number>1</number><popupTime>0</popupTime></desktops>
+  <keyboard></keyboard>
+  <mouse>
+    <context name="Client">
+      <mousebind button="Left" action="Press"><action name="Focus"/><action name="Raise"/></mousebind>
+    </context>
+  </mouse>
+</openbox_config>
+)";
+
+/// The environment of the tests without anything that leads to the desktop they were started on.
+Environment detachedEnvironment(const std::filesystem::path& folder)
+{
+    Environment environment;
+    for (char** entry = environ; *entry; ++entry) {
+        const std::string_view text = *entry;
+        const auto equals = text.find('=');
+        const auto name = text.substr(0, equals);
+        const auto isOfDesktop = [&](std::string_view prefix) { return name.starts_with(prefix); };
+        constexpr std::string_view kPrefixes[] = {
+            "QT_", "XDG_", "DBUS_", "AT_SPI_", "WAYLAND_", "XAUTHORITY", "SESSION_MANAGER", "LC_", "LANG"};
+        if (equals != std::string_view::npos && std::ranges::none_of(kPrefixes, isOfDesktop))
+            environment.emplace(name, text.substr(equals + 1));
+    }
+    environment["HOME"] = folder / "home";
+    environment["XDG_RUNTIME_DIR"] = folder / "run";
+    environment["LC_ALL"] = "C.UTF-8";
+    environment["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1";
+    std::filesystem::create_directories(folder / "home");
+    std::filesystem::create_directories(folder / "run");
+    std::filesystem::permissions(folder / "run", std::filesystem::perms::owner_all);
+    return environment;
+}
+
+KeySym keyNamed(std::string_view name)
+{
+    if (name == "ctrl")
+        return XStringToKeysym("Control_L");
+    if (name == "alt")
+        return XStringToKeysym("Alt_L");
+    if (name == "shift")
+        return XStringToKeysym("Shift_L");
+    const KeySym key = XStringToKeysym(std::string(name).c_str());
+    if (key == NoSymbol)
+        throw std::runtime_error("no key is called " + std::string(name));
+    return key;
+}
+
+} // namespace
+
+TemporaryFolder::TemporaryFolder()
+{
+    std::string pattern = std::filesystem::temp_directory_path() / "cuebright-XXXXXX";
+    if (!mkdtemp(pattern.data()))
+        throw std::runtime_error("cannot make a temporary folder");
+    m_path = pattern;
+}
+
+TemporaryFolder::~TemporaryFolder()
+{
+    std::error_code ignored;
+    std::filesystem::remove_all(m_path, ignored);
+}
+
+struct Desktop::Display {
+    explicit Display(const std::string& name)
+        : connection(XOpenDisplay(name.c_str()))
+    {
+        if (!connection)
+            throw std::runtime_error("cannot reach the display " + name);
+        // A window may go away between two questions; that is no reason to end the tests.
+        XSetErrorHandler([](::Display*, XErrorEvent*) { return 0; });
+        root = DefaultRootWindow(connection);
+    }
+    ~Display() { XCloseDisplay(connection); }
+    Display(const Display&) = delete;
+    Display& operator=(const Display&) = delete;
+
+    template <typename Item> std::vector<Item> property(WindowId window, const char* name) const
+    {
+        Atom type = None;
+        int format = 0;
+        unsigned long count = 0;
+        unsigned long left = 0;
+        unsigned char* data = nullptr;
+        std::vector<Item> items;
+        if (XGetWindowProperty(connection, window, XInternAtom(connection, name, False), 0, 4096, False,
+                AnyPropertyType, &type, &format, &count, &left, &data)
+                == Success
+            && data) {
+            const auto* first = reinterpret_cast<const Item*>(data);
+            items.assign(first, first + count);
+        }
+        if (data)
+            XFree(data);
+        return items;
+    }
+
+    void move(KeyCode key, Bool down) { XTestFakeKeyEvent(connection, key, down, CurrentTime); }
+
+    void tap(const std::vector<KeySym>& keys)
+    {
+        std::vector<KeyCode> codes;
+        for (const KeySym key : keys)
+            codes.push_back(XKeysymToKeycode(connection, key));
+        for (const KeyCode code : codes)
+            move(code, True);
+        std::ranges::reverse(codes);
+        for (const KeyCode code : codes)
+            move(code, False);
+        XSync(connection, False);
+    }
+
+    ::Display* connection;
+    ::Window root = None;
+};
+
+Desktop::Desktop()
+    : m_environment(detachedEnvironment(m_folder.path()))
+{
+    const auto& folder = m_folder.path();
+    m_server = std::make_unique<Process>(
+        Process::Start {{"Xvfb", "-displayfd", "1", "-screen", "0", "1280x800x24", "-nolisten", "tcp", "-noreset"},
+            m_environment, folder / "display", folder / "display.log"});
+    m_environment["DISPLAY"] = ":" + m_server->firstLine();
+
+    m_bus = std::make_unique<Process>(
+        Process::Start {{"dbus-daemon", "--session", "--nofork", "--nopidfile", "--print-address=1"}, m_environment,
+            folder / "bus", folder / "bus.log"});
+    m_environment["DBUS_SESSION_BUS_ADDRESS"] = m_bus->firstLine();
+
+    std::ofstream(folder / "openbox.xml") << kWindowManagerSettings;
+    m_windowManager = std::make_unique<Process>(Process::Start {
+        {"openbox", "--config-file", folder / "openbox.xml"}, m_environment, folder / "openbox.log", {}});
+    m_display = std::make_unique<Display>(m_environment["DISPLAY"]);
+    if (!waitUntil([this] { return !m_display->property<::Window>(m_display->root, "_NET_SUPPORTED").empty(); }))
+        throw std::runtime_error("the window manager does not come up: " + m_windowManager->output());
+}
+
+Desktop::~Desktop() = default;
+
+std::optional<Desktop::WindowId> Desktop::windowOf(pid_t process) const
+{
+    for (const WindowId window : m_display->property<WindowId>(m_display->root, "_NET_CLIENT_LIST")) {
+        const auto pid = m_display->property<long>(window, "_NET_WM_PID");
+        if (!pid.empty() && pid.front() == process)
+            return window;
+    }
+    return {};
+}
+
+std::string Desktop::title(WindowId window) const
+{
+    const auto text = m_display->property<char>(window, "_NET_WM_NAME");
+    return {text.begin(), text.end()};
+}
+
+Desktop::Area Desktop::clientArea(WindowId window) const
+{
+    XWindowAttributes attributes {};
+    ::Window child = None;
+    Area area;
+    if (XGetWindowAttributes(m_display->connection, window, &attributes)
+        && XTranslateCoordinates(m_display->connection, window, m_display->root, 0, 0, &area.x, &area.y, &child)) {
+        area.width = attributes.width;
+        area.height = attributes.height;
+    }
+    return area;
+}
+
+bool Desktop::isActive(WindowId window) const
+{
+    const auto active = m_display->property<WindowId>(m_display->root, "_NET_ACTIVE_WINDOW");
+    return !active.empty() && active.front() == window;
+}
+
+void Desktop::click(int x, int y)
+{
+    XTestFakeMotionEvent(m_display->connection, -1, x, y, CurrentTime);
+    XTestFakeButtonEvent(m_display->connection, Button1, True, CurrentTime);
+    XTestFakeButtonEvent(m_display->connection, Button1, False, CurrentTime);
+    XSync(m_display->connection, False);
+}
+
+void Desktop::press(std::string_view chord)
+{
+    std::vector<KeySym> keys;
+    for (auto plus = chord.find('+'); plus != std::string_view::npos; plus = chord.find('+')) {
+        keys.push_back(keyNamed(chord.substr(0, plus)));
+        chord.remove_prefix(plus + 1);
+    }
+    keys.push_back(keyNamed(chord));
+    m_display->tap(keys);
+}
+
+void Desktop::type(std::string_view text)
+{
+    for (const char letter : text) {
+        const KeySym key = letter == '\n' ? keyNamed("Return") : static_cast<unsigned char>(letter);
+        const KeyCode code = XKeysymToKeycode(m_display->connection, key);
+        const bool needsShift = XkbKeycodeToKeysym(m_display->connection, code, 0, 0) != key;
+        m_display->tap(needsShift ? std::vector<KeySym> {keyNamed("shift"), key} : std::vector<KeySym> {key});
+    }
+}
+
+} // namespace cuebright::test

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "desktop/Process.h"
+
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace cuebright::test {
+
+/// A folder that is there as long as its object.
+class TemporaryFolder final {
+public:
+    TemporaryFolder();
+    ~TemporaryFolder();
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+
+    [[nodiscard]] const std::filesystem::path& path() const { return m_path; }
+
+private:
+    std::filesystem::path m_path;
+};
+
+/// A desktop of our own: a virtual display, a window manager without key bindings, a message bus, and the hands of a
+/// user on keyboard and mouse. Nothing of it touches the desktop on which the tests are started.
+///
+/// Positions are pixels of the display. What is asked of a window that is gone answers empty.
+class Desktop final {
+public:
+    using WindowId = unsigned long;
+    struct Area {
+        int x = 0;
+        int y = 0;
+        int width = 0;
+        int height = 0;
+        friend bool operator==(const Area&, const Area&) = default;
+    };
+
+    Desktop();
+    ~Desktop();
+
+    /// What a program needs in order to find this desktop.
+    [[nodiscard]] const Environment& environment() const { return m_environment; }
+
+    /// The first window that the process has put on the screen, as the window manager lists them.
+    [[nodiscard]] std::optional<WindowId> windowOf(pid_t process) const;
+    [[nodiscard]] std::string title(WindowId window) const;
+    /// Without the frame that the window manager draws around it.
+    [[nodiscard]] Area clientArea(WindowId window) const;
+    [[nodiscard]] bool isActive(WindowId window) const;
+
+    /// Presses and releases the left button.
+    void click(int x, int y);
+    /// A key with its modifiers, as in "Right", "ctrl+e", "ctrl+shift+Return": the key has its X11 name.
+    void press(std::string_view chord);
+    /// Letters, digits, blanks and line feeds, as on a US keyboard.
+    void type(std::string_view text);
+
+private:
+    struct Display;
+
+    TemporaryFolder m_folder;
+    Environment m_environment;
+    std::unique_ptr<Process> m_server;
+    std::unique_ptr<Process> m_bus;
+    std::unique_ptr<Process> m_windowManager;
+    std::unique_ptr<Display> m_display;
+};
+
+} // namespace cuebright::test
