@@ -16,8 +16,10 @@ namespace {
 class QtPreferencesTest : public testing::Test {
 protected:
     QtPreferences open() { return QtPreferences(queue, path); }
+    /// A file of its own for each content: QSettings takes one of the same name, size and time for the same.
     QtPreferences openWith(const std::string& content)
     {
+        path = folder.file("config" + std::to_string(++fileCount) + "/Cuebright.conf");
         std::filesystem::create_directories(path.parent_path());
         std::ofstream(path, std::ios::binary) << content;
         return open();
@@ -26,6 +28,7 @@ protected:
 
     TemporaryFolder folder;
     std::filesystem::path path = folder.file("config/Cuebright/Cuebright.conf");
+    int fileCount = 0;
     FakeClock clock;
     FakeMainQueue queue {clock};
 };
@@ -92,7 +95,7 @@ TEST_F(QtPreferencesTest, NumbersComeBackExactly)
     const double values[] = {0.1, 0.7000000000000001, 1.0 / 3, 17, -0.0, 1e300, 5e-324};
     for (const double value : values) {
         {
-            auto preferences = open();
+            auto preferences = openWith("");
             preferences.setNumber("number", value);
             preferences.setNumbers("group", {{"x", value}});
         }

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "platform/Platform.h"
-#include "platform/qt/QtPreferences.h"
 #include "platform/qt/QtAppearance.h"
 #include "platform/qt/QtFileSystem.h"
 #include "platform/qt/QtMainQueue.h"
+#include "platform/qt/QtPreferences.h"
 #include "platform/qt/QtUuidSource.h"
 #include "platform/qt/StdoutLog.h"
 

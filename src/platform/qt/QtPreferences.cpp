@@ -174,16 +174,20 @@ void QtPreferences::write()
         for (auto value = m_values.cbegin(); value != m_values.cend(); ++value)
             settings.setValue(value.key(), value.value());
     }
+    // QSettings remembers files by their names: only under a fresh one is it read from the disk.
+    const auto check = scratch + QString::number(++m_writeCount);
+    if (!QFile::rename(scratch, check))
+        return;
     std::error_code error;
-    if (QFileInfo::exists(scratch) && readFile(scratch) == m_values) {
-        QFile::setPermissions(scratch, QFile::ReadOwner | QFile::WriteOwner);
-        std::filesystem::rename(QFileInfo(scratch).filesystemFilePath(), QFileInfo(target).filesystemFilePath(), error);
+    if (readFile(check) == m_values) {
+        QFile::setPermissions(check, QFile::ReadOwner | QFile::WriteOwner);
+        std::filesystem::rename(QFileInfo(check).filesystemFilePath(), QFileInfo(target).filesystemFilePath(), error);
         if (!error) {
             m_written = m_values;
             return;
         }
     }
-    QFile::remove(scratch);
+    QFile::remove(check);
 }
 
 } // namespace cuebright

@@ -49,6 +49,7 @@ private:
     Texts m_values;
     Texts m_written; ///< what the file holds
     bool m_writeScheduled = false;
+    int m_writeCount = 0;
     WeakTarget m_weakTarget;
 };
 
