@@ -36,6 +36,7 @@ struct StateToEncode {
 
 /// The state as text: keys sorted, two-space indent, a blank on both sides of the colon, slashes escaped, shortest
 /// numbers, no line feed at the end. Fails on a number that JSON cannot hold and on a date outside the years 0 to 9999.
-[[nodiscard]] std::variant<std::string, EncodeError> encodeState(const StateToEncode& state);
+/// Writes into the memory of `recycled`, whose text does not matter: a long text is then twice as fast.
+[[nodiscard]] std::variant<std::string, EncodeError> encodeState(const StateToEncode& state, std::string recycled = {});
 
 } // namespace cuebright

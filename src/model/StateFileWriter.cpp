@@ -59,7 +59,12 @@ char* writeEscape(char c, char* out)
 /// the text cleared before it is written, nor its room checked byte by byte.
 class JsonText final {
 public:
-    explicit JsonText(std::size_t expectedSize) { m_text.reserve(expectedSize); }
+    JsonText(std::size_t expectedSize, std::string recycled)
+        : m_text(std::move(recycled))
+    {
+        m_text.clear();
+        m_text.reserve(expectedSize);
+    }
 
     void add(std::string_view fragment)
     {
@@ -208,12 +213,12 @@ std::size_t expectedSize(const std::vector<Deck>& decks)
 
 } // namespace
 
-std::variant<std::string, EncodeError> encodeState(const StateToEncode& state)
+std::variant<std::string, EncodeError> encodeState(const StateToEncode& state, std::string recycled)
 {
     if (!std::isfinite(state.fontSize) || !std::isfinite(state.opacity))
         return EncodeError {"the text size or the opacity is not a finite number"};
 
-    JsonText json(expectedSize(state.decks));
+    JsonText json(expectedSize(state.decks), std::move(recycled));
     json.add("{\n  \"activeCardIndex\" : ");
     json.addNumber(state.activeCardIndex);
     if (state.activeDeckId) {

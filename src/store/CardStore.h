@@ -185,6 +185,7 @@ private:
     PendingTask m_saveWorkItem;
     std::int64_t m_consecutiveSaveFailures = 0;
     std::filesystem::path m_appSupportDir;
+    std::string m_writeBuffer; ///< kept for the next save, which is faster in memory that is there already
     std::weak_ptr<UndoManager> m_undoManager;
     std::optional<Animation> m_animation; ///< of the transaction that is open
     WeakTarget m_weakTarget;

@@ -66,17 +66,19 @@ void CardStore::flushToDisk()
 void CardStore::writeToDisk()
 {
     const auto deck = activeDeck();
-    const auto encoded = encodeState({.decks = m_decks,
-        .activeDeckId = deck ? std::optional(deck->id) : std::nullopt,
-        .activeCardIndex = m_activeCardIndex,
-        .opacity = m_opacity,
-        .fontSize = m_fontSize});
+    auto encoded = encodeState({.decks = m_decks,
+                                   .activeDeckId = deck ? std::optional(deck->id) : std::nullopt,
+                                   .activeCardIndex = m_activeCardIndex,
+                                   .opacity = m_opacity,
+                                   .fontSize = m_fontSize},
+        std::move(m_writeBuffer));
     if (const auto error = std::get_if<EncodeError>(&encoded)) {
         reportSaveFailure(error->description);
         return;
     }
     m_platform.fileSystem.createDirectories(m_appSupportDir); // somebody may have removed it meanwhile
-    const auto error = m_platform.fileSystem.writeFileAtomically(stateUrl(), std::get<std::string>(encoded));
+    m_writeBuffer = std::get<std::string>(std::move(encoded));
+    const auto error = m_platform.fileSystem.writeFileAtomically(stateUrl(), m_writeBuffer);
     if (error)
         reportSaveFailure(error->description);
     else

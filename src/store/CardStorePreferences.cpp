@@ -102,7 +102,8 @@ std::string CardStore::readingTime() const
 {
     const auto words = wordCount();
     const auto roundedUp = words / m_speakingPace + (words % m_speakingPace != 0 ? 1 : 0);
-    return "~" + std::to_string(std::max<std::int64_t>(roundedUp, 1)) + " min";
+    auto text = std::to_string(std::max<std::int64_t>(roundedUp, 1));
+    return text.insert(0, 1, '~').append(" min");
 }
 
 } // namespace cuebright
