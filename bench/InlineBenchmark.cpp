@@ -1,0 +1,69 @@
+#include "markdown/CardParser.h"
+#include "markdown/StyledText.h"
+#include "platform/Accessibility.h"
+#include "support/LargeState.h"
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+namespace cuebright::bench {
+
+namespace {
+
+constexpr std::size_t kCardLength = 700;
+constexpr double kFontSize = 18;
+
+class PlainAccessibility final : public Accessibility {
+public:
+    bool reduceMotion() override { return false; }
+    bool reduceTransparency() override { return false; }
+    bool increaseContrast() override { return false; }
+};
+
+/// The first cards of the large state in one, cut at a line's end: close to 700 bytes.
+std::string cardText()
+{
+    static const auto state = largeState();
+    std::string text;
+    for (const auto& card : state.decks.front().cards) {
+        text += card.content + '\n';
+        if (text.size() >= kCardLength)
+            break;
+    }
+    return text.substr(0, text.rfind('\n', kCardLength) + 1);
+}
+
+void countBytes(benchmark::State& run, const std::string& text)
+{
+    run.SetBytesProcessed(static_cast<std::int64_t>(text.size()) * run.iterations());
+    run.SetLabel(std::to_string(text.size()) + " bytes");
+}
+
+void parseBlocks(benchmark::State& run)
+{
+    const auto text = cardText();
+    for (auto _ : run)
+        benchmark::DoNotOptimize(parseMarkdown(text));
+    countBytes(run, text);
+}
+
+void renderRuns(benchmark::State& run)
+{
+    PlainAccessibility accessibility;
+    const Colors colors(false, accessibility);
+    const auto text = cardText();
+    for (auto _ : run)
+        for (const auto& block : parseMarkdown(text))
+            benchmark::DoNotOptimize(renderInline(block.text, kFontSize, colors));
+    countBytes(run, text);
+}
+
+BENCHMARK(parseBlocks)->Name("a card of 700 bytes/reference: parseMarkdown")->Unit(benchmark::kMicrosecond);
+BENCHMARK(renderRuns)->Name("a card of 700 bytes/parseMarkdown and renderInline")->Unit(benchmark::kMicrosecond);
+
+} // namespace
+
+} // namespace cuebright::bench

@@ -1,0 +1,266 @@
+#include "markdown/InlineRuns.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace cuebright {
+namespace {
+
+struct Case {
+    std::string_view text;
+    std::string_view runs;
+};
+
+void expectRuns(const std::vector<Case>& cases)
+{
+    for (const auto& c : cases)
+        EXPECT_EQ(describe(parseInline(c.text)), c.runs) << "of " << testing::PrintToString(c.text);
+}
+
+/// They are plain, in one run.
+void expectUnchanged(const std::vector<std::string_view>& texts)
+{
+    for (const auto text : texts) {
+        const std::vector<InlineRun> itself {{.text = std::string(text), .link = std::nullopt}};
+        EXPECT_EQ(parseInline(text), itself) << "of " << testing::PrintToString(text.substr(0, 100));
+    }
+}
+
+std::string repeated(std::string_view part, int times)
+{
+    std::string text;
+    for (int i = 0; i < times; ++i)
+        text += part;
+    return text;
+}
+
+std::string joined(const std::vector<InlineRun>& runs)
+{
+    std::string text;
+    for (const auto& run : runs)
+        text += run.text;
+    return text;
+}
+
+/// Whether `part` is left when characters are taken out of `whole`.
+bool isLeftOver(std::string_view part, std::string_view whole)
+{
+    auto next = part.begin();
+    for (auto c = whole.begin(); c != whole.end() && next != part.end(); ++c)
+        next += *c == *next ? 1 : 0;
+    return next == part.end();
+}
+
+} // namespace
+
+TEST(InlineParser, NoTextHasNoRuns) { EXPECT_TRUE(parseInline("").empty()); }
+
+TEST(InlineParser, MarkersBecomeTheLooksOfTheTextBetweenThem)
+{
+    expectRuns({
+        {"**bold** and *it*", "⟨strong|bold⟩ and ⟨em|it⟩"},
+        {"__bold__ and _it_", "⟨strong|bold⟩ and ⟨em|it⟩"},
+        {"use `x` here", "use ⟨code|x⟩ here"},
+        {"[site](page)", "⟨link=page|site⟩"},
+        {"see <https://example.org>.", "see ⟨link=https://example.org|https://example.org⟩."},
+        {"*a **b** c*", "⟨em|a ⟩⟨strong em|b⟩⟨em| c⟩"},
+        {"**a *b* c**", "⟨strong|a ⟩⟨strong em|b⟩⟨strong| c⟩"},
+        {"***a***", "⟨strong em|a⟩"},
+        {"**[a `b` *c*](d)**", "⟨strong link=d|a ⟩⟨strong code link=d|b⟩⟨strong link=d| ⟩⟨strong em link=d|c⟩"},
+        {"`**a** [b](c) &amp;`", "⟨code|**a** [b](c) &amp;⟩"},
+        {"\\*a\\* &amp; &#x1F600;", "*a* & 😀"},
+    });
+}
+
+TEST(InlineParser, MarkersWithoutAPartnerAreText)
+{
+    expectUnchanged({"2 * 3 * 4", "**unclosed", "unopened**", "a_b_c", "`open", "[a](b", "[a] (b)", "[]", "!", "<", "&",
+        "&nosuch;", "* item", "snake_case_name", "5 < 6 > 4", "a * b*", "**", "~~struck~~", "\\", "end\\", "\\a"});
+}
+
+TEST(InlineParser, WhiteSpaceStaysAtBothEndsAndInside)
+{
+    expectUnchanged(
+        {" ", "   ", "\t", "  a  ", "\ta\t", "a   b", "a \t b", "a  ", "\xc2\xa0 a\xc2\xa0", "\xe3\x80\x80"});
+    expectRuns({
+        {"  **a**  ", "  ⟨strong|a⟩  "},
+        {" *a*  _b_ ", " ⟨em|a⟩  ⟨em|b⟩ "},
+        {"a **b **", "a **b **"},
+        {"`a`  ", "⟨code|a⟩  "},
+    });
+}
+
+TEST(InlineParser, NothingStartsABlock)
+{
+    expectUnchanged({"1. first", "1) first", "# title", "## title", "#", "- item", "+ item", "> quote",
+        "    four spaces", "\ttab", "```", "```cpp", "~~~", "---", "***", "===", "- - -", "[a]: b", "[a]: b \"c\"",
+        "<div>", "<!-- a -->", "<script>", "| a | b |", "1.", "-", "a  \\", "- [ ] task"});
+    expectRuns({{"# **a**", "# ⟨strong|a⟩"}, {"    *a*", "    ⟨em|a⟩"}, {"<div>*a*", "<div>⟨em|a⟩"}});
+}
+
+TEST(InlineParser, LineEndsAreCharactersLikeOthers)
+{
+    expectUnchanged({"\r", "a\r", "a\r# b", "a\r    b", "a\r\r- b", "a\r---", "  \ra  \r", "a  \nb", "\n# a\n",
+        "a\\\rb", "a\r\nb", "a\vb\fc", "a\fb\rc", "a\xc2\x85# b", "a\xe2\x80\xa8# b", "a\xe2\x80\xa9- b"});
+    expectRuns({
+        {"```\ra\r```", "⟨code|\ra\r⟩"},
+        {"*a\rb*\r", "⟨em|a\rb⟩\r"},
+        {"[a\rb](c)", "⟨link=c|a\rb⟩"},
+        {"<a\rhref='b'>", "<a\rhref='b'>"},
+        {"**a**\r\n`b`", "⟨strong|a⟩\r\n⟨code|b⟩"},
+    });
+}
+
+TEST(InlineParser, ABlankThatIsSpeltIsNotTakenForALineEnd)
+{
+    expectRuns({
+        {"a&#12;b", "a\fb"},
+        {"a&#12;b\r", "a\fb\r"},
+        {"a&#x1680;b\f\r&#x2000;\n",
+            "a\xe1\x9a\x80"
+            "b\f\r\xe2\x80\x80\n"},
+        {"a&MediumSpace;b",
+            "a\xe2\x81\x9f"
+            "b"},
+        {"a&#13;b&#10;c\r", "a\rb\nc\r"},
+    });
+    const std::string everyBlank = "*a*\r&#12;&#x1680;&#x2000;&#x2001;&#x2006;&#x202f;&#x3000;";
+    expectUnchanged({everyBlank});
+}
+
+TEST(InlineParser, LinksLeadWhereTheyAreWritten)
+{
+    expectRuns({
+        {"[a](javascript:alert(1))", "⟨link=javascript:alert(1)|a⟩"},
+        {"[a](file:///etc/passwd)", "⟨link=file:///etc/passwd|a⟩"},
+        {"<made-up:b>", "⟨link=made-up:b|made-up:b⟩"},
+        {"<me@example.org>", "⟨link=mailto:me@example.org|me@example.org⟩"},
+        {"[a](b%20c)", "⟨link=b%20c|a⟩"},
+        {"[a](<b c>)", "⟨link=b c|a⟩"},
+        {"[a](b \"title\")", "⟨link=b|a⟩"},
+        {"[a](?x=1&amp;y=2)", "⟨link=?x=1&y=2|a⟩"},
+        {"[a](ü)", "⟨link=ü|a⟩"},
+        {"[a]()", "⟨link=|a⟩"},
+        {"[](b)", ""},
+        {"[]()", ""},
+        {"x[](b)y", "xy"},
+        {"[a](b)[c](d)", "⟨link=b|a⟩⟨link=d|c⟩"},
+        {"[a](b)[c](b)", "⟨link=b|ac⟩"},
+        {"[a [b](c) d](e)", "[a ⟨link=c|b⟩ d](e)"},
+        {"https://example.org", "https://example.org"},
+        {"[a][b]", "[a][b]"},
+    });
+}
+
+TEST(InlineParser, AnImageIsItsDescriptionWithoutStyles)
+{
+    expectRuns({
+        {"![a](b)", "a"},
+        {"![](b)", ""},
+        {"x ![a *b* `c` **d**](e) y", "x a b c d y"},
+        {"![a [b](c) d](e)", "a b d"},
+        {"![a ![b *c*](d) *e*](f) *g*", "a b c e ⟨em|g⟩"},
+        {"**![a](b)**", "⟨strong|a⟩"},
+        {"[![a](b) c](d)", "⟨link=d|a c⟩"},
+        {"*a ![*b*](c) d*", "⟨em|a b d⟩"},
+    });
+}
+
+TEST(InlineParser, RawHtmlIsTheTextThatItIs)
+{
+    expectUnchanged(
+        {"<b>a</b>", "<br/>", "<!-- a -->", "<?a?>", "<a href=\"*b*\">", "x <![CDATA[*a*]]>", "<u title='`'>`"});
+    expectRuns({{"<u>*a*</u>", "<u>⟨em|a⟩</u>"}, {"*<u>a</u>*", "⟨em|<u>a</u>⟩"}});
+}
+
+TEST(InlineParser, OtherScriptsStayAsTheyAre)
+{
+    constexpr std::string_view kCombining = "e\xcc\x81 a\xcc\x88\xcc\xa3";
+    constexpr std::string_view kFamily = "\xf0\x9f\x91\xa9\xe2\x80\x8d\xf0\x9f\x91\xa7"; // joined by U+200D
+    constexpr std::string_view kDirections = "\xe2\x80\xaa\xe2\x80\xae\xd7\xa9\xd7\x9c \xe2\x80\xac";
+    constexpr std::string_view kPersian = "\xd9\x85\xdb\x8c\xe2\x80\x8c\xd8\xae\xd9\x88"; // with U+200C
+    expectUnchanged({kCombining, kFamily, kDirections, kPersian,
+        "\xef\xbb\xbf"
+        "a",
+        "\xf3\xa0\x80\x81"});
+    expectRuns({
+        {"**\xd7\xa9\xd7\x9c\xd7\x95\xd7\x9d** *\xd8\xb3\xd9\x84\xd8\xa7\xd9\x85*",
+            "⟨strong|\xd7\xa9\xd7\x9c\xd7\x95\xd7\x9d⟩ ⟨em|\xd8\xb3\xd9\x84\xd8\xa7\xd9\x85⟩"},
+        {"*e\xcc\x81*", "⟨em|e\xcc\x81⟩"},
+        {"*a*\xcc\x81", "⟨em|a⟩\xcc\x81"},
+        {"*\xe2\x80\x8d*", "⟨em|\xe2\x80\x8d⟩"},
+        {"*\xc2\xa0"
+         "a*",
+            "*\xc2\xa0"
+            "a*"},
+        {"_\xc3\xa4_\xc3\xb6_", "⟨em|\xc3\xa4_\xc3\xb6⟩"},
+    });
+}
+
+TEST(InlineParser, TheZeroCharacterIsReplaced)
+{
+    using namespace std::string_view_literals;
+    expectRuns({
+        {"a\0b"sv,
+            "a\xef\xbf\xbd"
+            "b"},
+        {"\0"sv, "\xef\xbf\xbd"},
+        {"*a*\0"sv, "⟨em|a⟩\xef\xbf\xbd"},
+        {"&#0;", "\xef\xbf\xbd"},
+    });
+}
+
+TEST(InlineParser, WhatCouldTakeSecondsIsOnePlainRun)
+{
+    expectUnchanged({
+        std::string(10'000, '['),
+        repeated("![[]()", 10'000),
+        repeated("[", 10'000) + "a" + repeated("](b)", 10'000),
+        repeated("[]", 1'000) + "]*a*",
+        "*a*" + std::string(16 * 1024 - 2, 'b'),
+    });
+}
+
+TEST(InlineParser, WhatIsJustShortEnoughIsParsed)
+{
+    const std::string longWord(16 * 1024 - 3, 'b');
+    EXPECT_EQ(describe(parseInline("*a*" + longWord)), "⟨em|a⟩" + longWord);
+    const auto brackets = repeated("[]", 1'000);
+    EXPECT_EQ(describe(parseInline(brackets + "*a*")), brackets + "⟨em|a⟩");
+}
+
+TEST(InlineParser, DeepNestingIsNoTrouble)
+{
+    const auto stars = repeated("*", 5'000);
+    EXPECT_EQ(describe(parseInline(stars + "a" + stars)), "⟨strong|a⟩");
+    const auto pairs = repeated("*a _b ", 1'000);
+    expectUnchanged({pairs, std::string(10'000, '*'), std::string(10'000, '`'), std::string(10'000, '<')});
+    const auto links = repeated("[", 1'000) + "a" + repeated("](b)", 999);
+    EXPECT_EQ(describe(parseInline(links)).find("⟨link=b|a⟩"), 999U);
+}
+
+TEST(InlineParser, NeverInventsTextAndNeverLeavesNeighboursAlike)
+{
+    const std::string_view parts[] = {"*", "**", "_", "`", "``", "[", "](b)", "![", "]", "<a>", "<a:b>", "\\", " ", "x",
+        "\xc3\xa9", "\r", "#", "\"", "~", "\t"};
+    // A fixed walk through combinations of six parts, 20,000 of the 64 million.
+    std::uint64_t state = 1;
+    for (int i = 0; i < 20'000; ++i) {
+        std::string text;
+        for (int part = 0; part < 6; ++part) {
+            state = state * 6364136223846793005U + 1442695040888963407U;
+            text += parts[(state >> 33U) % std::size(parts)];
+        }
+        const auto runs = parseInline(text);
+        EXPECT_TRUE(isLeftOver(joined(runs), text)) << describe(runs) << "\nof " << testing::PrintToString(text);
+        const auto alike = [](const InlineRun& a, InlineRun b) {
+            b.text = a.text;
+            return a == b;
+        };
+        EXPECT_EQ(std::adjacent_find(runs.begin(), runs.end(), alike), runs.end()) << describe(runs);
+        EXPECT_TRUE(std::none_of(runs.begin(), runs.end(), [](const InlineRun& run) { return run.text.empty(); }));
+    }
+}
+
+} // namespace cuebright
