@@ -1,5 +1,8 @@
 #include "app/AppDelegate.h"
 
+#include "app/OnboardingOverlay.h"
+#include "panel/CardContentView.h"
+#include "panel/MarkdownEditor.h"
 #include "panel/NotesPanel.h"
 #include "panel/PanelController.h"
 
@@ -7,9 +10,9 @@
 
 namespace cuebright {
 
-AppDelegate::AppDelegate(const Platform& platform)
+AppDelegate::AppDelegate(const Platform& platform, CaptureExclusion& captureExclusion)
     : m_store(platform)
-    , m_context {m_store, m_notifications, platform}
+    , m_context {m_store, m_notifications, platform, captureExclusion}
 {
 }
 
@@ -19,6 +22,7 @@ void AppDelegate::applicationDidFinishLaunching()
 {
     m_panelController = std::make_unique<PanelController>(m_context);
     addCommandActions(m_panelController->panelWindow(), [this](Command command) { perform(command); });
+    showOnboarding();
     m_panelController->showPanel();
 }
 
@@ -26,8 +30,21 @@ QWidget* AppDelegate::panelWindow() const { return m_panelController ? &m_panelC
 
 void AppDelegate::applicationWillTerminate()
 {
+    MarkdownEditor::commitComposition();
     m_store.saveEdit();
     m_store.flushToDisk();
+}
+
+void AppDelegate::showOnboarding()
+{
+    if (!OnboardingOverlay::isDue(m_context))
+        return;
+    auto& content = m_panelController->content();
+    const auto overlay = new OnboardingOverlay(m_context, &content);
+    overlay->finished = [overlay, &content] {
+        overlay->deleteLater();
+        content.setFocus();
+    };
 }
 
 void AppDelegate::quit()
@@ -39,6 +56,7 @@ void AppDelegate::quit()
 
 void AppDelegate::perform(Command command)
 {
+    MarkdownEditor::commitComposition(); // the command may end the edit
     switch (command) {
     case Command::NewCard:
         return m_store.addCard();

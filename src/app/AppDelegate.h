@@ -16,7 +16,7 @@ class PanelController;
 /// Owns the store and the panel, starts them in order and ends them safely. Lives as long as the application.
 class AppDelegate final {
 public:
-    explicit AppDelegate(const Platform& platform);
+    AppDelegate(const Platform& platform, CaptureExclusion& captureExclusion);
     AppDelegate(const AppDelegate&) = delete;
     AppDelegate& operator=(const AppDelegate&) = delete;
     ~AppDelegate();
@@ -30,6 +30,7 @@ public:
     void quit();
 
 private:
+    void showOnboarding();
     void perform(Command command);
 
     CardStore m_store;

@@ -1,5 +1,7 @@
 #include "app/AppDelegate.h"
+#include "platform/linux/FontWarmUp.h"
 #include "platform/linux/TerminationSignals.h"
+#include "platform/none/NoCaptureExclusion.h"
 #include "platform/qt/QtPlatform.h"
 
 #include <QApplication>
@@ -9,6 +11,7 @@ using namespace cuebright;
 int main(int, char* argv[])
 {
     TerminationSignals::claim();
+    const FontWarmUp fontWarmUp;
 
     // Only the name: there are no command-line options, so Qt gets none either.
     int argumentCount = 1;
@@ -18,7 +21,8 @@ int main(int, char* argv[])
     QApplication::setDesktopFileName(QStringLiteral("app.cuebright.Cuebright"));
 
     QtPlatform platform;
-    AppDelegate delegate(platform.services());
+    NoCaptureExclusion captureExclusion;
+    AppDelegate delegate(platform.services(), captureExclusion);
     delegate.applicationDidFinishLaunching();
 
     TerminationSignals signals;

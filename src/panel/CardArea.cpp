@@ -1,63 +1,295 @@
 #include "panel/CardArea.h"
 
+#include "foundation/NotificationCenter.h"
 #include "markdown/CardParser.h"
+#include "panel/CardAccessible.h"
+#include "panel/LinkOpener.h"
+#include "platform/MainQueue.h"
 #include "store/CardStore.h"
 #include "theme/QtColors.h"
 
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QMenu>
 #include <QPainter>
 #include <QScrollBar>
 
+#include <algorithm>
 #include <cmath>
 
 namespace cuebright {
 
+namespace {
+
+constexpr int kLineStep = 24;
+constexpr std::chrono::microseconds kLayoutSlice {4000}; ///< between two events
+constexpr double kFocusWidth = 2;
+
+} // namespace
+
 CardArea::CardArea(const PanelContext& context, QWidget* parent)
     : QAbstractScrollArea(parent)
     , m_context(context)
+    , m_transition([this] { viewport()->update(); })
 {
+    CardAccessible::install();
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(QStringLiteral("Card content"));
     viewport()->setAutoFillBackground(false);
-    verticalScrollBar()->setSingleStep(20);
+    viewport()->setMouseTracking(true);
+    verticalScrollBar()->setSingleStep(kLineStep);
 }
 
-void CardArea::refresh()
+CardArea::Key CardArea::currentKey() const
 {
-    const auto card = m_context.store.activeCard();
-    const auto id = card ? std::optional(card->id) : std::nullopt;
+    const auto& store = m_context.store;
+    const auto card = store.activeCard();
+    return {store.deckTransitionId(), store.activeDeckIndex(), store.activeCardIndex(),
+        card ? std::optional(card->id) : std::nullopt};
+}
+
+void CardArea::refresh(Content content, const std::optional<Animation>& animation)
+{
+    const auto key = currentKey();
+    const bool isOther = m_key != key;
+    if (content == Content::Same && !isOther)
+        return;
+    if (isOther && m_key && animation && isVisible()) {
+        const auto& store = m_context.store;
+        m_transition.start(
+            CardTransition::kindFor(store.isDeckSwitch(), store.navigationDirection()), pictureOfFrame(), *animation);
+    } else if (isOther) {
+        m_transition.stop();
+    }
+    m_key = key;
     layOut();
-    if (id != m_shownCard)
+    if (isOther)
         verticalScrollBar()->setValue(0);
-    m_shownCard = id;
+    viewport()->update();
+    CardAccessible::contentChanged(*this);
 }
 
 void CardArea::layOut()
 {
+    m_focusedLink.reset();
+    m_pressedLink.reset();
     const auto card = m_context.store.activeCard();
     if (card)
-        m_layout.emplace(parseMarkdown(card->content), m_context.store.fontSize(), viewport()->width());
+        m_layout.emplace(
+            parseMarkdown(card->content), m_context.store.fontSize(), m_context.colors(), viewport()->width());
     else
         m_layout.reset();
-    const auto height = m_layout ? static_cast<int>(std::ceil(m_layout->height())) : 0;
-    verticalScrollBar()->setPageStep(viewport()->height());
-    verticalScrollBar()->setRange(0, std::max(height - viewport()->height(), 0));
-    viewport()->update();
+    updateScrollRange();
+    goOnLayingOut();
+}
+
+void CardArea::updateScrollRange()
+{
+    const auto viewportHeight = viewport()->height();
+    if (m_layout)
+        m_layout->layOutTo(verticalScrollBar()->value() + viewportHeight);
+    const auto height = m_layout ? static_cast<int>(std::ceil(std::min(m_layout->height(), 1e9))) : 0;
+    verticalScrollBar()->setPageStep(viewportHeight);
+    verticalScrollBar()->setRange(0, std::max(height - viewportHeight, 0));
+}
+
+/// Lays out what is below the screen in slices, so that the scroll bar becomes exact without holding up a key.
+void CardArea::goOnLayingOut()
+{
+    if (m_goesOnLayingOut || !m_layout || m_layout->isComplete())
+        return;
+    m_goesOnLayingOut = true;
+    m_context.platform.mainQueue.post(m_weakTarget.guard([this] {
+        m_goesOnLayingOut = false;
+        if (m_layout)
+            m_layout->layOutFor(kLayoutSlice);
+        updateScrollRange();
+        goOnLayingOut();
+    }));
+}
+
+bool CardArea::scrollPage(Page page)
+{
+    const auto bar = verticalScrollBar();
+    const int before = bar->value();
+    bar->triggerAction(page == Page::Down ? QAbstractSlider::SliderPageStepAdd : QAbstractSlider::SliderPageStepSub);
+    return bar->value() != before;
+}
+
+QRect CardArea::toViewport(const QRectF& rect) const
+{
+    return rect.translated(0, -verticalScrollBar()->value()).toAlignedRect();
 }
 
 void CardArea::paintEvent(QPaintEvent* event)
 {
-    if (!m_layout)
-        return;
     QPainter painter(viewport());
-    const int scrolled = verticalScrollBar()->value();
-    painter.translate(0, -scrolled);
-    m_layout->draw(painter, m_context.colors(), QRectF(event->rect().translated(0, scrolled)));
+    if (m_transition.isRunning())
+        drawFrame(painter);
+    else
+        drawCard(painter, event->rect());
 }
 
-void CardArea::resizeEvent(QResizeEvent*) { layOut(); }
+void CardArea::drawCard(QPainter& painter, const QRect& area)
+{
+    if (!m_layout)
+        return;
+    const int scrolled = verticalScrollBar()->value();
+    painter.translate(0, -scrolled);
+    m_layout->draw(painter, QRectF(area.translated(0, scrolled)));
+    drawFocus(painter);
+}
 
-void CardArea::mouseDoubleClickEvent(QMouseEvent*) { m_context.store.beginEditing(); }
+void CardArea::drawFrame(QPainter& painter)
+{
+    const auto area = viewport()->rect();
+    if (!m_transition.isRunning())
+        return drawCard(painter, area);
+    m_transition.draw(painter, area, [&] { drawCard(painter, area); });
+}
+
+void CardArea::drawFocus(QPainter& painter)
+{
+    if (!hasFocus() || !m_focusedLink)
+        return;
+    const auto links = m_layout->links();
+    if (*m_focusedLink >= links.size())
+        return;
+    painter.setPen(QPen(toQColor(m_context.colors().accent()), kFocusWidth));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(links[*m_focusedLink].rect.adjusted(-2, 0, 2, 0), 3, 3);
+}
+
+QPixmap CardArea::pictureOfFrame()
+{
+    const double scale = devicePixelRatioF();
+    QPixmap picture(viewport()->size() * scale);
+    picture.setDevicePixelRatio(scale);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setFont(font());
+    drawFrame(painter);
+    return picture;
+}
+
+void CardArea::resizeEvent(QResizeEvent*)
+{
+    m_transition.stop();
+    layOut();
+}
+
+void CardArea::scrollContentsBy(int, int)
+{
+    updateScrollRange();
+    viewport()->update();
+}
+
+void CardArea::keyPressEvent(QKeyEvent* event)
+{
+    const auto bar = verticalScrollBar();
+    switch (event->key()) {
+    case Qt::Key_Up:
+        return bar->triggerAction(QAbstractSlider::SliderSingleStepSub);
+    case Qt::Key_Down:
+        return bar->triggerAction(QAbstractSlider::SliderSingleStepAdd);
+    case Qt::Key_Home:
+        return bar->triggerAction(QAbstractSlider::SliderToMinimum);
+    case Qt::Key_End:
+        if (m_layout)
+            m_layout->layOutThrough(m_layout->blocks().size() - 1);
+        updateScrollRange();
+        return bar->triggerAction(QAbstractSlider::SliderToMaximum);
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Space:
+        if (m_layout && m_focusedLink)
+            return openLink(m_layout->links()[*m_focusedLink].target);
+        break;
+    default:
+        break;
+    }
+    event->ignore(); // Page Up and Page Down are for the whole panel
+}
+
+/// Tab goes through the card's links before it leaves the card.
+bool CardArea::focusNextPrevChild(bool next)
+{
+    const auto count = m_layout ? m_layout->links().size() : 0;
+    std::optional<std::size_t> following;
+    if (next)
+        following = m_focusedLink ? *m_focusedLink + 1 : 0;
+    else if (m_focusedLink && *m_focusedLink > 0)
+        following = *m_focusedLink - 1;
+    m_focusedLink = following && *following < count ? following : std::nullopt;
+    viewport()->update();
+    if (!m_focusedLink)
+        return QAbstractScrollArea::focusNextPrevChild(next);
+    const auto rect = m_layout->links()[*m_focusedLink].rect;
+    const auto bar = verticalScrollBar();
+    bar->setValue(std::clamp(bar->value(), static_cast<int>(std::ceil(rect.bottom())) - viewport()->height(),
+        std::max(static_cast<int>(rect.top()), static_cast<int>(std::ceil(rect.bottom())) - viewport()->height())));
+    return true;
+}
+
+void CardArea::focusOutEvent(QFocusEvent* event)
+{
+    m_focusedLink.reset();
+    QAbstractScrollArea::focusOutEvent(event);
+    viewport()->update();
+}
+
+std::optional<std::string> CardArea::linkAt(const QPoint& position) const
+{
+    if (!m_layout || m_transition.isRunning())
+        return std::nullopt;
+    const auto place = QPointF(position) + QPointF(0, verticalScrollBar()->value());
+    for (const auto& link : m_layout->links()) {
+        if (link.rect.contains(place))
+            return link.target;
+    }
+    return std::nullopt;
+}
+
+void CardArea::mousePressEvent(QMouseEvent* event)
+{
+    m_pressedLink = event->button() == Qt::LeftButton ? linkAt(event->pos()) : std::nullopt;
+    event->setAccepted(m_pressedLink.has_value());
+}
+
+void CardArea::mouseMoveEvent(QMouseEvent* event)
+{
+    const auto link = linkAt(event->pos());
+    viewport()->setCursor(link && isOpenableLink(*link) ? Qt::PointingHandCursor : Qt::ArrowCursor);
+}
+
+void CardArea::mouseReleaseEvent(QMouseEvent* event)
+{
+    const auto pressed = std::exchange(m_pressedLink, std::nullopt);
+    if (pressed && pressed == linkAt(event->pos()))
+        openLink(*pressed);
+}
+
+void CardArea::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton && !linkAt(event->pos()))
+        m_context.store.beginEditing();
+}
+
+void CardArea::contextMenuEvent(QContextMenuEvent* event)
+{
+    auto& store = m_context.store;
+    const auto menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->addAction(QStringLiteral("Edit Card"), this, [&store] { store.beginEditing(); });
+    menu->addAction(QStringLiteral("New Card"), this, [&store] { store.addCard(); });
+    menu->addSeparator();
+    const auto remove = menu->addAction(
+        QStringLiteral("Delete Card"), this, [this] { m_context.notifications.post(kDeleteCardNotification); });
+    remove->setEnabled(store.cardCount() >= 2);
+    menu->popup(
+        event->reason() == QContextMenuEvent::Mouse ? event->globalPos() : viewport()->mapToGlobal(QPoint(0, 0)));
+}
 
 } // namespace cuebright

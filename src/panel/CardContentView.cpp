@@ -1,14 +1,18 @@
 #include "panel/CardContentView.h"
 
-#include "panel/CardArea.h"
+#include "foundation/NotificationCenter.h"
+#include "panel/FadeOut.h"
 #include "panel/FooterView.h"
 #include "panel/HeaderView.h"
 #include "panel/MarkdownEditor.h"
+#include "panel/MarkdownToolbar.h"
+#include "panel/TextViewManager.h"
 #include "platform/Accessibility.h"
 #include "platform/MainQueue.h"
 #include "store/CardStore.h"
 #include "theme/QtColors.h"
 
+#include <QKeyEvent>
 #include <QPainter>
 #include <QVBoxLayout>
 
@@ -23,7 +27,22 @@ constexpr int kColumnWidth = 600;
 constexpr int kMinSidePadding = 40;
 constexpr int kTopPadding = 40;
 constexpr int kBottomPadding = 24;
+constexpr int kToolbarGap = 12; ///< below the editor's toolbar
 constexpr int kGap = 20; ///< below the header and below the rule
+
+bool changesTheCard(Change::Property property)
+{
+    switch (property) {
+    case Change::Property::Decks:
+    case Change::Property::ActiveDeckIndex:
+    case Change::Property::ActiveCardIndex:
+    case Change::Property::DeckTransitionId:
+    case Change::Property::FontSize:
+        return true;
+    default:
+        return false;
+    }
+}
 
 /// One line across the column.
 class Rule final : public QWidget {
@@ -47,28 +66,41 @@ private:
 CardContentView::CardContentView(const PanelContext& context, QWidget* parent)
     : QWidget(parent)
     , m_context(context)
+    , m_timerManager(context.platform.clock, context.platform.mainQueue)
+    , m_editorManager(new TextViewManager(this))
     , m_header(new HeaderView(context, this))
     , m_cardArea(new CardArea(context, this))
-    , m_editor(new MarkdownEditor(context, this))
+    , m_editView(new QWidget(this))
+    , m_editor(new MarkdownEditor(context, m_editView))
     , m_rule(new Rule(context, this))
-    , m_footer(new FooterView(context, this))
+    , m_footer(new FooterView(context, m_timerManager, this))
 {
     const auto column = new QVBoxLayout(this);
     column->setSpacing(0);
     column->addWidget(m_header);
     column->addSpacing(kGap);
     column->addWidget(m_cardArea, 1);
-    column->addWidget(m_editor, 1);
+    column->addWidget(m_editView, 1);
     column->addWidget(m_rule);
     column->addSpacing(kGap);
     column->addWidget(m_footer);
-    m_editor->hide();
+    const auto editColumn = new QVBoxLayout(m_editView);
+    editColumn->setContentsMargins(0, 0, 0, 0);
+    editColumn->setSpacing(kToolbarGap);
+    editColumn->addWidget(new MarkdownToolbar(context, *m_editorManager, m_editView));
+    editColumn->addWidget(m_editor, 1);
+    m_editor->setManager(*m_editorManager);
+    m_editView->hide();
     setFocusProxy(m_cardArea);
     refresh();
 
     m_storeSubscription = context.store.willChange.subscribe([this](const Change& change) { takeNotice(change); });
-    m_appearanceSubscription = context.platform.appearance.changed.subscribe([this] { scheduleRefresh(); });
-    m_accessibilitySubscription = context.platform.accessibility.changed.subscribe([this] { scheduleRefresh(); });
+    m_absenceSubscription =
+        context.notifications.observe(kReturnAfterAbsenceNotification, [this] { m_header->pulse(); });
+    m_overwriteSubscription =
+        context.notifications.observe(kToggleOverwriteNotification, [this] { toggleOverwrite(); });
+    m_appearanceSubscription = context.platform.appearance.changed.subscribe([this] { takeChangedLook(); });
+    m_accessibilitySubscription = context.platform.accessibility.changed.subscribe([this] { takeChangedLook(); });
 }
 
 int CardContentView::columnPadding(int width) { return std::max((width - kColumnWidth) / 2, kMinSidePadding); }
@@ -77,7 +109,23 @@ void CardContentView::takeNotice(const Change& change)
 {
     if (change.property == Change::Property::IsEditing && !m_context.store.isEditing())
         m_editBegins = true;
+    if (changesTheCard(change.property))
+        m_cardContent = CardArea::Content::Stale;
+    if (change.animation)
+        m_animation = change.animation;
     scheduleRefresh();
+}
+
+void CardContentView::takeChangedLook()
+{
+    m_cardContent = CardArea::Content::Stale;
+    scheduleRefresh();
+}
+
+void CardContentView::toggleOverwrite()
+{
+    m_editorManager->setOverwriteMode(!m_editorManager->isOverwriteMode());
+    m_context.store.showFeedback(m_editorManager->isOverwriteMode() ? "Overwrite" : "Insert");
 }
 
 void CardContentView::scheduleRefresh()
@@ -95,24 +143,45 @@ void CardContentView::refresh()
 {
     m_header->refresh();
     m_footer->refresh();
-    m_editor->refreshStyle();
+    m_editor->refresh();
     if (m_context.store.isEditing() && std::exchange(m_editBegins, false))
         m_editor->open();
-    showEditor(m_context.store.isEditing());
-    if (!m_showsEditor)
-        m_cardArea->refresh();
+    const auto content = std::exchange(m_cardContent, CardArea::Content::Same);
+    const auto animation = std::exchange(m_animation, std::nullopt);
+    const bool staysWithTheCard = !m_showsEditor && !m_context.store.isEditing();
+    m_cardArea->refresh(content, staysWithTheCard ? animation : std::nullopt);
+    showEditor(m_context.store.isEditing(), animation);
     update();
 }
 
-void CardContentView::showEditor(bool isEditing)
+void CardContentView::showEditor(bool isEditing, const std::optional<Animation>& animation)
 {
     if (isEditing == m_showsEditor)
         return;
+    const auto leaving = m_showsEditor ? m_editView : static_cast<QWidget*>(m_cardArea);
+    const auto arriving = m_showsEditor ? static_cast<QWidget*>(m_cardArea) : m_editView;
+    if (animation && isVisible())
+        new FadeOut(grab(leaving->geometry()), leaving->geometry(), *animation, this);
     m_showsEditor = isEditing;
-    m_cardArea->setVisible(!isEditing);
-    m_editor->setVisible(isEditing);
+    leaving->hide();
+    arriving->show();
     setFocusProxy(isEditing ? static_cast<QWidget*>(m_editor) : m_cardArea);
     setFocus();
+}
+
+/// What presentation remotes send: what nothing else takes scrolls the card, then steps through the deck.
+void CardContentView::keyPressEvent(QKeyEvent* event)
+{
+    const bool isPageKey = event->key() == Qt::Key_PageDown || event->key() == Qt::Key_PageUp;
+    if (!isPageKey || event->modifiers() != Qt::NoModifier || m_showsEditor)
+        return QWidget::keyPressEvent(event);
+    const bool goesOn = event->key() == Qt::Key_PageDown;
+    if (m_cardArea->scrollPage(goesOn ? CardArea::Page::Down : CardArea::Page::Up))
+        return;
+    if (goesOn)
+        m_context.store.nextCard();
+    else
+        m_context.store.prevCard();
 }
 
 void CardContentView::paintEvent(QPaintEvent* event)

@@ -5,17 +5,22 @@
 #include "markdown/Block.h"
 #include "markdown/BlockMetrics.h"
 #include "markdown/CardParser.h"
+#include "markdown/StyledText.h"
+#include "panel/CardArea.h"
 #include "panel/PanelContext.h"
+#include "store/Change.h"
+#include "timer/TimerManager.h"
 
 #include <QWidget>
 
+#include <optional>
+
 namespace cuebright {
 
-class CardArea;
-struct Change;
 class FooterView;
 class HeaderView;
 class MarkdownEditor;
+class TextViewManager;
 
 /// The whole content of the panel: header, the card or its editor, a rule, footer. Follows the store, once per turn of
 /// the event loop however much has changed.
@@ -31,31 +36,47 @@ public:
     {
         return cuebright::parseMarkdown(content);
     }
+    [[nodiscard]] static std::vector<StyledRun> renderInline(
+        std::string_view text, double fontSize, const Colors& colors)
+    {
+        return cuebright::renderInline(text, fontSize, colors);
+    }
     [[nodiscard]] static double bottomPadding(const Block& block) { return cuebright::bottomPadding(block.kind); }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
     void takeNotice(const Change& change);
+    void takeChangedLook();
+    void toggleOverwrite();
     void scheduleRefresh();
     void refresh();
-    void showEditor(bool isEditing);
+    void showEditor(bool isEditing, const std::optional<Animation>& animation);
 
     const PanelContext& m_context;
+    TimerManager m_timerManager;
+    TextViewManager* m_editorManager;
     HeaderView* m_header;
     CardArea* m_cardArea;
+    QWidget* m_editView;
     MarkdownEditor* m_editor;
     QWidget* m_rule;
     FooterView* m_footer;
     bool m_refreshScheduled = false;
     bool m_showsEditor = false;
-    bool m_editBegins = false; ///< since the last refresh, even if another one ended in the same turn
+    // What the notices since the last refresh said:
+    CardArea::Content m_cardContent = CardArea::Content::Stale;
+    std::optional<Animation> m_animation;
+    bool m_editBegins = false; ///< even if another one ended in the same turn
     WeakTarget m_weakTarget;
     Subscription m_storeSubscription;
     Subscription m_appearanceSubscription;
     Subscription m_accessibilitySubscription;
+    Subscription m_absenceSubscription;
+    Subscription m_overwriteSubscription;
 };
 
 } // namespace cuebright

@@ -9,6 +9,8 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <cmath>
+#include <utility>
 
 namespace cuebright {
 
@@ -19,13 +21,14 @@ constexpr double kBulletLift = 1;
 constexpr double kBulletGap = 16;
 constexpr double kNumberMinWidth = 20;
 constexpr double kNumberGap = 12;
-constexpr double kUnlimitedWidth = 1e6;
 constexpr double kBarWidth = 3;
 constexpr double kBarRadius = 1.5;
 constexpr double kBarOpacity = 0.5;
 constexpr double kBarGap = 14;
 constexpr double kEmptyCardTop = 8;
 constexpr double kEmptyCardOpacity = 0.5;
+constexpr double kUnlimitedWidth = 1e6;
+constexpr int kLongestPiece = 4096; ///< UTF-16 units; longer texts cost more than their length to break
 
 QFont italic(QFont font)
 {
@@ -48,121 +51,326 @@ QFont fontOf(Block::Kind kind, double fontSize)
     return systemFont(fontSize);
 }
 
+QTextCharFormat formatOf(const StyledRun& run)
+{
+    QTextCharFormat format;
+    if (run.monospacedSize) {
+        const auto font = monospacedFont(*run.monospacedSize);
+        format.setFontFamilies(font.families());
+        format.setProperty(QTextFormat::FontPixelSize, font.pixelSize());
+        format.setFontStyleHint(QFont::Monospace);
+        format.setFontWeight(QFont::Normal); // not the heading's
+        format.setFontItalic(false); // nor the quote's
+    }
+    if (run.isBold)
+        format.setFontWeight(QFont::Bold);
+    if (run.isItalic)
+        format.setFontItalic(true);
+    if (run.isUnderlined)
+        format.setFontUnderline(true);
+    if (run.foreground)
+        format.setForeground(toQColor(*run.foreground));
+    if (run.background)
+        format.setBackground(toQColor(*run.background));
+    return format;
+}
+
+/// For the eye a carriage return is a blank; the number of units stays the same.
+QString displayText(const std::string& utf8) { return toQString(utf8).replace(QLatin1Char('\r'), QLatin1Char(' ')); }
+
 std::unique_ptr<QTextLayout> makeText(const QString& text, const QFont& font)
 {
     auto layout = std::make_unique<QTextLayout>(text, font);
-    layout->setCacheEnabled(true);
     QTextOption option;
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    option.setTextDirection(Qt::LayoutDirectionAuto);
     layout->setTextOption(option);
     return layout;
 }
 
-/// Breaks the text into lines with so much extra space between them; returns its height.
-double breakLines(QTextLayout& layout, double width, double lineSpacing)
+/// Breaks the text into lines with so much extra space between them.
+void breakLines(QTextLayout& layout, double width, double spacing)
 {
     double y = 0;
     layout.beginLayout();
     for (auto line = layout.createLine(); line.isValid(); line = layout.createLine()) {
         line.setLineWidth(std::max(width, 1.0));
         if (line.lineNumber() > 0)
-            y += lineSpacing;
+            y += spacing;
         line.setPosition({0, y});
         y += line.height();
     }
     layout.endLayout();
-    return y;
+}
+
+double bottomOfLine(const QTextLayout& layout, int index)
+{
+    const auto line = layout.lineAt(index);
+    return line.y() + line.height();
+}
+
+/// Where a piece that starts at `start` may end, not between two halves of one character.
+int pieceEnd(const QString& text, int start)
+{
+    const auto end = std::min(start + kLongestPiece, static_cast<int>(text.size()));
+    return end < text.size() && text[end].isLowSurrogate() ? end - 1 : end;
 }
 
 } // namespace
 
-CardLayout::CardLayout(const std::vector<Block>& blocks, double fontSize, double width)
-    : m_fontSize(fontSize)
+CardLayout::CardLayout(std::vector<Block> blocks, double fontSize, const Colors& colors, double width)
+    : m_blocks(std::move(blocks))
+    , m_fontSize(fontSize)
+    , m_colors(colors)
     , m_width(width)
-    , m_isEmptyCard(blocks.empty())
+    , m_isEmptyCard(m_blocks.empty())
 {
     if (m_isEmptyCard) {
-        Row row = makeRow({Block::Kind::Paragraph, "Empty card"}, kEmptyCardTop);
-        row.text->setFont(italic(systemFont(fontSize)));
-        breakLines(*row.text, width, 0);
-        m_height = row.rect.bottom();
-        m_rows.push_back(std::move(row));
-        return;
+        m_blocks.push_back({Block::Kind::Paragraph, "Empty card"});
+        m_bottom = kEmptyCardTop;
     }
-    m_rows.reserve(blocks.size());
-    for (const auto& block : blocks) {
-        m_rows.push_back(makeRow(block, m_height));
-        m_height = m_rows.back().rect.bottom() + bottomPadding(block.kind);
+    for (const auto& block : m_blocks)
+        m_estimatedRest += estimatedHeight(block);
+}
+
+double CardLayout::estimatedHeight(const Block& block) const
+{
+    const double size = block.kind == Block::Kind::Heading ? headingSize(m_fontSize) : m_fontSize;
+    const double letterWidth = size * 0.5;
+    const double lineHeight = size * 1.2 + lineSpacing(block.kind);
+    const double lines = std::ceil(static_cast<double>(block.text.size()) * letterWidth / std::max(m_width, 1.0));
+    return std::max(lines, 1.0) * lineHeight + bottomPadding(block.kind);
+}
+
+void CardLayout::layOutTo(double y)
+{
+    while (m_nextBlock < m_blocks.size() && m_bottom <= y)
+        layOutPiece();
+}
+
+void CardLayout::layOutFor(std::chrono::microseconds time)
+{
+    const auto end = std::chrono::steady_clock::now() + time;
+    while (m_nextBlock < m_blocks.size() && std::chrono::steady_clock::now() < end)
+        layOutPiece();
+}
+
+void CardLayout::openBlock(const Block& block)
+{
+    for (const auto& run : renderInline(block.text, m_fontSize, m_colors)) {
+        const auto text = displayText(run.text);
+        const auto start = static_cast<int>(m_open.text.size());
+        const auto length = static_cast<int>(text.size());
+        m_open.formats.push_back({start, length, formatOf(run)});
+        if (run.link)
+            m_open.links.push_back({start, length, *run.link});
+        m_open.text += text;
     }
 }
 
-CardLayout::Row CardLayout::makeRow(const Block& block, double top) const
+void CardLayout::layOutPiece()
 {
-    Row row {.kind = block.kind,
-        .rect = {},
-        .text = makeText(toQString(block.text), fontOf(block.kind, m_fontSize)),
-        .textOrigin = {0, top},
-        .baseline = 0,
-        .label = nullptr,
-        .labelOrigin = {}};
-    if (block.kind == Block::Kind::Bullet) {
-        row.textOrigin.rx() = kBulletSide + kBulletGap;
-    } else if (block.kind == Block::Kind::Blockquote) {
-        row.textOrigin.rx() = kBarWidth + kBarGap;
-    } else if (block.kind == Block::Kind::NumberedItem) {
-        row.label =
+    const auto& block = m_blocks[m_nextBlock];
+    const bool isFirst = m_open.start == 0;
+    if (isFirst)
+        openBlock(block);
+
+    const int start = m_open.start;
+    const int end = pieceEnd(m_open.text, start);
+    const bool isLast = end == m_open.text.size();
+    Piece piece {};
+    piece.block = m_nextBlock;
+    piece.isFirst = isFirst;
+    piece.top = m_bottom;
+    const auto font = m_isEmptyCard ? italic(systemFont(m_fontSize)) : fontOf(block.kind, m_fontSize);
+    piece.text = makeText(m_open.text.mid(start, end - start), font);
+    QList<QTextLayout::FormatRange> formats;
+    for (auto format : m_open.formats) {
+        const int from = std::max(format.start, start);
+        const int to = std::min(format.start + format.length, end);
+        if (from < to)
+            formats.push_back({from - start, to - from, format.format});
+    }
+    piece.text->setFormats(formats);
+    piece.origin = {textIndent(piece), piece.top};
+    breakLines(*piece.text, m_width - piece.origin.x(), lineSpacing(block.kind));
+
+    // The last line goes on in the next piece, so that one begins with it.
+    piece.lineCount = isLast ? piece.text->lineCount() : std::max(piece.text->lineCount() - 1, 1);
+    const auto lastLine = piece.text->lineAt(piece.lineCount - 1);
+    m_open.start = start + lastLine.textStart() + lastLine.textLength();
+    placeBaselines(piece);
+    addLinks(piece, start, m_open.start - start);
+
+    m_bottom = piece.bottom + (isLast ? 0 : lineSpacing(block.kind));
+    m_pieces.push_back(std::move(piece));
+    if (isLast)
+        closeBlock(block);
+}
+
+void CardLayout::closeBlock(const Block& block)
+{
+    m_bottom += m_isEmptyCard ? 0 : bottomPadding(block.kind);
+    m_estimatedRest -= estimatedHeight(block);
+    m_open = {};
+    ++m_nextBlock;
+    if (m_nextBlock == m_blocks.size())
+        m_estimatedRest = 0; // no rounding stays
+}
+
+/// The text's distance from the left edge; makes a numbered item's label.
+double CardLayout::textIndent(Piece& piece) const
+{
+    const auto& block = m_blocks[piece.block];
+    switch (block.kind) {
+    case Block::Kind::Bullet:
+        return kBulletSide + kBulletGap;
+    case Block::Kind::Blockquote:
+        return kBarWidth + kBarGap;
+    case Block::Kind::NumberedItem: {
+        piece.label =
             makeText(QString::number(block.number) + QLatin1Char('.'), monospacedFont(m_fontSize, QFont::DemiBold));
-        breakLines(*row.label, kUnlimitedWidth, 0);
-        const double labelWidth = row.label->lineAt(0).naturalTextWidth();
+        breakLines(*piece.label, kUnlimitedWidth, 0);
+        const double labelWidth = piece.label->lineAt(0).naturalTextWidth();
         const double boxWidth = std::max(labelWidth, kNumberMinWidth);
-        row.labelOrigin.rx() = boxWidth - labelWidth;
-        row.textOrigin.rx() = boxWidth + kNumberGap;
+        piece.labelOrigin.rx() = boxWidth - labelWidth;
+        if (!piece.isFirst)
+            piece.label.reset();
+        return boxWidth + kNumberGap;
     }
-
-    const double textHeight = breakLines(*row.text, m_width - row.textOrigin.x(), lineSpacing(block.kind));
-    double ascent = row.text->lineAt(0).ascent();
-    double height = textHeight;
-    if (row.label) {
-        // Both stand on one baseline; the taller ascent decides where that is.
-        const auto labelLine = row.label->lineAt(0);
-        const double lift = std::max(labelLine.ascent() - ascent, 0.0);
-        row.textOrigin.ry() += lift;
-        ascent += lift;
-        row.labelOrigin.ry() = top + ascent - labelLine.ascent();
-        height = std::max(textHeight + lift, ascent + labelLine.descent());
+    case Block::Kind::Heading:
+    case Block::Kind::Paragraph:
+        break;
     }
-    row.baseline = top + ascent;
-    row.rect = QRectF(0, top, m_width, height);
-    return row;
+    return 0;
 }
 
-void CardLayout::draw(QPainter& painter, const Colors& colors, const QRectF& visible) const
+/// Puts label and text on one baseline; the taller ascent decides where that is.
+void CardLayout::placeBaselines(Piece& piece) const
 {
+    const double ascent = piece.text->lineAt(0).ascent();
+    piece.bottom = piece.top + bottomOfLine(*piece.text, piece.lineCount - 1);
+    piece.baseline = piece.top + ascent;
+    if (!piece.label)
+        return;
+    const auto labelLine = piece.label->lineAt(0);
+    const double lift = std::max(labelLine.ascent() - ascent, 0.0);
+    piece.origin.ry() += lift;
+    piece.baseline += lift;
+    piece.labelOrigin.ry() = piece.baseline - labelLine.ascent();
+    piece.bottom = std::max(piece.bottom + lift, piece.baseline + labelLine.descent());
+}
+
+void CardLayout::addLinks(Piece& piece, int start, int length) const
+{
+    for (const auto& link : m_open.links) {
+        const int from = std::max(link.start, start);
+        const int to = std::min(link.start + link.length, start + length);
+        if (from < to)
+            piece.links.push_back({from - start, to - from, link.target});
+    }
+}
+
+void CardLayout::draw(QPainter& painter, const QRectF& visible)
+{
+    layOutTo(visible.bottom());
     painter.setRenderHint(QPainter::Antialiasing);
-    const auto isAbove = [&](const Row& row) { return row.rect.bottom() < visible.top(); };
-    auto row = std::partition_point(m_rows.begin(), m_rows.end(), isAbove);
-    for (; row != m_rows.end() && row->rect.top() <= visible.bottom(); ++row)
-        drawRow(painter, colors, *row);
+    const auto isAbove = [&](const Piece& piece) { return piece.bottom < visible.top(); };
+    auto piece = std::partition_point(m_pieces.begin(), m_pieces.end(), isAbove);
+    for (; piece != m_pieces.end() && piece->top <= visible.bottom(); ++piece) {
+        drawMarker(painter, *piece);
+        const bool isMuted = m_isEmptyCard || m_blocks[piece->block].kind == Block::Kind::Blockquote;
+        const auto ink = isMuted ? m_colors.muted() : m_colors.text();
+        painter.setPen(toQColor(ink.withAlpha(m_isEmptyCard ? kEmptyCardOpacity : 1)));
+        piece->text->setCacheEnabled(true); // what is seen once is drawn again soon
+        for (int i = 0; i < piece->lineCount; ++i) {
+            const auto line = piece->text->lineAt(i);
+            const double lineTop = piece->origin.y() + line.y();
+            if (lineTop <= visible.bottom() && lineTop + line.height() >= visible.top())
+                line.draw(&painter, piece->origin);
+        }
+    }
 }
 
-void CardLayout::drawRow(QPainter& painter, const Colors& colors, const Row& row) const
+void CardLayout::drawMarker(QPainter& painter, const Piece& piece) const
 {
-    painter.setPen(Qt::NoPen);
-    if (row.kind == Block::Kind::Bullet) {
-        painter.fillRect(
-            QRectF(0, row.baseline - kBulletSide - kBulletLift, kBulletSide, kBulletSide), toQColor(colors.accent()));
-    } else if (row.kind == Block::Kind::Blockquote) {
-        painter.setBrush(toQColor(colors.accent().withAlpha(kBarOpacity)));
-        painter.drawRoundedRect(QRectF(0, row.rect.top(), kBarWidth, row.rect.height()), kBarRadius, kBarRadius);
+    const auto kind = m_blocks[piece.block].kind;
+    if (kind == Block::Kind::Blockquote) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(toQColor(m_colors.accent().withAlpha(kBarOpacity)));
+        painter.drawRoundedRect(QRectF(0, piece.top, kBarWidth, piece.bottom - piece.top), kBarRadius, kBarRadius);
         painter.setBrush(Qt::NoBrush);
-    } else if (row.label) {
-        painter.setPen(toQColor(colors.accent()));
-        row.label->draw(&painter, row.labelOrigin);
+    } else if (kind == Block::Kind::Bullet && piece.isFirst) {
+        painter.fillRect(QRectF(0, piece.baseline - kBulletSide - kBulletLift, kBulletSide, kBulletSide),
+            toQColor(m_colors.accent()));
+    } else if (piece.label) {
+        painter.setPen(toQColor(m_colors.accent()));
+        piece.label->draw(&painter, piece.labelOrigin);
     }
-    const bool isMuted = row.kind == Block::Kind::Blockquote || m_isEmptyCard;
-    const auto ink = isMuted ? colors.muted() : colors.text();
-    painter.setPen(toQColor(ink.withAlpha(m_isEmptyCard ? kEmptyCardOpacity : 1)));
-    row.text->draw(&painter, row.textOrigin);
+}
+
+void CardLayout::layOutThrough(std::size_t block)
+{
+    while (m_nextBlock <= block && m_nextBlock < m_blocks.size())
+        layOutPiece();
+}
+
+std::vector<CardLayout::Piece>::const_iterator CardLayout::firstPieceOf(std::size_t block) const
+{
+    return std::partition_point(
+        m_pieces.begin(), m_pieces.end(), [block](const Piece& piece) { return piece.block < block; });
+}
+
+QRectF CardLayout::blockRect(std::size_t block)
+{
+    layOutThrough(block);
+    QRectF rect;
+    for (auto piece = firstPieceOf(block); piece != m_pieces.end() && piece->block == block; ++piece)
+        rect |= QRectF(0, piece->top, m_width, piece->bottom - piece->top);
+    return rect;
+}
+
+QString CardLayout::blockText(std::size_t block) const
+{
+    QString text;
+    for (const auto& run : renderInline(m_blocks[block].text, m_fontSize, m_colors))
+        text += displayText(run.text);
+    return text;
+}
+
+std::vector<CardLayout::Link> CardLayout::links() const
+{
+    std::vector<Link> places;
+    for (const auto& piece : m_pieces)
+        appendLinks(piece, places);
+    return places;
+}
+
+std::vector<CardLayout::Link> CardLayout::linksIn(std::size_t block)
+{
+    layOutThrough(block);
+    std::vector<Link> places;
+    for (auto piece = firstPieceOf(block); piece != m_pieces.end() && piece->block == block; ++piece)
+        appendLinks(*piece, places);
+    return places;
+}
+
+void CardLayout::appendLinks(const Piece& piece, std::vector<Link>& places)
+{
+    for (const auto& link : piece.links) {
+        for (int i = 0; i < piece.lineCount; ++i) {
+            const auto line = piece.text->lineAt(i);
+            const int from = std::max(link.start, line.textStart());
+            const int to = std::min(link.start + link.length, line.textStart() + line.textLength());
+            if (from >= to)
+                continue;
+            const double left = line.cursorToX(from);
+            const double right = line.cursorToX(to);
+            const QRectF rect(std::min(left, right), line.y(), std::abs(right - left), line.height());
+            places.push_back(
+                {link.target, piece.text->text().mid(from, to - from), piece.block, rect.translated(piece.origin)});
+        }
+    }
 }
 
 } // namespace cuebright

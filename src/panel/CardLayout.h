@@ -1,48 +1,111 @@
 #pragma once
 
 #include "markdown/Block.h"
+#include "markdown/StyledText.h"
 #include "theme/Colors.h"
 
+#include <QPointF>
 #include <QRectF>
+#include <QString>
 #include <QTextLayout>
 
+#include <chrono>
 #include <memory>
-#include <optional>
+#include <string>
 #include <vector>
 
 class QPainter;
 
 namespace cuebright {
 
-/// A card's blocks placed below one another in a given width, ready to be drawn. Pure: it depends on nothing but what
-/// it is made from; colours come in when it is drawn.
+/// A card's blocks placed below one another in a given width, ready to be drawn.
+///
+/// Text is laid out from the top as far as somebody looks, and the height of the rest is estimated, so that a card of
+/// any length opens at once; a block of any length is laid out in pieces. Coordinates are logical pixels from the top
+/// left.
 class CardLayout final {
 public:
-    /// `fontSize` and `width` in logical pixels.
-    CardLayout(const std::vector<Block>& blocks, double fontSize, double width);
-
-    [[nodiscard]] double height() const { return m_height; }
-    void draw(QPainter& painter, const Colors& colors, const QRectF& visible) const;
-
-private:
-    struct Row {
-        Block::Kind kind;
-        QRectF rect; ///< without the space below
-        std::unique_ptr<QTextLayout> text;
-        QPointF textOrigin;
-        double baseline = 0; ///< of the text's first line
-        std::unique_ptr<QTextLayout> label; ///< a numbered item's number
-        QPointF labelOrigin;
+    /// A place to click, or to reach by keyboard: one for each line that a link covers.
+    struct Link {
+        std::string target; ///< as written
+        QString text;
+        std::size_t block;
+        QRectF rect;
     };
 
-    [[nodiscard]] Row makeRow(const Block& block, double top) const;
-    void drawRow(QPainter& painter, const Colors& colors, const Row& row) const;
+    CardLayout(std::vector<Block> blocks, double fontSize, const Colors& colors, double width);
 
+    [[nodiscard]] const std::vector<Block>& blocks() const { return m_blocks; }
+    /// Exact once everything is laid out; a guess below what is.
+    [[nodiscard]] double height() const { return m_bottom + m_estimatedRest; }
+    [[nodiscard]] bool isComplete() const { return m_nextBlock == m_blocks.size(); }
+
+    /// Lays out everything that starts above `y`.
+    void layOutTo(double y);
+    void layOutThrough(std::size_t block);
+    /// Lays out more, for about so long.
+    void layOutFor(std::chrono::microseconds time);
+
+    /// Draws what lies in `visible`, laying it out where needed.
+    void draw(QPainter& painter, const QRectF& visible);
+
+    /// Where a block is, without the space below it; lays it out where needed.
+    [[nodiscard]] QRectF blockRect(std::size_t block);
+    /// A block's text without its markers.
+    [[nodiscard]] QString blockText(std::size_t block) const;
+    /// The links of what is laid out, from the top.
+    [[nodiscard]] std::vector<Link> links() const;
+    [[nodiscard]] std::vector<Link> linksIn(std::size_t block);
+
+private:
+    struct LinkRange {
+        int start; ///< in the piece's text
+        int length;
+        std::string target;
+    };
+    /// Some lines of one block.
+    struct Piece {
+        std::size_t block;
+        QPointF origin; ///< of the text
+        double top;
+        double bottom; ///< without the space below the block
+        double baseline; ///< of the first line
+        int lineCount; ///< the layout may hold one more, which begins the next piece
+        bool isFirst;
+        std::unique_ptr<QTextLayout> text;
+        std::unique_ptr<QTextLayout> label; ///< a numbered item's number
+        QPointF labelOrigin;
+        std::vector<LinkRange> links;
+    };
+    /// The block that is being laid out.
+    struct OpenBlock {
+        QString text;
+        QList<QTextLayout::FormatRange> formats;
+        std::vector<LinkRange> links; ///< in the block's text
+        int start = 0; ///< of the next piece
+    };
+
+    [[nodiscard]] double estimatedHeight(const Block& block) const;
+    [[nodiscard]] double textIndent(Piece& piece) const;
+    void openBlock(const Block& block);
+    void layOutPiece();
+    void closeBlock(const Block& block);
+    void placeBaselines(Piece& piece) const;
+    void addLinks(Piece& piece, int start, int length) const;
+    [[nodiscard]] std::vector<Piece>::const_iterator firstPieceOf(std::size_t block) const;
+    static void appendLinks(const Piece& piece, std::vector<Link>& places);
+    void drawMarker(QPainter& painter, const Piece& piece) const;
+
+    std::vector<Block> m_blocks;
     double m_fontSize;
+    Colors m_colors;
     double m_width;
-    double m_height = 0;
-    bool m_isEmptyCard = false;
-    std::vector<Row> m_rows;
+    bool m_isEmptyCard;
+    double m_bottom = 0; ///< of what is laid out
+    double m_estimatedRest = 0;
+    std::size_t m_nextBlock = 0;
+    OpenBlock m_open;
+    std::vector<Piece> m_pieces;
 };
 
 } // namespace cuebright

@@ -13,7 +13,8 @@ namespace cuebright {
 namespace {
 
 constexpr int kHeight = 28;
-constexpr int kArrowWidth = 30;
+constexpr int kFrameWidth = 30;
+constexpr int kSymbolSize = 13;
 constexpr int kTitlePadding = 10;
 constexpr double kTitleSpacing = 1;
 
@@ -27,14 +28,11 @@ QFont fontOf(ChromeButton::Kind kind)
 } // namespace
 
 ChromeButton::ChromeButton(const PanelContext& context, Kind kind, const QString& text, QWidget* parent)
-    : QAbstractButton(parent)
-    , m_context(context)
+    : PanelButton(context, parent)
     , m_kind(kind)
 {
     setText(text);
     setFont(fontOf(kind));
-    setFocusPolicy(Qt::TabFocus);
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     m_press.setDuration(CuebrightChromeStyle::kPressAnimationTime);
     m_press.setEasingCurve(QEasingCurve::OutQuad);
     m_press.setStartValue(0.0);
@@ -44,10 +42,18 @@ ChromeButton::ChromeButton(const PanelContext& context, Kind kind, const QString
     connect(this, &QAbstractButton::released, this, [this] { animatePress(false); });
 }
 
+ChromeButton::ChromeButton(const PanelContext& context, Icon icon, const QString& name, QWidget* parent)
+    : ChromeButton(context, Kind::Symbol, {}, parent)
+{
+    m_icon = icon;
+    setToolTip(name);
+    setAccessibleName(name);
+}
+
 QSize ChromeButton::sizeHint() const
 {
-    if (m_kind == Kind::Arrow)
-        return {kArrowWidth, kHeight};
+    if (m_kind != Kind::Title)
+        return {kFrameWidth, kHeight};
     return {static_cast<int>(std::ceil(QFontMetricsF(font()).horizontalAdvance(text()))) + 2 * kTitlePadding, kHeight};
 }
 
@@ -65,6 +71,11 @@ void ChromeButton::paintEvent(QPaintEvent*)
     QPainter painter(this);
     const CuebrightChromeStyle::State state {m_press.currentValue().toDouble(), isEnabled(), hasFocus()};
     CuebrightChromeStyle(m_context.colors()).draw(painter, rect(), state, [this](QPainter& labelPainter) {
+        if (m_icon) {
+            QRectF symbol(0, 0, kSymbolSize, kSymbolSize);
+            symbol.moveCenter(QRectF(rect()).center());
+            return drawIcon(labelPainter, *m_icon, symbol, labelPainter.pen().color());
+        }
         labelPainter.setFont(font());
         labelPainter.drawText(rect(), Qt::AlignCenter, text());
     });

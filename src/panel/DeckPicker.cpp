@@ -1,12 +1,18 @@
 #include "panel/DeckPicker.h"
 
+#include "foundation/NotificationCenter.h"
+#include "panel/DeckNameDialog.h"
+#include "panel/FocusRing.h"
+#include "panel/OpenMenus.h"
 #include "panel/TextConversion.h"
 #include "store/CardStore.h"
 #include "theme/Fonts.h"
 #include "theme/QtColors.h"
 
+#include <QContextMenuEvent>
 #include <QFontMetricsF>
 #include <QPainter>
+#include <QProxyStyle>
 
 #include <cmath>
 
@@ -16,80 +22,155 @@ namespace {
 
 constexpr double kLetterSpacing = 1.8;
 constexpr int kChevronWidth = 7;
-constexpr int kChevronGap = 4;
-constexpr int kPadding = 4; ///< room for the focus ring
+constexpr int kChevronGap = 5;
+constexpr int kMenuGap = 6;
+constexpr int kMenuTextWidth = 400;
+constexpr qsizetype kShownCharacters = 500; ///< more than fit into any panel
+
+/// Fusion spreads a long menu over columns.
+class ScrollingMenuStyle final : public QProxyStyle {
+public:
+    int styleHint(
+        StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* returned) const override
+    {
+        return hint == SH_Menu_Scrollable ? 1 : QProxyStyle::styleHint(hint, option, widget, returned);
+    }
+};
+
+/// The start of a name, on one line.
+QString shownName(const std::string& deckName)
+{
+    auto name = toQString(deckName).left(kShownCharacters);
+    for (auto& c : name) {
+        if (c.isSpace() || c.category() == QChar::Other_Control)
+            c = QLatin1Char(' ');
+    }
+    return name;
+}
 
 /// The picker's menu marks the active deck in its text, so that all names line up in every style.
-QString menuText(const Deck& deck, bool isActive)
+QString menuText(const Deck& deck, bool isActive, const QFontMetrics& metrics)
 {
-    return (isActive ? QStringLiteral("✓  ") : QStringLiteral("    ")) + toActionText(deck.name);
+    const auto name = metrics.elidedText(shownName(deck.name), Qt::ElideRight, kMenuTextWidth);
+    return (isActive ? QStringLiteral("✓  ") : QStringLiteral("    ")) + toActionText(toUtf8(name));
 }
 
 } // namespace
 
 DeckPicker::DeckPicker(const PanelContext& context, QWidget* parent)
-    : QAbstractButton(parent)
-    , m_context(context)
-    , m_menu(this)
+    : PanelButton(context, parent)
+    , m_decks(this)
+    , m_commands(this)
 {
+    offerOpenMenusToScreenReaders(*this);
     setFont(letterSpaced(monospacedFont(11, QFont::Medium), kLetterSpacing));
-    setFocusPolicy(Qt::TabFocus);
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     setAccessibleDescription(QStringLiteral("Choose which deck to display"));
+    new FocusRing(context, this);
     connect(this, &QAbstractButton::clicked, this, &DeckPicker::openMenu);
+    m_renameSubscription = context.notifications.observe(kRenameDeckNotification, [this] { showRenameDeckAlert(); });
 }
 
 void DeckPicker::refresh()
 {
-    setText(toQString(m_context.store.deckName()).simplified().toUpper());
-    setAccessibleName(QStringLiteral("Active deck: ") + toQString(m_context.store.deckName()));
+    const auto deckName = m_context.store.deckName();
+    const auto name = shownName(deckName).toUpper();
+    setAccessibleName(QStringLiteral("Active deck: ") + toQString(deckName));
+    if (name == m_name)
+        return;
+    m_name = name;
     updateGeometry();
     update();
 }
 
-QSize DeckPicker::sizeHint() const
+void DeckPicker::showNewDeckAlert()
 {
-    const QFontMetricsF metrics(font());
-    return {static_cast<int>(std::ceil(metrics.horizontalAdvance(text()))) + kChevronGap + kChevronWidth + 2 * kPadding,
-        static_cast<int>(std::ceil(metrics.height())) + kPadding};
+    if (!m_newDeckAlert)
+        m_newDeckAlert = new DeckNameDialog(
+            DeckNameDialog::newDeck(), [this](const auto& name) { m_context.store.createNewDeck(name); }, this);
+    m_newDeckAlert->ask({});
 }
 
-QSize DeckPicker::minimumSizeHint() const { return {kChevronGap + kChevronWidth + 2 * kPadding, sizeHint().height()}; }
+void DeckPicker::showRenameDeckAlert()
+{
+    if (!m_renameDeckAlert)
+        m_renameDeckAlert = new DeckNameDialog(
+            DeckNameDialog::renameDeck(), [this](const auto& name) { m_context.store.renameDeck(name); }, this);
+    m_renameDeckAlert->ask(m_context.store.deckName());
+}
+
+double DeckPicker::nameWidth() const
+{
+    return m_name.isEmpty() ? 0 : QFontMetricsF(font()).horizontalAdvance(m_name) - kLetterSpacing;
+}
+
+QSize DeckPicker::sizeHint() const
+{
+    return {static_cast<int>(std::ceil(nameWidth())) + kChevronGap + kChevronWidth,
+        static_cast<int>(std::ceil(QFontMetricsF(font()).height()))};
+}
+
+QSize DeckPicker::minimumSizeHint() const { return {kChevronGap + kChevronWidth, sizeHint().height()}; }
 
 void DeckPicker::openMenu()
 {
-    m_menu.clear();
+    if (!m_decksStyle) {
+        m_decksStyle = new ScrollingMenuStyle;
+        m_decksStyle->setParent(&m_decks);
+        m_decks.setStyle(m_decksStyle);
+    }
+    m_decks.clear();
     const auto& store = m_context.store;
     for (std::int64_t i = 0; i < store.deckCount(); ++i) {
         const auto& deck = store.decks()[static_cast<std::size_t>(i)];
-        m_menu.addAction(
-            menuText(deck, i == store.activeDeckIndex()), this, [this, i] { m_context.store.switchToDeck(i); });
+        m_decks.addAction(menuText(deck, i == store.activeDeckIndex(), m_decks.fontMetrics()), this,
+            [this, i] { m_context.store.switchToDeck(i); });
     }
-    m_menu.popup(mapToGlobal(QPoint(0, height())));
+    m_decks.popup(mapToGlobal(QPoint(width() - m_decks.sizeHint().width(), height() + kMenuGap)));
+    if (store.activeDeck())
+        m_decks.setActiveAction(m_decks.actions().at(store.activeDeckIndex()));
+}
+
+void DeckPicker::contextMenuEvent(QContextMenuEvent* event)
+{
+    if (m_commands.isEmpty()) {
+        m_commands.addAction(QStringLiteral("New Deck…"), this, &DeckPicker::showNewDeckAlert);
+        m_commands.addAction(QStringLiteral("Rename Deck…"), this, &DeckPicker::showRenameDeckAlert);
+    }
+    m_commands.actions().last()->setEnabled(m_context.store.activeDeck());
+    const bool isByKey = event->reason() == QContextMenuEvent::Keyboard;
+    m_commands.popup(isByKey ? mapToGlobal(QPoint(0, height() + kMenuGap)) : event->globalPos());
+}
+
+bool DeckPicker::event(QEvent* event)
+{
+    if (event->type() == QEvent::ToolTip)
+        setToolTip(width() < sizeHint().width() ? shownName(m_context.store.deckName()).toHtmlEscaped() : QString());
+    return PanelButton::event(event);
 }
 
 void DeckPicker::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const auto colors = m_context.colors();
-    painter.setPen(toQColor(colors.muted()));
+    const auto muted = toQColor(m_context.colors().muted());
+    painter.setPen(muted);
     painter.setFont(font());
-    const auto textRect = rect().adjusted(kPadding, 0, -kPadding - kChevronWidth - kChevronGap, 0);
-    const auto isCut = width() < sizeHint().width();
-    const auto shown = isCut ? QFontMetricsF(font()).elidedText(text(), Qt::ElideRight, textRect.width()) : text();
-    painter.drawText(textRect, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, shown);
+    const auto nameRect = rect().adjusted(0, 0, -kChevronWidth - kChevronGap, 0);
+    const auto shown = width() < sizeHint().width()
+        ? QFontMetricsF(font()).elidedText(m_name, Qt::ElideRight, nameRect.width())
+        : m_name;
+    painter.drawText(nameRect, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip, shown);
 
-    const QPointF centre(width() - kPadding - kChevronWidth / 2.0, height() / 2.0);
-    painter.setPen(QPen(toQColor(colors.muted()), 1.2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    // As bold as the name beside it, which an icon of this size is not.
+    constexpr double kStroke = 1.4;
+    const QPointF centre(width() - kChevronWidth / 2.0, height() / 2.0);
+    painter.setPen(QPen(muted, kStroke, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    const double reach = (kChevronWidth - kStroke) / 2;
     for (const double direction : {-1.0, 1.0}) {
-        const QPointF tip = centre + QPointF(0, direction * 4);
+        const QPointF tip = centre + QPointF(0, direction * 4.5);
         painter.drawPolyline(
-            QPolygonF({tip + QPointF(-2.5, -direction * 2.5), tip, tip + QPointF(2.5, -direction * 2.5)}));
-    }
-    if (hasFocus()) {
-        painter.setPen(QPen(toQColor(colors.accent()), 2));
-        painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 4, 4);
+            QPolygonF({tip + QPointF(-reach, -direction * reach), tip, tip + QPointF(reach, -direction * reach)}));
     }
 }
 

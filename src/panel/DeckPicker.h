@@ -1,30 +1,43 @@
 #pragma once
 
-#include "panel/PanelContext.h"
+#include "foundation/Signal.h"
+#include "panel/PanelButton.h"
 
-#include <QAbstractButton>
 #include <QMenu>
 
 namespace cuebright {
 
-/// The name of the active deck, with a menu of all decks under it.
-class DeckPicker final : public QAbstractButton {
+class DeckNameDialog;
+
+/// The name of the active deck, with a menu of all decks under it, and the alerts that name a deck. Its right edge is
+/// that of its symbol; where the keyboard is shows around it, outside.
+class DeckPicker final : public PanelButton {
 public:
     DeckPicker(const PanelContext& context, QWidget* parent);
 
     void refresh();
+    void showNewDeckAlert();
+    void showRenameDeckAlert();
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
 
 protected:
+    bool event(QEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
     void openMenu();
+    [[nodiscard]] double nameWidth() const;
 
-    const PanelContext& m_context;
-    QMenu m_menu;
+    QString m_name; ///< as shown
+    QMenu m_decks;
+    QMenu m_commands;
+    QStyle* m_decksStyle = nullptr; ///< made when first needed, as are the alerts
+    DeckNameDialog* m_newDeckAlert = nullptr;
+    DeckNameDialog* m_renameDeckAlert = nullptr;
+    Subscription m_renameSubscription;
 };
 
 } // namespace cuebright

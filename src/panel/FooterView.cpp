@@ -1,50 +1,48 @@
 #include "panel/FooterView.h"
 
 #include "panel/ChromeButton.h"
-#include "panel/FooterContent.h"
+#include "panel/ErrorNotice.h"
 #include "panel/PanelLabel.h"
 #include "panel/TextConversion.h"
+#include "panel/TimerView.h"
 #include "store/CardStore.h"
 #include "theme/Fonts.h"
 
-#include <QHBoxLayout>
+#include <QEvent>
+
+#include <cmath>
+#include <utility>
 
 namespace cuebright {
 
 namespace {
 
-constexpr int kItemGap = 12;
+constexpr int kHeight = 28;
 constexpr double kFontSize = 11;
+constexpr Seconds kFadeTime {0.2};
 
-void showText(PanelLabel* label, const std::optional<std::string>& text)
-{
-    if (text)
-        label->setText(toQString(*text));
-    label->setVisible(text.has_value());
-}
+int wantedWidth(const QWidget* widget) { return widget->sizeHint().width(); }
 
 } // namespace
 
-FooterView::FooterView(const PanelContext& context, QWidget* parent)
+FooterView::FooterView(const PanelContext& context, TimerManager& timer, QWidget* parent)
     : QWidget(parent)
     , m_context(context)
+    , m_transition(1, kFadeTime, [this] { layOut(); })
 {
-    using enum PanelLabel::Ink;
     using enum PanelLabel::WhenNarrow;
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     const auto messageFont = letterSpaced(systemFont(kFontSize, QFont::Medium), 0.5);
-    const auto row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(kItemGap);
-    const auto addLabel = [&](const QFont& font, PanelLabel::Ink ink, PanelLabel::WhenNarrow whenNarrow) {
-        const auto label = new PanelLabel(context, font, ink, whenNarrow, this);
-        row->addWidget(label);
-        return label;
-    };
-    m_position = addLabel(letterSpaced(monospacedFont(kFontSize, QFont::DemiBold), 1.8), Muted, Keep);
-    m_wordCount = addLabel(messageFont, Muted, Elide);
-    m_error = addLabel(monospacedFont(kFontSize, QFont::Medium), Red, Elide);
-    m_feedback = addLabel(messageFont, Muted, Elide);
-    row->addStretch(1);
+    m_position =
+        new PanelLabel(context, letterSpaced(monospacedFont(kFontSize, QFont::DemiBold), 1.8), Ink::Muted, Keep, this);
+    m_wordCount = itemFor(new PanelLabel(context, messageFont, Ink::Muted, Elide, this));
+    m_timer = {new TimerView(context, timer, this), nullptr, true, 1, 1};
+    m_errorNotice = new ErrorNotice(context, this);
+    m_error = {m_errorNotice, [this](double opacity) { m_errorNotice->setInkOpacity(opacity); }};
+    m_feedbackLabel = new PanelLabel(context, messageFont, Ink::Muted, Elide, this);
+    m_feedback = itemFor(m_feedbackLabel);
+    for (const auto item : {&m_wordCount, &m_error, &m_feedback})
+        item->widget->hide();
 
     auto& store = context.store;
     m_edit = addButton(QStringLiteral("⌘E  EDIT"), "Edit card", "Press Command E to edit");
@@ -59,30 +57,134 @@ FooterView::FooterView(const PanelContext& context, QWidget* parent)
     connect(m_done, &QAbstractButton::clicked, this, [&store] { store.saveEdit(); });
 }
 
+FooterView::Item FooterView::itemFor(PanelLabel* label) const
+{
+    return {label, [label](double opacity) { label->setInkOpacity(opacity); }};
+}
+
 ChromeButton* FooterView::addButton(const QString& text, const char* accessibleName, const char* hint)
 {
     const auto kind = text.size() == 1 ? ChromeButton::Kind::Arrow : ChromeButton::Kind::Title;
     const auto button = new ChromeButton(m_context, kind, text, this);
     button->setAccessibleName(QLatin1String(accessibleName));
     button->setAccessibleDescription(QLatin1String(hint));
-    layout()->addWidget(button);
     return button;
 }
 
 void FooterView::refresh()
 {
-    const auto content = footerContent(m_context.store);
-    m_position->setText(toQString(content.position));
-    m_position->setAccessibleName(toQString(content.positionAccessibleName));
-    showText(m_wordCount, content.wordCount);
-    showText(m_error, content.error);
-    showText(m_feedback, content.feedback);
-    m_previous->setEnabled(content.canGoPrev);
-    m_next->setEnabled(content.canGoNext);
+    const auto former = std::exchange(m_content, footerContent(m_context.store));
+    m_position->setText(toQString(m_content.position));
+    m_position->setAccessibleName(toQString(m_content.positionAccessibleName));
+    // What leaves keeps its text while it fades.
+    if (m_content.wordCount)
+        static_cast<PanelLabel*>(m_wordCount.widget)->setText(toQString(*m_content.wordCount));
+    if (m_content.error)
+        m_errorNotice->setText(toQString(*m_content.error));
+    if (m_content.feedback)
+        m_feedbackLabel->setText(toQString(*m_content.feedback));
+    m_previous->setEnabled(m_content.canGoPrev);
+    m_next->setEnabled(m_content.canGoNext);
     for (const auto button : {m_edit, m_previous, m_next})
-        button->setVisible(!content.isEditing);
+        button->setVisible(!m_content.isEditing);
     for (const auto button : {m_cancel, m_done})
-        button->setVisible(content.isEditing);
+        button->setVisible(m_content.isEditing);
+
+    if (former.wordCount.has_value() != m_content.wordCount.has_value()
+        || former.error.has_value() != m_content.error.has_value()
+        || former.feedback.has_value() != m_content.feedback.has_value())
+        beginTransition();
+    else if (former != m_content)
+        layOut();
+
+    if (m_content.error && m_content.error != former.error)
+        m_errorNotice->announce();
+    if (m_content.feedback && m_content.feedback != former.feedback)
+        m_feedbackLabel->announce();
 }
+
+void FooterView::beginTransition()
+{
+    m_wordCount.isPresent = m_content.wordCount.has_value();
+    m_error.isPresent = m_content.error.has_value();
+    m_feedback.isPresent = m_content.feedback.has_value();
+    const auto places = footerPlaces(wantedWidths(), width());
+    const std::pair<Item*, int> items[] = {{&m_wordCount, places.wordCount.x}, {&m_timer, places.timer.x},
+        {&m_error, places.error.x}, {&m_feedback, places.feedback.x}};
+    for (const auto& [item, x] : items) {
+        const bool arrives = item->isPresent && item->widget->isHidden();
+        item->formerX = arrives ? x : item->x;
+        item->formerOpacity = item->opacity;
+        if (arrives)
+            item->widget->show();
+    }
+    m_transition.moveTo(0, Presence::Motion::AtOnce);
+    m_transition.moveTo(1, isVisible() ? Presence::Motion::Animated : Presence::Motion::AtOnce);
+}
+
+std::vector<ChromeButton*> FooterView::shownButtons() const
+{
+    if (m_content.isEditing)
+        return {m_cancel, m_done};
+    return {m_edit, m_previous, m_next};
+}
+
+FooterWidths FooterView::wantedWidths() const
+{
+    const auto widthOf = [](const Item& item) { return item.isPresent ? wantedWidth(item.widget) : 0; };
+    int buttons = -kFooterGap;
+    for (const auto button : shownButtons())
+        buttons += wantedWidth(button) + kFooterGap;
+    return {wantedWidth(m_position), widthOf(m_wordCount), widthOf(m_timer), widthOf(m_error),
+        m_errorNotice->minimumSizeHint().width(), widthOf(m_feedback), buttons};
+}
+
+void FooterView::layOut()
+{
+    const auto places = footerPlaces(wantedWidths(), width());
+    const int labelHeight = m_position->sizeHint().height();
+    m_position->setGeometry(places.position.x, (height() - labelHeight) / 2, places.position.width, labelHeight);
+    place(m_wordCount, places.wordCount);
+    place(m_timer, places.timer);
+    place(m_error, places.error);
+    place(m_feedback, places.feedback);
+    placeButtons(places.buttons.x);
+}
+
+void FooterView::place(Item& item, const FooterPlaces::Place& target)
+{
+    const double progress = m_transition.value();
+    item.opacity = std::lerp(item.formerOpacity, item.isPresent ? 1 : 0, progress);
+    if (item.setOpacity)
+        item.setOpacity(item.opacity);
+    if (!item.isPresent) {
+        if (progress == 1)
+            item.widget->hide();
+        return;
+    }
+    item.x = std::lerp(item.formerX, target.x, progress);
+    const int itemHeight = item.widget->sizeHint().height();
+    item.widget->setGeometry(
+        static_cast<int>(std::lround(item.x)), (height() - itemHeight) / 2, target.width, itemHeight);
+}
+
+void FooterView::placeButtons(int x)
+{
+    for (const auto button : shownButtons()) {
+        button->setGeometry(QRect(QPoint(x, (height() - button->sizeHint().height()) / 2), button->sizeHint()));
+        x += button->width() + kFooterGap;
+    }
+}
+
+QSize FooterView::sizeHint() const { return {0, kHeight}; }
+
+bool FooterView::event(QEvent* event)
+{
+    if (event->type() == QEvent::LayoutRequest)
+        layOut();
+    return QWidget::event(event);
+}
+
+void FooterView::resizeEvent(QResizeEvent*) { layOut(); }
 
 } // namespace cuebright

@@ -2,6 +2,7 @@
 
 #include "panel/DeckPicker.h"
 #include "panel/PanelLabel.h"
+#include "panel/ShareNotice.h"
 #include "panel/TextConversion.h"
 #include "store/CardStore.h"
 #include "theme/Fonts.h"
@@ -10,25 +11,51 @@
 
 namespace cuebright {
 
+namespace {
+
+constexpr int kGap = 12;
+constexpr Seconds kPulseTime {1.0};
+
+} // namespace
+
 HeaderView::HeaderView(const PanelContext& context, QWidget* parent)
     : QWidget(parent)
     , m_context(context)
-    , m_position(new PanelLabel(context, letterSpaced(monospacedFont(11, QFont::Medium), 1.8), PanelLabel::Ink::Muted,
+    , m_eyebrow(new PanelLabel(context, letterSpaced(monospacedFont(11, QFont::Medium), 1.8), Ink::Muted,
           PanelLabel::WhenNarrow::Keep, this))
     , m_deckPicker(new DeckPicker(context, this))
 {
     const auto row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(12);
-    row->addWidget(m_position, 0, Qt::AlignVCenter);
+    row->setSpacing(kGap);
+    row->addWidget(m_eyebrow, 0, Qt::AlignVCenter);
     row->addStretch(1);
     row->addWidget(m_deckPicker, 0, Qt::AlignVCenter);
 }
 
 void HeaderView::refresh()
 {
-    m_position->setText(toQString(m_context.store.positionLabel()));
+    const auto badge = badgeFor(m_context.captureExclusion.state());
+    const auto position = toQString(m_context.store.positionLabel());
+    if (m_showReturnPulse)
+        m_eyebrow->crossFadeTo(toQString(badge.text), badge.ink);
+    else if (m_eyebrow->ink() != Ink::Muted)
+        m_eyebrow->crossFadeTo(position, Ink::Muted);
+    else
+        m_eyebrow->setText(position);
     m_deckPicker->refresh();
+}
+
+void HeaderView::pulse()
+{
+    m_pulseEnd.cancel();
+    m_showReturnPulse = true;
+    refresh();
+    m_eyebrow->announce();
+    m_pulseEnd = m_context.platform.mainQueue.after(kPulseTime, m_weakTarget.guard([this] {
+        m_showReturnPulse = false;
+        refresh();
+    }));
 }
 
 } // namespace cuebright

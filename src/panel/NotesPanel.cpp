@@ -1,6 +1,7 @@
 #include "panel/NotesPanel.h"
 
 #include "foundation/NotificationCenter.h"
+#include "panel/MarkdownEditor.h"
 #include "store/CardStore.h"
 #include "store/UndoManager.h"
 
@@ -24,6 +25,8 @@ NotesPanel::~NotesPanel() = default;
 /// out; the press acts. The widgets inside see neither.
 bool NotesPanel::eventFilter(QObject* watched, QEvent* event)
 {
+    if (event->type() == QEvent::MouseButtonPress && watched == windowHandle() && m_context.store.isEditing())
+        MarkdownEditor::commitComposition(); // the click may end the edit
     const bool isOffer = event->type() == QEvent::ShortcutOverride;
     if ((!isOffer && event->type() != QEvent::KeyPress) || watched != windowHandle())
         return false;
@@ -49,6 +52,8 @@ std::optional<PanelKeyAction> NotesPanel::actionFor(const QKeyEvent& event) cons
 void NotesPanel::perform(const PanelKeyAction& action)
 {
     auto& store = m_context.store;
+    if (store.isEditing())
+        MarkdownEditor::commitComposition(); // the key may end the edit
     switch (action.command) {
     case PanelCommand::Swallow:
         return;

@@ -6,6 +6,7 @@
 
 namespace cuebright {
 
+class CaptureExclusion;
 class CardStore;
 class NotificationCenter;
 
@@ -14,6 +15,7 @@ struct PanelContext {
     CardStore& store;
     NotificationCenter& notifications;
     Platform platform;
+    CaptureExclusion& captureExclusion;
 
     /// The colours to draw with now.
     [[nodiscard]] Colors colors() const { return {platform.appearance.isDark(), platform.accessibility}; }

@@ -22,6 +22,7 @@ constexpr Seconds kStoreDebounce {0.2};
 PanelController::PanelController(const PanelContext& context)
     : m_context(context)
     , m_panel(std::make_unique<NotesPanel>(context))
+    , m_content(new CardContentView(context, m_panel.get()))
 {
     m_panel->setMinimumSize(kMinimumSize);
     QRect frame({0, 0}, kDefaultSize);
@@ -29,11 +30,10 @@ PanelController::PanelController(const PanelContext& context)
         frame.moveCenter(screen->availableGeometry().center());
     m_panel->setGeometry(frame);
 
-    const auto content = new CardContentView(context, m_panel.get());
     const auto layout = new QVBoxLayout(m_panel.get());
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(content);
-    content->setFocus();
+    layout->addWidget(m_content);
+    m_content->setFocus();
 
     updateTitle();
     observeStore();

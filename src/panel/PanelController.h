@@ -11,6 +11,7 @@
 
 namespace cuebright {
 
+class CardContentView;
 class NotesPanel;
 
 /// Makes the panel, fills it and keeps its title in step with the store.
@@ -22,6 +23,8 @@ public:
     ~PanelController();
 
     [[nodiscard]] NotesPanel& panelWindow() const { return *m_panel; }
+    /// All that the panel shows.
+    [[nodiscard]] CardContentView& content() const { return *m_content; }
     void showPanel();
 
 private:
@@ -30,6 +33,7 @@ private:
 
     const PanelContext& m_context;
     std::unique_ptr<NotesPanel> m_panel;
+    CardContentView* m_content;
     PendingTask m_titleUpdate;
     WeakTarget m_weakTarget;
     Subscription m_storeSubscription;

@@ -1,30 +1,64 @@
 #pragma once
 
+#include "panel/Ink.h"
 #include "panel/PanelContext.h"
+#include "panel/Presence.h"
 
 #include <QLabel>
 
 namespace cuebright {
 
-/// One line of text in one of the panel's colours. Where there is too little room it is cut with an ellipsis; a screen
-/// reader always gets the whole.
+/// Plain text in one of the panel's colours. A screen reader always gets the whole of it, however little room there is.
 class PanelLabel final : public QLabel {
 public:
-    enum class Ink { Muted, Red };
-    enum class WhenNarrow { Keep, Elide };
+    enum class WhenNarrow {
+        Keep,
+        Elide, ///< cut with an ellipsis; the tool tip shows the whole
+        Wrap,
+    };
 
     PanelLabel(const PanelContext& context, const QFont& font, Ink ink, WhenNarrow whenNarrow, QWidget* parent);
 
+    [[nodiscard]] Ink ink() const { return m_ink; }
+
+    /// From 0 to 1.
+    void setInkOpacity(double opacity);
+
+    /// The new text is there at once; on the screen it fades in while the one before fades out.
+    void crossFadeTo(const QString& text, Ink ink);
+
+    /// Has a screen reader read the text now, as a message.
+    void announce();
+    [[nodiscard]] bool isMessage() const { return m_isMessage; }
+
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
+    [[nodiscard]] int heightForWidth(int width) const override;
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
+    struct Look {
+        QString text;
+        Ink ink;
+    };
+
+    void showCrossFade();
+    void draw(QPainter& painter, const Look& look, double opacity) const;
+    [[nodiscard]] double widthOf(const QString& text) const;
+    [[nodiscard]] bool isCut() const;
+
     const PanelContext& m_context;
     Ink m_ink;
     WhenNarrow m_whenNarrow;
+    double m_opacity = 1;
+    bool m_isMessage = false;
+    bool m_isNewlyShown = false; ///< since the last announcement
+    Look m_former; ///< what fades out
+    Presence m_crossFade;
 };
 
 } // namespace cuebright

@@ -14,7 +14,8 @@ namespace cuebright::test {
 class AppDelegateTest : public testing::Test {
 protected:
     FakePlatform fake;
-    std::unique_ptr<AppDelegate> delegate = std::make_unique<AppDelegate>(fake.platform());
+    const bool isNoFirstRun = (fake.preferences.setBoolean(preferenceKeys::kOnboardingDone, true), true);
+    std::unique_ptr<AppDelegate> delegate = std::make_unique<AppDelegate>(fake.platform(), fake.captureExclusion);
 
     void SetUp() override { delegate->applicationDidFinishLaunching(); }
 

@@ -4,7 +4,6 @@
 #include "theme/Fonts.h"
 #include "theme/QtColors.h"
 
-#include <QFontMetricsF>
 #include <QImage>
 #include <QPainter>
 
@@ -15,15 +14,25 @@ namespace {
 constexpr double kFontSize = 17;
 constexpr int kWidth = 400;
 
-double lineHeight(const QFont& font) { return QFontMetricsF(font).height(); }
+/// As the toolkit lays lines out, which rounds up what it measures.
+double lineHeight(const QFont& font)
+{
+    QTextLayout layout(QStringLiteral("A"), font);
+    layout.beginLayout();
+    auto line = layout.createLine();
+    line.setLineWidth(kWidth);
+    const double height = line.height();
+    layout.endLayout();
+    return height;
+}
 
 /// The columns and rows between which a colour appears when the card is drawn.
-QRect boundsOf(const CardLayout& layout, const Colors& colors, const Color& color)
+QRect boundsOf(CardLayout layout, const Color& color)
 {
     QImage image(kWidth, 400, QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter painter(&image);
-    layout.draw(painter, colors, image.rect());
+    layout.draw(painter, image.rect());
     QRect bounds;
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {
@@ -36,55 +45,110 @@ QRect boundsOf(const CardLayout& layout, const Colors& colors, const Color& colo
 
 } // namespace
 
-class CardLayoutTest : public PanelFixture { };
+class CardLayoutTest : public PanelFixture {
+protected:
+    Colors colors = context.colors();
+
+    CardLayout layoutOf(std::vector<Block> blocks, double fontSize = kFontSize, double width = kWidth)
+    {
+        CardLayout layout(std::move(blocks), fontSize, colors, width);
+        layout.layOutThrough(layout.blocks().size() - 1);
+        return layout;
+    }
+};
 
 TEST_F(CardLayoutTest, EveryBlockLeavesItsSpaceBelow)
 {
     const double body = lineHeight(systemFont(kFontSize));
     const double heading = lineHeight(serifFont(34, QFont::Bold));
-    EXPECT_NEAR(CardLayout({{Block::Kind::Heading, "A"}}, kFontSize, kWidth).height(), heading + 36, 1);
-    EXPECT_NEAR(CardLayout({{Block::Kind::Bullet, "A"}}, kFontSize, kWidth).height(), body + 22, 1);
-    EXPECT_NEAR(CardLayout({{Block::Kind::Paragraph, "A"}}, kFontSize, kWidth).height(), body + 16, 1);
-    EXPECT_NEAR(CardLayout({{Block::Kind::Paragraph, "A"}, {Block::Kind::Paragraph, "B"}}, kFontSize, kWidth).height(),
-        2 * (body + 16), 1);
+    EXPECT_NEAR(layoutOf({{Block::Kind::Heading, "A"}}).height(), heading + 36, 1);
+    EXPECT_NEAR(layoutOf({{Block::Kind::Bullet, "A"}}).height(), body + 22, 1);
+    EXPECT_NEAR(layoutOf({{Block::Kind::Paragraph, "A"}}).height(), body + 16, 1);
+    EXPECT_NEAR(layoutOf({{Block::Kind::Paragraph, "A"}, {Block::Kind::Paragraph, "B"}}).height(), 2 * (body + 16), 1);
 }
 
 TEST_F(CardLayoutTest, LineSpacingStandsBetweenLinesOnly)
 {
     const double body = lineHeight(systemFont(kFontSize));
-    const CardLayout layout({{Block::Kind::Paragraph, "one\u2028two\u2028three"}}, kFontSize, kWidth);
+    const auto layout = layoutOf({{Block::Kind::Paragraph, "one\u2028two\u2028three"}});
     EXPECT_NEAR(layout.height(), 3 * body + 2 * 4 + 16, 1.5);
 }
 
 TEST_F(CardLayoutTest, BulletsAreSquaresOfSevenAndQuotesHaveABarOfThree)
 {
-    const auto colors = context.colors();
-    const auto bullet = boundsOf(CardLayout({{Block::Kind::Bullet, ""}}, kFontSize, kWidth), colors, colors.accent());
+    const auto bullet = boundsOf(layoutOf({{Block::Kind::Bullet, ""}}), colors.accent());
     EXPECT_EQ(bullet.width(), 7);
     EXPECT_NEAR(bullet.height(), 7, 1) << "a baseline between two pixels blurs one edge";
     EXPECT_EQ(bullet.left(), 0);
 
-    const auto text =
-        boundsOf(CardLayout({{Block::Kind::Blockquote, "IIII"}}, kFontSize, kWidth), colors, colors.muted());
+    const auto text = boundsOf(layoutOf({{Block::Kind::Blockquote, "IIII"}}), colors.muted());
     EXPECT_GE(text.left(), 3 + 14);
     EXPECT_LE(text.left(), 3 + 14 + 4);
 }
 
 TEST_F(CardLayoutTest, ANumberWiderThanItsBoxPushesTheTextRight)
 {
-    const auto colors = context.colors();
     const auto textLeft = [&](std::int64_t number) {
-        const Block block {Block::Kind::NumberedItem, "IIII", number};
-        return boundsOf(CardLayout({block}, kFontSize, kWidth), colors, colors.text()).left();
+        return boundsOf(layoutOf({{Block::Kind::NumberedItem, "IIII", number}}), colors.text()).left();
     };
     EXPECT_EQ(textLeft(1), textLeft(2));
     EXPECT_GT(textLeft(100), textLeft(1));
 }
 
+TEST_F(CardLayoutTest, InlineMarkersBecomeLooks)
+{
+    EXPECT_TRUE(boundsOf(layoutOf({{Block::Kind::Paragraph, "plain"}}), colors.accent()).isEmpty());
+    EXPECT_FALSE(boundsOf(layoutOf({{Block::Kind::Paragraph, "*it*"}}), colors.accent()).isEmpty());
+    EXPECT_EQ(layoutOf({{Block::Kind::Heading, "a **b** `c` [d](e)"}}).blockText(0), QStringLiteral("a b c d"));
+}
+
+TEST_F(CardLayoutTest, ALinkIsWhereItsTextIsOnEveryLineThatItCovers)
+{
+    const auto layout = layoutOf({{Block::Kind::Bullet, "see [one](http://a.b)\u2028and [two\u2028lines](c)"}});
+    const auto links = layout.links();
+    ASSERT_EQ(links.size(), 3U);
+    EXPECT_EQ(links[0].target, "http://a.b");
+    EXPECT_EQ(links[0].text, QStringLiteral("one"));
+    EXPECT_GT(links[0].rect.left(), 7 + 16);
+    EXPECT_EQ(links[2].target, "c");
+    EXPECT_GT(links[2].rect.top(), links[1].rect.top());
+}
+
+TEST_F(CardLayoutTest, WhatIsNotLookedAtIsOnlyEstimated)
+{
+    const std::vector<Block> blocks(2000, {Block::Kind::Bullet, "Some words of *one* point"});
+    CardLayout layout(blocks, kFontSize, colors, kWidth);
+    layout.layOutTo(500);
+    EXPECT_FALSE(layout.isComplete());
+    EXPECT_EQ(layout.links().size(), 0U);
+    const double estimate = layout.height();
+    const double exact = layoutOf(blocks).height();
+    EXPECT_NEAR(estimate / exact, 1, 0.5);
+    layout.layOutThrough(1999);
+    EXPECT_TRUE(layout.isComplete());
+    EXPECT_DOUBLE_EQ(layout.height(), exact);
+}
+
+TEST_F(CardLayoutTest, ALongBlockWrapsAsIfItWereOnePiece)
+{
+    std::string words;
+    while (words.size() < 20'000)
+        words += "word " + std::to_string(words.size()) + ' ';
+    QTextLayout whole(QString::fromStdString(words), systemFont(kFontSize));
+    double height = -4;
+    whole.beginLayout();
+    for (auto line = whole.createLine(); line.isValid(); line = whole.createLine()) {
+        line.setLineWidth(kWidth);
+        height += line.height() + 4;
+    }
+    whole.endLayout();
+    EXPECT_NEAR(layoutOf({{Block::Kind::Paragraph, words}}).height(), height + 16, 1);
+}
+
 TEST_F(CardLayoutTest, SizesThatNoFontHasDoNotBreakIt)
 {
     for (const double fontSize : {1e-300, 0.3, 1e308})
-        EXPECT_GT(CardLayout({{Block::Kind::Heading, "A b c"}}, fontSize, 10).height(), 0) << fontSize;
+        EXPECT_GT(layoutOf({{Block::Kind::Heading, "A b c"}}, fontSize, 10).height(), 0) << fontSize;
 }
 
 } // namespace cuebright::test

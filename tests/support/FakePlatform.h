@@ -2,6 +2,7 @@
 
 #include "platform/Accessibility.h"
 #include "platform/Appearance.h"
+#include "platform/CaptureExclusion.h"
 #include "platform/Clock.h"
 #include "platform/FileSystem.h"
 #include "platform/Log.h"
@@ -160,6 +161,13 @@ public:
     std::vector<Choice> choices;
 };
 
+class FakeCaptureExclusion final : public CaptureExclusion {
+public:
+    State state() override { return known; }
+
+    State known = State::Excluded;
+};
+
 class FakeLog final : public Log {
 public:
     void writeLine(std::string_view line) override { lines.emplace_back(line); }
@@ -177,6 +185,7 @@ struct FakePlatform {
     FakeAccessibility accessibility;
     FakeAppearance appearance;
     FakeLog log;
+    FakeCaptureExclusion captureExclusion;
 
     Platform platform() { return {clock, uuids, mainQueue, fileSystem, preferences, accessibility, appearance, log}; }
 };

@@ -1,0 +1,139 @@
+// A key in the editor: delivered, in the store, counted in the footer, on the screen.
+#include "panel/CardContentView.h"
+
+#include "foundation/NotificationCenter.h"
+#include "platform/none/NoCaptureExclusion.h"
+#include "platform/qt/QtPlatform.h"
+#include "store/CardStore.h"
+
+#include <QApplication>
+#include <QPlainTextEdit>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <chrono>
+#include <functional>
+#include <string>
+
+namespace cuebright::bench {
+
+namespace {
+
+/// The panel's content with one card open in the editor.
+struct Bench {
+    explicit Bench(const std::string& content)
+    {
+        view.resize(720, 560);
+        store.toggleWordCount();
+        store.beginEditing();
+        store.setEditText(content);
+        store.saveEdit();
+        view.show();
+        store.beginEditing();
+        QCoreApplication::processEvents();
+    }
+
+    QPlainTextEdit& editor() { return *view.findChild<QPlainTextEdit*>(); }
+    void placeCaret(int position)
+    {
+        auto cursor = editor().textCursor();
+        cursor.setPosition(position);
+        editor().setTextCursor(cursor);
+        QCoreApplication::processEvents();
+    }
+
+    QTemporaryDir folder;
+    bool isIsolated = qputenv("XDG_DATA_HOME", folder.path().toUtf8());
+    QtPlatform platform {(folder.path() + QStringLiteral("/preferences.conf")).toStdString()};
+    NotificationCenter notifications;
+    CardStore store {platform.services()};
+    NoCaptureExclusion captureExclusion;
+    PanelContext context {store, notifications, platform.services(), captureExclusion};
+    CardContentView view {context};
+};
+
+std::string repeated(const std::string& piece, std::size_t size)
+{
+    std::string text;
+    while (text.size() < size)
+        text += piece;
+    text.resize(size);
+    return text;
+}
+
+/// Lines of 20 to 500 characters.
+std::string lines(std::size_t size)
+{
+    auto text = repeated("the speaker reads this line aloud and slowly ", size);
+    for (std::size_t end = 0, length = 20; end < size; end += length, length = length % 481 + 60)
+        text[end] = '\n';
+    return text;
+}
+
+std::string words(std::size_t size) { return repeated("lorem ipsum dolor sit amet ", size); }
+std::string emoji(std::size_t size) { return repeated("👩‍👩‍👧", size - size % 18); }
+std::string oneWord(std::size_t size) { return std::string(size, 'a'); }
+
+void key(benchmark::State& state, const std::function<std::string(std::size_t)>& make)
+{
+    Bench bench(make(static_cast<std::size_t>(state.range(0))));
+    bench.placeCaret(bench.editor().document()->characterCount() / 2);
+    double slowest = 0;
+    for (auto _ : state) {
+        const auto start = std::chrono::steady_clock::now();
+        QTest::keyClick(&bench.editor(), 'x');
+        QCoreApplication::processEvents();
+        slowest = std::max(slowest, std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
+    }
+    state.counters["slowest_ms"] = slowest * 1000;
+}
+BENCHMARK_CAPTURE(key, InLines, lines)->Arg(1000)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(key, InOneLine, words)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(key, InOneLineOfEmoji, emoji)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(key, InOneWord, oneWord)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
+
+/// The toolkit's editor with nothing around it.
+void keysReferencePlainTextEdit(benchmark::State& state)
+{
+    QPlainTextEdit editor;
+    editor.resize(600, 400);
+    editor.setPlainText(QString::fromStdString(words(static_cast<std::size_t>(state.range(0)))));
+    editor.show();
+    for (auto _ : state) {
+        QTest::keyClick(&editor, 'x');
+        QCoreApplication::processEvents();
+    }
+}
+BENCHMARK(keysReferencePlainTextEdit)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
+
+void openAnEdit(benchmark::State& state, const std::function<std::string(std::size_t)>& make)
+{
+    Bench bench(make(static_cast<std::size_t>(state.range(0))));
+    for (auto _ : state) {
+        state.PauseTiming();
+        bench.store.cancelEdit();
+        QCoreApplication::processEvents();
+        state.ResumeTiming();
+        bench.store.beginEditing();
+        QCoreApplication::processEvents();
+    }
+}
+BENCHMARK_CAPTURE(openAnEdit, OfOneLine, words)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(openAnEdit, OfOneWord, oneWord)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+} // namespace cuebright::bench
+
+int main(int argc, char* argv[])
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_LOGGING_RULES", "default.warning=false"); // the offscreen platform's
+    const QApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "panel/Icon.h"
+#include "platform/CaptureExclusion.h"
+
+#include <QString>
+
+#include <vector>
+
+namespace cuebright {
+
+/// One page of the introduction; what is empty is not shown.
+struct OnboardingPage {
+    struct Row {
+        QString keys;
+        QString label;
+    };
+
+    Icon icon;
+    QString title;
+    QString advice; ///< in text colour, above the body
+    QString body;
+    std::vector<Row> rows;
+};
+
+/// The pages in order. The one on screen sharing takes back no word of its own, but says what holds on this desktop.
+[[nodiscard]] std::vector<OnboardingPage> onboardingPages(CaptureExclusion::State state);
+
+} // namespace cuebright

@@ -1,0 +1,83 @@
+#include "panel/CardAccessible.h"
+
+#include "panel/BlockAccessible.h"
+#include "panel/CardArea.h"
+
+#include <algorithm>
+
+namespace cuebright {
+
+CardAccessible::CardAccessible(CardArea& area)
+    : QAccessibleWidget(&area, QAccessible::Document)
+    , m_area(area)
+{
+}
+
+CardAccessible::~CardAccessible() { forgetChildren(); }
+
+void CardAccessible::install()
+{
+    static const bool kInstalled = [] {
+        QAccessible::installFactory([](const QString&, QObject* object) -> QAccessibleInterface* {
+            const auto area = dynamic_cast<CardArea*>(object);
+            return area ? new CardAccessible(*area) : nullptr;
+        });
+        return true;
+    }();
+    static_cast<void>(kInstalled);
+}
+
+void CardAccessible::contentChanged(CardArea& area)
+{
+    if (!QAccessible::isActive())
+        return;
+    if (const auto interface = dynamic_cast<CardAccessible*>(QAccessible::queryAccessibleInterface(&area)))
+        interface->forgetChildren();
+    QAccessibleEvent event(&area, QAccessible::ObjectReorder);
+    QAccessible::updateAccessibility(&event);
+}
+
+void CardAccessible::forgetChildren()
+{
+    for (const auto id : m_children) {
+        if (id != 0)
+            QAccessible::deleteAccessibleInterface(id);
+    }
+    m_children.clear();
+}
+
+int CardAccessible::childCount() const
+{
+    const auto layout = m_area.cardLayout();
+    return layout ? static_cast<int>(layout->blocks().size()) : 0;
+}
+
+QAccessibleInterface* CardAccessible::child(int index) const
+{
+    if (index < 0 || index >= childCount())
+        return nullptr;
+    m_children.resize(static_cast<std::size_t>(childCount()));
+    auto& id = m_children[static_cast<std::size_t>(index)];
+    if (id == 0)
+        id = QAccessible::registerAccessibleInterface(new BlockAccessible(m_area, static_cast<std::size_t>(index)));
+    return QAccessible::accessibleInterface(id);
+}
+
+int CardAccessible::indexOfChild(const QAccessibleInterface* child) const
+{
+    const auto isChild = [child](
+                             QAccessible::Id id) { return id != 0 && QAccessible::accessibleInterface(id) == child; };
+    const auto it = std::find_if(m_children.begin(), m_children.end(), isChild);
+    return it == m_children.end() ? -1 : static_cast<int>(it - m_children.begin());
+}
+
+QAccessibleInterface* CardAccessible::childAt(int x, int y) const
+{
+    for (int i = 0; i < childCount(); ++i) {
+        if (child(i)->rect().contains(x, y))
+            return child(i);
+    }
+    return nullptr;
+}
+
+} // namespace cuebright

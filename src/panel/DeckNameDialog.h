@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QDialog>
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+class QLineEdit;
+
+namespace cuebright {
+
+/// Asks for the name of a deck, on a sheet of the panel.
+class DeckNameDialog final : public QDialog {
+public:
+    struct Texts {
+        QString title;
+        QString message;
+        QString confirm;
+    };
+
+    static Texts newDeck();
+    static Texts renameDeck();
+
+    /// `confirmed` gets the name as one line, blank or not.
+    DeckNameDialog(const Texts& texts, std::function<void(const std::string& name)> confirmed, QWidget* parent);
+
+    /// Opens the sheet with a name to start from; one that is open already keeps what has been typed.
+    void ask(std::string_view name);
+
+protected:
+    void done(int result) override;
+
+private:
+    std::function<void(const std::string&)> m_confirmed;
+    QLineEdit* m_name;
+};
+
+} // namespace cuebright

@@ -1,0 +1,66 @@
+#include "panel/FocusRing.h"
+
+#include "theme/QtColors.h"
+
+#include <QEvent>
+#include <QPainter>
+
+namespace cuebright {
+
+namespace {
+
+constexpr int kDistance = 5;
+constexpr double kWidth = 2;
+constexpr double kCornerRadius = 5;
+
+} // namespace
+
+FocusRing::FocusRing(const PanelContext& context, QWidget* target)
+    : QFocusFrame(target)
+    , m_context(context)
+    , m_target(target)
+{
+    hide();
+    target->installEventFilter(this);
+    target->parentWidget()->installEventFilter(this);
+}
+
+bool FocusRing::eventFilter(QObject*, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::FocusIn:
+    case QEvent::FocusOut:
+    case QEvent::Move:
+    case QEvent::Resize:
+    case QEvent::Show:
+    case QEvent::Hide:
+        place();
+        break;
+    default:
+        break;
+    }
+    return false;
+}
+
+void FocusRing::place()
+{
+    const auto canvas = m_target->parentWidget()->parentWidget();
+    if (!canvas || !m_target->hasFocus() || !m_target->isVisible())
+        return hide();
+    if (parentWidget() != canvas)
+        setParent(canvas);
+    setGeometry(QRect(m_target->mapTo(canvas, QPoint()), m_target->size())
+                    .adjusted(-kDistance, -kDistance, kDistance, kDistance));
+    show();
+    raise();
+}
+
+void FocusRing::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(toQColor(m_context.colors().accent()), kWidth));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), kCornerRadius, kCornerRadius);
+}
+
+} // namespace cuebright

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QColor>
+#include <QRectF>
+
+class QPainter;
+
+namespace cuebright {
+
+/// The program's symbols, in the order of the table in the source.
+enum class Icon {
+    Blockquote,
+    Bold,
+    BulletList,
+    Cards,
+    ChevronUpDown,
+    Close,
+    Code,
+    Heading,
+    HiddenEye,
+    Italic,
+    Keyboard,
+    Link,
+    NumberedList,
+    Pause,
+    Play,
+    Write,
+};
+
+/// Draws a symbol as large as `rect` allows, in one colour.
+void drawIcon(QPainter& painter, Icon icon, const QRectF& rect, const QColor& color);
+
+} // namespace cuebright

@@ -1,0 +1,41 @@
+#include "panel/Presence.h"
+
+#include "panel/Easing.h"
+
+#include <utility>
+
+namespace cuebright {
+
+Presence::Presence(double value, Seconds duration, std::function<void()> changed)
+    : m_value(value)
+    , m_target(value)
+    , m_changed(std::move(changed))
+{
+    m_animation.setEasingCurve(easingCurve(Animation::Curve::EaseInOut));
+    m_animation.setDuration(milliseconds(duration));
+    QObject::connect(&m_animation, &QVariantAnimation::valueChanged, &m_animation, [this](const QVariant& newValue) {
+        if (m_animation.state() == QAbstractAnimation::Running)
+            take(newValue.toDouble());
+    });
+    // The curve ends a rounding away from 1.
+    QObject::connect(&m_animation, &QAbstractAnimation::finished, &m_animation, [this] { take(m_target); });
+}
+
+void Presence::moveTo(double target, Motion motion)
+{
+    m_animation.stop();
+    m_target = target;
+    if (motion == Motion::AtOnce || m_value == target)
+        return take(target);
+    m_animation.setStartValue(m_value);
+    m_animation.setEndValue(target);
+    m_animation.start();
+}
+
+void Presence::take(double value)
+{
+    m_value = value;
+    m_changed();
+}
+
+} // namespace cuebright

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "platform/Clock.h"
+
+#include <QVariantAnimation>
+
+#include <functional>
+
+namespace cuebright {
+
+/// A number from 0 to 1 that moves to where it is sent on an ease-in-out curve, from wherever it is.
+class Presence final {
+public:
+    enum class Motion { Animated, AtOnce };
+
+    /// `changed` is called with each new value, the last one included.
+    Presence(double value, Seconds duration, std::function<void()> changed);
+    Presence(const Presence&) = delete;
+    Presence& operator=(const Presence&) = delete;
+
+    [[nodiscard]] double value() const { return m_value; }
+    [[nodiscard]] bool hasArrived() const { return m_value == m_target; }
+
+    void moveTo(double target, Motion motion);
+
+private:
+    void take(double value);
+
+    double m_value;
+    double m_target;
+    std::function<void()> m_changed;
+    QVariantAnimation m_animation;
+};
+
+} // namespace cuebright

@@ -1,0 +1,29 @@
+#include "panel/ShareNotice.h"
+
+namespace cuebright {
+
+ShareBadge badgeFor(CaptureExclusion::State state)
+{
+    using enum CaptureExclusion::State;
+    switch (state) {
+    case Excluded:
+        return {"HIDDEN FROM SHARE", Ink::Accent};
+    case Blackout:
+        return {"BLACK BOX IN SHARE", Ink::Accent};
+    case Visible:
+        return {"VISIBLE IN SHARE", Ink::Red};
+    case Unknown:
+        break;
+    }
+    return {"MAY BE VISIBLE IN SHARE", Ink::Orange};
+}
+
+std::optional<std::string_view> shareAdvice(CaptureExclusion::State state)
+{
+    if (state == CaptureExclusion::State::Excluded)
+        return std::nullopt;
+    return "This desktop cannot hide a window from a shared screen. Share a single window or tab instead of the whole "
+           "screen.";
+}
+
+} // namespace cuebright

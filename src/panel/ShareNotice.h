@@ -1,0 +1,24 @@
+#pragma once
+
+#include "panel/Ink.h"
+#include "platform/CaptureExclusion.h"
+
+#include <optional>
+#include <string_view>
+
+namespace cuebright {
+
+/// Tells at a glance what the audience sees of the panel.
+struct ShareBadge {
+    std::string_view text;
+    Ink ink;
+
+    bool operator==(const ShareBadge&) const = default;
+};
+
+[[nodiscard]] ShareBadge badgeFor(CaptureExclusion::State state);
+
+/// What to do where the panel cannot be kept out of a shared screen; absent where it is.
+[[nodiscard]] std::optional<std::string_view> shareAdvice(CaptureExclusion::State state);
+
+} // namespace cuebright

@@ -1,0 +1,240 @@
+#include "panel/TimerView.h"
+
+#include "panel/Icon.h"
+#include "panel/OpenMenus.h"
+#include "panel/PanelButton.h"
+#include "panel/Presence.h"
+#include "panel/TextConversion.h"
+#include "theme/CuebrightChromeStyle.h"
+#include "theme/Fonts.h"
+#include "theme/QtColors.h"
+
+#include <QFontMetricsF>
+#include <QHBoxLayout>
+#include <QPainter>
+
+#include <array>
+#include <cmath>
+
+namespace cuebright {
+
+namespace {
+
+constexpr std::array<std::int64_t, 7> kPresets {5, 10, 15, 20, 30, 45, 60};
+constexpr int kPartGap = 4;
+constexpr QSize kPlaySize {20, 28};
+constexpr double kPlaySymbolSize = 12; ///< the symbol's square; the triangle itself is two thirds of it
+constexpr int kTimePaddingX = 6;
+constexpr int kTimePaddingY = 4;
+constexpr double kTimeSpacing = 0.5;
+constexpr double kTimeCornerRadius = 5;
+constexpr double kOutlineOpacity = 0.5;
+
+} // namespace
+
+std::vector<TimerMenuItem> timerMenuItems(const TimerManager& timer)
+{
+    using enum TimerMenuItem::Choice;
+    std::vector<TimerMenuItem> items {{Stopwatch, 0, timer.mode() == TimerManager::Mode::Stopwatch}};
+    for (const auto minutes : kPresets)
+        items.push_back({Countdown, minutes, timer.isCountdownOf(minutes)});
+    items.push_back({Reset});
+    return items;
+}
+
+QString textOf(const TimerMenuItem& item)
+{
+    switch (item.choice) {
+    case TimerMenuItem::Choice::Stopwatch:
+        return QStringLiteral("Stopwatch");
+    case TimerMenuItem::Choice::Countdown:
+        return QStringLiteral("%1 minutes").arg(item.minutes);
+    case TimerMenuItem::Choice::Reset:
+        return QStringLiteral("Reset");
+    }
+    return {};
+}
+
+void choose(const TimerMenuItem& item, TimerManager& timer)
+{
+    switch (item.choice) {
+    case TimerMenuItem::Choice::Stopwatch:
+        return timer.setStopwatch();
+    case TimerMenuItem::Choice::Countdown:
+        return timer.setCountdown(item.minutes);
+    case TimerMenuItem::Choice::Reset:
+        return timer.reset();
+    }
+}
+
+Ink timerInk(TimerManager::Urgency urgency)
+{
+    return urgency == TimerManager::Urgency::Warning ? Ink::Orange : playButtonInk(urgency);
+}
+
+Ink playButtonInk(TimerManager::Urgency urgency)
+{
+    using enum TimerManager::Urgency;
+    return urgency == Critical || urgency == Expired ? Ink::Red : Ink::Muted;
+}
+
+Color timerFill(TimerManager::Urgency urgency, const Colors& colors)
+{
+    switch (urgency) {
+    case TimerManager::Urgency::Critical:
+        return inkColor(Ink::Red, colors).withAlpha(0.05);
+    case TimerManager::Urgency::Expired:
+        return inkColor(Ink::Red, colors).withAlpha(0.08);
+    case TimerManager::Urgency::Normal:
+    case TimerManager::Urgency::Warning:
+        break;
+    }
+    return colors.sep().withAlpha(0.08);
+}
+
+class PlayButton final : public PanelButton {
+public:
+    PlayButton(const PanelContext& context, QWidget* parent)
+        : PanelButton(context, parent)
+        , m_press(0, Seconds(CuebrightChromeStyle::kPressAnimationTime / 1000.0), [this] { update(); })
+    {
+        connect(this, &QAbstractButton::pressed, this, [this] { m_press.moveTo(1, Presence::Motion::Animated); });
+        connect(this, &QAbstractButton::released, this, [this] { m_press.moveTo(0, Presence::Motion::Animated); });
+    }
+
+    void show(Icon icon, Ink ink)
+    {
+        m_icon = icon;
+        m_ink = ink;
+        setAccessibleName(icon == Icon::Pause ? QStringLiteral("Pause timer") : QStringLiteral("Start timer"));
+        update();
+    }
+
+    [[nodiscard]] QSize sizeHint() const override { return kPlaySize; }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        const auto colors = m_context.colors();
+        CuebrightChromeStyle(colors).draw(
+            painter, rect(), {m_press.value(), isEnabled(), hasFocus()}, [&](QPainter& labelPainter) {
+                QRectF symbol(0, 0, kPlaySymbolSize, kPlaySymbolSize);
+                symbol.moveCenter(QRectF(rect()).center());
+                drawIcon(labelPainter, m_icon, symbol, toQColor(inkColor(m_ink, colors)));
+            });
+    }
+
+private:
+    Icon m_icon = Icon::Play;
+    Ink m_ink = Ink::Muted;
+    Presence m_press;
+};
+
+class TimeButton final : public PanelButton {
+public:
+    TimeButton(const PanelContext& context, QWidget* parent)
+        : PanelButton(context, parent)
+    {
+        setFont(letterSpaced(monospacedFont(11, QFont::DemiBold), kTimeSpacing));
+        setToolTip(QStringLiteral("Click to set timer duration"));
+    }
+
+    void show(const QString& time, TimerManager::Urgency urgency)
+    {
+        m_urgency = urgency;
+        setText(time);
+        setAccessibleName(QStringLiteral("Timer: ") + time);
+        update();
+    }
+
+    [[nodiscard]] QSize sizeHint() const override
+    {
+        const QFontMetricsF metrics(font());
+        const double textWidth = metrics.horizontalAdvance(text()) - kTimeSpacing;
+        return {static_cast<int>(std::ceil(textWidth)) + 2 * kTimePaddingX,
+            static_cast<int>(std::ceil(metrics.height())) + 2 * kTimePaddingY};
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        const auto colors = m_context.colors();
+        const auto shape = continuousRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kTimeCornerRadius);
+        painter.fillPath(shape, toQColor(timerFill(m_urgency, colors)));
+        const double outlineOpacity = colors.highContrast() ? 1 : kOutlineOpacity;
+        painter.strokePath(shape, QPen(toQColor(colors.sep().withAlpha(outlineOpacity)), 1));
+        painter.setFont(font());
+        painter.setPen(toQColor(inkColor(timerInk(m_urgency), colors)));
+        const QRectF room = QRectF(rect()).adjusted(kTimePaddingX, 0, 0, 0);
+        painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, text());
+        drawFocusRing(painter, rect(), kTimeCornerRadius);
+    }
+
+private:
+    TimerManager::Urgency m_urgency = TimerManager::Urgency::Normal;
+};
+
+TimerView::TimerView(const PanelContext& context, TimerManager& timer, QWidget* parent)
+    : QWidget(parent)
+    , m_context(context)
+    , m_timer(timer)
+    , m_play(new PlayButton(context, this))
+    , m_time(new TimeButton(context, this))
+    , m_menu(this)
+{
+    const auto row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(kPartGap);
+    row->addWidget(m_play, 0, Qt::AlignVCenter);
+    row->addWidget(m_time, 0, Qt::AlignVCenter);
+    connect(m_play, &QAbstractButton::clicked, this, [this] { m_timer.toggle(); });
+    connect(m_time, &QAbstractButton::clicked, this, &TimerView::openMenu);
+    offerOpenMenusToScreenReaders(*this);
+    refresh();
+    m_timerSubscription = timer.willChange.subscribe([this] { scheduleRefresh(); });
+}
+
+void TimerView::scheduleRefresh()
+{
+    if (m_refreshScheduled)
+        return;
+    m_refreshScheduled = true;
+    m_context.platform.mainQueue.post(m_weakTarget.guard([this] {
+        m_refreshScheduled = false;
+        refresh();
+    }));
+}
+
+void TimerView::refresh()
+{
+    const Shown now {m_timer.displayString(), m_timer.urgency(), m_timer.isRunning()};
+    if (m_shown == now)
+        return;
+    m_shown = now;
+    m_play->show(now.isRunning ? Icon::Pause : Icon::Play, playButtonInk(now.urgency));
+    m_time->show(toQString(now.time), now.urgency);
+}
+
+void TimerView::openMenu()
+{
+    m_menu.clear();
+    QAction* chosen = nullptr;
+    for (const auto& item : timerMenuItems(m_timer)) {
+        if (item.choice == TimerMenuItem::Choice::Reset)
+            m_menu.addSeparator();
+        const auto action = m_menu.addAction(textOf(item), this, [this, item] { choose(item, m_timer); });
+        action->setCheckable(item.choice != TimerMenuItem::Choice::Reset);
+        action->setChecked(item.isChecked);
+        if (item.isChecked)
+            chosen = action;
+        if (item.choice == TimerMenuItem::Choice::Stopwatch)
+            m_menu.addSeparator();
+    }
+    m_menu.popup(m_time->mapToGlobal(QPoint(0, -m_menu.sizeHint().height() - kPartGap)));
+    m_menu.setActiveAction(chosen);
+}
+
+} // namespace cuebright

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "foundation/Signal.h"
+#include "foundation/WeakTarget.h"
+#include "panel/Ink.h"
+#include "panel/PanelContext.h"
+#include "timer/TimerManager.h"
+
+#include <QMenu>
+#include <QWidget>
+
+#include <optional>
+#include <vector>
+
+namespace cuebright {
+
+/// A row of the timer's menu.
+struct TimerMenuItem {
+    enum class Choice { Stopwatch, Countdown, Reset };
+
+    Choice choice;
+    std::int64_t minutes = 0; ///< of the countdown
+    bool isChecked = false;
+};
+
+[[nodiscard]] std::vector<TimerMenuItem> timerMenuItems(const TimerManager& timer);
+[[nodiscard]] QString textOf(const TimerMenuItem& item);
+void choose(const TimerMenuItem& item, TimerManager& timer);
+
+/// `timerColor`: what the time is written in.
+[[nodiscard]] Ink timerInk(TimerManager::Urgency urgency);
+/// The play button warns only at the very end.
+[[nodiscard]] Ink playButtonInk(TimerManager::Urgency urgency);
+/// What lies behind the time.
+[[nodiscard]] Color timerFill(TimerManager::Urgency urgency, const Colors& colors);
+
+class PlayButton;
+class TimeButton;
+
+/// The talk timer: a button that starts and pauses it, and the time with a menu of durations. Repaints when what it
+/// shows changes.
+class TimerView final : public QWidget {
+public:
+    TimerView(const PanelContext& context, TimerManager& timer, QWidget* parent);
+
+    /// Takes in what has changed.
+    void refresh();
+
+private:
+    struct Shown {
+        std::string time;
+        TimerManager::Urgency urgency;
+        bool isRunning;
+
+        bool operator==(const Shown&) const = default;
+    };
+
+    void scheduleRefresh();
+    void openMenu();
+
+    const PanelContext& m_context;
+    TimerManager& m_timer;
+    PlayButton* m_play;
+    TimeButton* m_time;
+    QMenu m_menu;
+    std::optional<Shown> m_shown;
+    bool m_refreshScheduled = false;
+    WeakTarget m_weakTarget;
+    Subscription m_timerSubscription;
+};
+
+} // namespace cuebright

@@ -1,0 +1,158 @@
+#include "panel/TextViewManager.h"
+
+#include "panel/MarkdownToolbar.h"
+
+#include "panel/EditorFixture.h"
+
+namespace cuebright::test {
+
+namespace {
+
+struct FormattingCase {
+    const char* name;
+    const char* before;
+    std::function<void(TextViewManager&)> operation;
+    const char* after;
+};
+
+auto wrap(const char* marker)
+{
+    return [marker](TextViewManager& manager) { manager.wrapSelection(QString::fromUtf8(marker)); };
+}
+
+auto prefix(const char* text)
+{
+    return [text](TextViewManager& manager) { manager.toggleLinePrefix(QString::fromUtf8(text)); };
+}
+
+void link(TextViewManager& manager) { manager.insertLink(); }
+
+const FormattingCase kFormattingCases[] = {
+    {"bold at the caret", "Hello|", wrap("**"), "Hello**|**"},
+    {"bold inside", "Hel|lo", wrap("**"), "Hel**|**lo"},
+    {"italic", "a ‹bc› d", wrap("*"), "a ‹*bc*› d"},
+    {"code over two lines", "a ‹b\nc› d", wrap("`"), "a ‹`b\nc`› d"},
+    {"markers there already", "‹**bc**›", wrap("**"), "‹****bc****›"},
+    {"an emoji counts as one", "‹😀›", wrap("*"), "‹*😀›*"},
+    {"so does a family", "‹👩‍👩‍👧›", wrap("*"), "‹*👩›‍👩‍👧*"},
+    {"so does an accented letter", "‹e\u0301e\u0301›", wrap("*"), "‹*e\u0301e›\u0301*"},
+    {"so does a line end of two", "‹a\r\nb›c", wrap("**"), "‹**a\r\nb*›*c"},
+    {"link at the caret", "a|b", link, "a[‹link text›](url)b"},
+    {"link of a word", "a ‹word› b", link, "a [word](‹url›) b"},
+    {"link of an emoji", "‹😀›", link, "[😀]‹(ur›l)"},
+    {"link of a pattern", "‹%1›", link, "[%1](‹url›)"},
+    {"prefix for a line", "one\ntw|o\nthree", prefix("> "), "one\n> tw|o\nthree"},
+    {"prefix away again", "one\n> tw|o\nthree", prefix("> "), "one\ntw|o\nthree"},
+    {"prefix at a line's start", "one\n|two", prefix("# "), "one\n# |two"},
+    {"prefix at a line's end", "one|\ntwo", prefix("# "), "# one|\ntwo"},
+    {"prefix for an empty last line", "one\n|", prefix("1. "), "one\n1. |"},
+    {"prefix away before the caret's place", "|# x", prefix("# "), "|x"},
+    {"prefix away from the line below", "abc\n|# x", prefix("# "), "ab|c\nx"},
+    {"only the first selected line", "a‹b\nc›d", prefix("- "), "- a|b\ncd"},
+    {"prefixes pile up", "# o|ne", prefix("- "), "- # o|ne"},
+    {"a return alone ends no line", "a\rb|c", prefix("> "), "> a\rb|c"},
+};
+
+} // namespace
+
+class TextViewManagerTest : public EditorFixture { };
+
+TEST_F(TextViewManagerTest, OperationsChangeTheTextAndTheSelection)
+{
+    for (const auto& test : kFormattingCases) {
+        SCOPED_TRACE(test.name);
+        openAt(QString::fromUtf8(test.before));
+        test.operation(manager);
+        EXPECT_EQ(shown(), test.after);
+    }
+}
+
+TEST_F(TextViewManagerTest, EachOperationIsOneStepOfUndoApartFromTyping)
+{
+    for (const auto& test : kFormattingCases) {
+        SCOPED_TRACE(test.name);
+        open("");
+        const auto text = [this] { return editor.text(); };
+        type(QStringLiteral("ab"));
+        const auto before = text();
+        test.operation(manager);
+        const auto formatted = text();
+        type(QStringLiteral("c"));
+        type(QStringLiteral("d"));
+        const auto after = text();
+        for (const auto& expected : {formatted, before}) {
+            while (text() != expected && editor.document()->isUndoAvailable())
+                editor.undo();
+            EXPECT_EQ(text(), expected);
+        }
+        editor.redo();
+        EXPECT_EQ(text(), formatted);
+        editor.undo();
+        editor.undo();
+        EXPECT_EQ(text(), QStringLiteral("# ")) << "typing is one step";
+        while (editor.document()->isRedoAvailable())
+            editor.redo();
+        EXPECT_EQ(text(), after);
+    }
+}
+
+TEST_F(TextViewManagerTest, WithoutATextViewOrAnEditNothingHappens)
+{
+    TextViewManager alone;
+    alone.wrapSelection(QStringLiteral("*"));
+    alone.insertLink();
+    alone.toggleLinePrefix(QStringLiteral("> "));
+
+    open("text");
+    store.saveEdit();
+    for (const auto& test : kFormattingCases)
+        test.operation(manager);
+    EXPECT_EQ(editor.text(), QStringLiteral("text"));
+    EXPECT_FALSE(editor.document()->isUndoAvailable());
+}
+
+TEST_F(TextViewManagerTest, TheTextViewIsTheOneOnScreen)
+{
+    open("text");
+    editor.show();
+    EXPECT_EQ(manager.textView(), &editor);
+    editor.hide();
+    EXPECT_EQ(manager.textView(), nullptr);
+    editor.show();
+    EXPECT_EQ(manager.textView(), &editor);
+    {
+        MarkdownEditor second(context, nullptr);
+        manager.setTextView(&second);
+    }
+    EXPECT_EQ(manager.textView(), nullptr);
+}
+
+TEST_F(TextViewManagerTest, ToolbarButtonsFormat)
+{
+    MarkdownToolbar toolbar(context, manager, nullptr);
+    const struct {
+        const char* name;
+        const char* after;
+    } tests[] = {
+        {"Bold (⌘B)", "a ‹**bc**›"},
+        {"Italic (⌘I)", "a ‹*bc*›"},
+        {"Heading", "# a |bc"},
+        {"Bullet list", "- a |bc"},
+        {"Numbered list", "1. a |bc"},
+        {"Inline code", "a ‹`bc`›"},
+        {"Link", "a [bc](‹url›)"},
+        {"Blockquote", "> a |bc"},
+    };
+    for (const auto& test : tests) {
+        SCOPED_TRACE(test.name);
+        openAt(QStringLiteral("a ‹bc›"));
+        const auto name = QString::fromUtf8(test.name);
+        PanelFixture::press(toolbar, name);
+        EXPECT_EQ(shown(), test.after);
+        const auto button = find(toolbar, name);
+        EXPECT_EQ(button->toolTip(), name);
+        EXPECT_EQ(button->sizeHint(), QSize(30, 28));
+    }
+}
+
+} // namespace cuebright::test
