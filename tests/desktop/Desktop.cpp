@@ -17,6 +17,8 @@ namespace cuebright::test {
 
 namespace {
 
+constexpr const char* kScreen = "3000x1800x24"; // holds a panel of 1400 points at double size
+
 // Left to its own devices the window manager keeps some of our shortcuts for itself.
 constexpr std::string_view kWindowManagerSettings = R"(<?xml version="1.0" encoding="UTF-8"?>
 <openbox_config xmlns="http://openbox.org/3.4/rc">
@@ -144,7 +146,7 @@ Desktop::Desktop()
 {
     const auto& folder = m_folder.path();
     m_server = std::make_unique<Process>(
-        Process::Start {{"Xvfb", "-displayfd", "1", "-screen", "0", "1280x800x24", "-nolisten", "tcp", "-noreset"},
+        Process::Start {{"Xvfb", "-displayfd", "1", "-screen", "0", kScreen, "-nolisten", "tcp", "-noreset"},
             m_environment, folder / "display", folder / "display.log"});
     m_environment["DISPLAY"] = ":" + m_server->firstLine();
 
@@ -196,6 +198,38 @@ bool Desktop::isActive(WindowId window) const
 {
     const auto active = m_display->property<WindowId>(m_display->root, "_NET_ACTIVE_WINDOW");
     return !active.empty() && active.front() == window;
+}
+
+void Desktop::resize(WindowId window, int width, int height)
+{
+    XResizeWindow(m_display->connection, window, static_cast<unsigned>(width), static_cast<unsigned>(height));
+    XSync(m_display->connection, False);
+    const auto hasSize = [&] {
+        const auto area = clientArea(window);
+        return area.width == width && area.height == height;
+    };
+    if (!waitUntil(hasSize))
+        throw std::runtime_error("the window does not take its new size");
+}
+
+void Desktop::takePicture(WindowId window, const std::filesystem::path& file) const
+{
+    constexpr int kStill = 3;
+    const auto log = m_folder.path() / "import.log";
+    std::string last;
+    int same = 0;
+    const bool taken = waitUntil([&] {
+        Process import(
+            {{"import", "-silent", "-window", std::to_string(window), "-define", "png:exclude-chunks=date,time", file},
+                m_environment, log, {}});
+        const bool isGood = import.exitStatus() == 0;
+        const auto picture = isGood ? readFile(file) : std::string();
+        same = !picture.empty() && picture == last ? same + 1 : 0;
+        last = picture;
+        return same == kStill;
+    });
+    if (!taken)
+        throw std::runtime_error("no picture could be taken: " + readFile(log));
 }
 
 void Desktop::click(int x, int y)

@@ -52,6 +52,11 @@ public:
     [[nodiscard]] Area clientArea(WindowId window) const;
     [[nodiscard]] bool isActive(WindowId window) const;
 
+    /// Gives the client area another size, and waits until it has it.
+    void resize(WindowId window, int width, int height);
+    /// Saves what the window shows as a PNG file, once it stands still.
+    void takePicture(WindowId window, const std::filesystem::path& file) const;
+
     /// Presses and releases the left button.
     void click(int x, int y);
     /// A key with its modifiers, as in "Right", "ctrl+e", "ctrl+shift+Return": the key has its X11 name.

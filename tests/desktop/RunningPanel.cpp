@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <fstream>
+#include <sstream>
 #include <stdexcept>
 
 namespace cuebright::test {
@@ -15,6 +16,13 @@ Desktop& desktop()
     return shared;
 }
 
+Environment with(Environment environment, const Environment& more)
+{
+    for (const auto& [name, value] : more)
+        environment[name] = value;
+    return environment;
+}
+
 const ScreenReader& screenReader()
 {
     static const ScreenReader shared(desktop().environment());
@@ -22,6 +30,34 @@ const ScreenReader& screenReader()
 }
 
 } // namespace
+
+Home::Home(Introduction introduction)
+{
+    write(preferencesFile(), "[General]\n");
+    if (introduction == Introduction::Seen)
+        prefer("cuebrightOnboardingDone", "true");
+}
+
+void Home::prefer(std::string_view key, std::string_view value) const
+{
+    std::ofstream(preferencesFile(), std::ios::app) << key << '=' << value << '\n';
+}
+
+void Home::keepDeck(std::string_view name, const std::vector<std::string_view>& cards) const
+{
+    constexpr std::string_view kDates = R"("createdAt":"2026-11-16T01:21:19Z","updatedAt":"2026-11-16T01:21:19Z")";
+    std::ostringstream text;
+    text << R"({"opacity":1,"fontSize":17,"activeCardIndex":0,"decks":[{"id":"6B0F5C1E-3D0A-4E8B-9D55-2F7A1C9E4B21",)"
+         << R"("name":")" << name << "\"," << kDates << R"(,"cards":[)";
+    int number = 10;
+    for (const auto card : cards) {
+        text << (number == 10 ? "" : ",") << R"({"id":"0C8E6A52-9B1F-4C7D-8E2A-5D3B7F1A6C)" << number
+             << R"(","content":")" << card << "\"," << kDates << "}";
+        ++number;
+    }
+    text << "]}]}";
+    write(stateFile(), text.str());
+}
 
 std::filesystem::path Home::preferencesFile() const
 {
@@ -43,8 +79,9 @@ void Home::write(const std::filesystem::path& path, std::string_view text)
     std::ofstream(path, std::ios::binary) << text;
 }
 
-RunningPanel::RunningPanel(const Home& home)
-    : m_program({{CUEBRIGHT_PROGRAM}, home.environment(desktop().environment()), home.console(), {}, SIGKILL})
+RunningPanel::RunningPanel(const Home& home, const Environment& more)
+    : m_program(
+        {{CUEBRIGHT_PROGRAM}, with(home.environment(desktop().environment()), more), home.console(), {}, SIGKILL})
 {
     bool up = false;
     (void)waitUntil([&] {
@@ -55,7 +92,8 @@ RunningPanel::RunningPanel(const Home& home)
     if (!up)
         throw std::runtime_error("the panel does not come up, the program printed: " + console());
     const auto place = area();
-    desktop().click(place.x + place.width / 2, place.y + place.height / 2);
+    // The corner is empty: in the middle there may be a link.
+    desktop().click(place.x + 12, place.y + place.height - 8);
     if (!waitUntil([this] { return desktop().isActive(m_window); }))
         throw std::runtime_error("a click does not give the panel the keyboard");
 }
@@ -80,14 +118,7 @@ testing::AssertionResult RunningPanel::showsNoLonger(std::string_view name) cons
     return outcome(waitUntil([&] { return !screenReader().finds(m_program.pid(), name); }), name);
 }
 
-testing::AssertionResult RunningPanel::showsButton(std::string_view name) const
-{
-    const auto isButton = [&] {
-        const auto roles = screenReader().roles(m_program.pid(), name);
-        return std::ranges::find(roles, "push button") != roles.end();
-    };
-    return outcome(waitUntil(isButton), name);
-}
+testing::AssertionResult RunningPanel::showsButton(std::string_view name) const { return hasRole(name, "push button"); }
 
 testing::AssertionResult RunningPanel::hasDisabled(std::string_view name) const
 {
@@ -95,6 +126,25 @@ testing::AssertionResult RunningPanel::hasDisabled(std::string_view name) const
         return screenReader().finds(m_program.pid(), name) && !screenReader().isEnabled(m_program.pid(), name);
     }),
         name);
+}
+
+testing::AssertionResult RunningPanel::hints(std::string_view name, std::string_view hint) const
+{
+    std::string heard;
+    const bool seen = waitUntil([&] {
+        heard = screenReader().hint(m_program.pid(), name);
+        return heard == hint;
+    });
+    return outcome(seen, hint) << "\nthe hint of " << name << " is: " << heard;
+}
+
+testing::AssertionResult RunningPanel::hasRole(std::string_view name, std::string_view role) const
+{
+    return outcome(waitUntil([&] {
+        const auto roles = screenReader().roles(m_program.pid(), name);
+        return std::ranges::find(roles, role) != roles.end();
+    }),
+        std::string(role) + " " + std::string(name));
 }
 
 testing::AssertionResult RunningPanel::editorHolds(std::string_view part) const
@@ -111,10 +161,14 @@ void RunningPanel::press(std::string_view chord) const { desktop().press(chord);
 
 void RunningPanel::type(std::string_view text) const { desktop().type(text); }
 
-bool RunningPanel::pressButton(std::string_view name) const
+testing::AssertionResult RunningPanel::pressButton(std::string_view name) const
 {
-    return waitUntil([&] { return screenReader().press(m_program.pid(), name); });
+    return outcome(waitUntil([&] { return screenReader().press(m_program.pid(), name); }), name);
 }
+
+void RunningPanel::resize(int width, int height) const { desktop().resize(m_window, width, height); }
+
+void RunningPanel::takePicture(const std::filesystem::path& file) const { desktop().takePicture(m_window, file); }
 
 testing::AssertionResult RunningPanel::outcome(bool seen, std::string_view what) const
 {

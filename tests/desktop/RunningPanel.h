@@ -7,19 +7,27 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include <gtest/gtest.h>
 
 namespace cuebright::test {
 
-/// The folders of a user who has never started Cuebright.
-class Home final {
+/// The folders of a user who has seen the introduction but has no decks yet.
+class Home {
 public:
+    enum class Introduction { Seen, NotSeen };
+    explicit Home(Introduction introduction = Introduction::Seen);
+
     [[nodiscard]] std::filesystem::path stateFolder() const { return m_folder.path() / "data" / "Cuebright"; }
     [[nodiscard]] std::filesystem::path stateFile() const { return stateFolder() / "state.json"; }
     [[nodiscard]] std::filesystem::path preferencesFile() const;
     [[nodiscard]] std::filesystem::path console() const { return m_folder.path() / "console"; }
     [[nodiscard]] Environment environment(Environment desktop) const;
+
+    void prefer(std::string_view key, std::string_view value) const;
+    /// The state file has one deck with these cards, written as JSON has them: \n for a line feed.
+    void keepDeck(std::string_view name, const std::vector<std::string_view>& cards) const;
 
     /// Writes a file, with the folders that lead to it.
     static void write(const std::filesystem::path& path, std::string_view text);
@@ -33,7 +41,8 @@ private:
 /// What `shows` and its kind look for is waited for.
 class RunningPanel final {
 public:
-    explicit RunningPanel(const Home& home);
+    /// `more` is added to the environment of the desktop.
+    explicit RunningPanel(const Home& home, const Environment& more = {});
 
     [[nodiscard]] std::string title() const;
     [[nodiscard]] Desktop::Area area() const;
@@ -43,13 +52,19 @@ public:
     [[nodiscard]] testing::AssertionResult showsNoLonger(std::string_view name) const;
     [[nodiscard]] testing::AssertionResult showsButton(std::string_view name) const;
     [[nodiscard]] testing::AssertionResult hasDisabled(std::string_view name) const;
+    /// The element of that name is read with that hint.
+    [[nodiscard]] testing::AssertionResult hints(std::string_view name, std::string_view hint) const;
+    [[nodiscard]] testing::AssertionResult hasRole(std::string_view name, std::string_view role) const;
     [[nodiscard]] testing::AssertionResult editorHolds(std::string_view part) const;
 
     /// The keys go to the panel, as long as it has the keyboard.
     void press(std::string_view chord) const;
     void type(std::string_view text) const;
-    /// The way of a screen reader; false where there is no such button.
-    [[nodiscard]] bool pressButton(std::string_view name) const;
+    /// The way of a screen reader; waits for the button.
+    [[nodiscard]] testing::AssertionResult pressButton(std::string_view name) const;
+
+    void resize(int width, int height) const;
+    void takePicture(const std::filesystem::path& file) const;
 
     void send(int signal) const { m_program.send(signal); }
     /// Waits for the end of the program.

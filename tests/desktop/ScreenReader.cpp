@@ -34,6 +34,7 @@ struct ScreenReader::Element {
     int depth;
 
     std::string name() const { return taken(atspi_accessible_get_name(accessible, nullptr)); }
+    std::string hint() const { return taken(atspi_accessible_get_description(accessible, nullptr)); }
     std::string role() const { return taken(atspi_accessible_get_role_name(accessible, nullptr)); }
     bool is(AtspiStateType state) const { return hasState(accessible, state); }
 
@@ -81,6 +82,18 @@ std::vector<std::string> ScreenReader::roles(pid_t program, std::string_view nam
         return true;
     });
     return found;
+}
+
+std::string ScreenReader::hint(pid_t program, std::string_view name) const
+{
+    std::string hint;
+    visit(program, [&](const Element& element) {
+        if (element.name() != name)
+            return true;
+        hint = element.hint();
+        return false;
+    });
+    return hint;
 }
 
 bool ScreenReader::isEnabled(pid_t program, std::string_view name) const

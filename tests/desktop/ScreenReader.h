@@ -22,6 +22,8 @@ public:
     [[nodiscard]] bool finds(pid_t program, std::string_view name) const;
     /// The roles of all elements of that name, in the order of the tree.
     [[nodiscard]] std::vector<std::string> roles(pid_t program, std::string_view name) const;
+    /// The description of the first element of that name; empty where there is none.
+    [[nodiscard]] std::string hint(pid_t program, std::string_view name) const;
     /// True when the first element of that name can be used.
     [[nodiscard]] bool isEnabled(pid_t program, std::string_view name) const;
     /// Does what Return on the element would do; false where there is none or it offers no action.

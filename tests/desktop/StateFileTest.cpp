@@ -64,7 +64,7 @@ TEST(DesktopPreferences, NonsenseNeverBreaksTheStart)
     const Home home;
     Home::write(home.preferencesFile(),
         "[General]\ncuebrightFontSize=nan\ncuebrightOpacity=inf\ncuebrightSpeakingPace=fast\n"
-        "cuebrightWordCount=banana\ncuebrightTheme=1e308\n");
+        "cuebrightWordCount=banana\ncuebrightTheme=1e308\ncuebrightOnboardingDone=true\n");
     RunningPanel panel(home);
 
     EXPECT_TRUE(panel.shows("Card 1 of 5"));
