@@ -4,6 +4,7 @@
 #include "markdown/CardParser.h"
 #include "panel/CardAccessible.h"
 #include "panel/LinkOpener.h"
+#include "panel/SlimScrollBar.h"
 #include "platform/MainQueue.h"
 #include "store/CardStore.h"
 #include "theme/QtColors.h"
@@ -40,6 +41,7 @@ CardArea::CardArea(const PanelContext& context, QWidget* parent)
     viewport()->setAutoFillBackground(false);
     viewport()->setMouseTracking(true);
     verticalScrollBar()->setSingleStep(kLineStep);
+    makeSlim(*verticalScrollBar());
 }
 
 CardArea::Key CardArea::currentKey() const

@@ -1,5 +1,6 @@
 #include "panel/MarkdownEditor.h"
 
+#include "panel/SlimScrollBar.h"
 #include "panel/TextViewManager.h"
 #include "platform/MainQueue.h"
 #include "store/CardStore.h"
@@ -9,6 +10,7 @@
 #include <QGuiApplication>
 #include <QInputMethod>
 #include <QPainter>
+#include <QScrollBar>
 #include <QTextDocument>
 
 #include <algorithm>
@@ -51,6 +53,7 @@ MarkdownEditor::MarkdownEditor(const PanelContext& context, QWidget* parent)
 {
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    makeSlim(*verticalScrollBar());
     setAccessibleName(QStringLiteral("Card text"));
     setInputMethodHints(Qt::ImhMultiLine);
     setCursorWidth(kCaretWidth);

@@ -53,7 +53,7 @@ std::vector<Example> examples()
     return result;
 }
 
-/// The specification's HTML has its links percent-encoded, runs have them as written.
+/// CommonMark's HTML has its links percent-encoded, runs have them as written.
 std::string percentDecoded(std::string_view link)
 {
     std::string decoded;

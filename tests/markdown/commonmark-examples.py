@@ -4,7 +4,7 @@
     npm pack commonmark-spec@0.30.0 && tar xzf commonmark-spec-0.30.0.tgz
     tests/markdown/commonmark-examples.py package/spec.txt > tests/markdown/commonmark-examples.tsv
 
-What is expected comes from the specification's HTML, with our differences: raw HTML is text, an image is its description,
+What is expected comes from the HTML beside each example, with our differences: raw HTML is text, an image is its description,
 white space at both ends stays. Left out and counted: examples of several lines (among them all that define a link
 target) and those whose text starts a block.
 """
