@@ -7,6 +7,8 @@
 #include "panel/PanelController.h"
 
 #include <QCoreApplication>
+#include <QMessageBox>
+#include <QPushButton>
 
 namespace cuebright {
 
@@ -24,6 +26,7 @@ void AppDelegate::applicationDidFinishLaunching()
     addCommandActions(m_panelController->panelWindow(), [this](Command command) { perform(command); });
     showOnboarding();
     m_panelController->showPanel();
+    m_deleteSubscription = m_notifications.observe(kDeleteCardNotification, [this] { askToDeleteCard(); });
 }
 
 QWidget* AppDelegate::panelWindow() const { return m_panelController ? &m_panelController->panelWindow() : nullptr; }
@@ -33,6 +36,21 @@ void AppDelegate::applicationWillTerminate()
     MarkdownEditor::commitComposition();
     m_store.saveEdit();
     m_store.flushToDisk();
+}
+
+/// Asks about the card on show; deletes the one that is active when "Delete" is pressed.
+void AppDelegate::askToDeleteCard()
+{
+    const auto sheet = new QMessageBox(QMessageBox::Warning, QString(), QStringLiteral("Delete this card?"),
+        QMessageBox::NoButton, &m_panelController->panelWindow());
+    sheet->setAttribute(Qt::WA_DeleteOnClose);
+    sheet->setWindowModality(Qt::WindowModal);
+    sheet->setInformativeText(QStringLiteral("This card will be permanently removed from the deck."));
+    const auto remove = sheet->addButton(QStringLiteral("Delete"), QMessageBox::AcceptRole);
+    sheet->setDefaultButton(remove);
+    sheet->setEscapeButton(sheet->addButton(QStringLiteral("Cancel"), QMessageBox::RejectRole));
+    QObject::connect(remove, &QAbstractButton::clicked, sheet, [this] { m_store.deleteCard(); });
+    sheet->open();
 }
 
 void AppDelegate::showOnboarding()

@@ -31,12 +31,14 @@ public:
 
 private:
     void showOnboarding();
+    void askToDeleteCard();
     void perform(Command command);
 
     CardStore m_store;
     NotificationCenter m_notifications;
     PanelContext m_context;
     std::unique_ptr<PanelController> m_panelController;
+    Subscription m_deleteSubscription;
 };
 
 } // namespace cuebright

@@ -67,30 +67,20 @@ CardContentView::CardContentView(const PanelContext& context, QWidget* parent)
     : QWidget(parent)
     , m_context(context)
     , m_timerManager(context.platform.clock, context.platform.mainQueue)
+    , m_column(new QVBoxLayout(this))
     , m_editorManager(new TextViewManager(this))
     , m_header(new HeaderView(context, this))
     , m_cardArea(new CardArea(context, this))
-    , m_editView(new QWidget(this))
-    , m_editor(new MarkdownEditor(context, m_editView))
     , m_rule(new Rule(context, this))
     , m_footer(new FooterView(context, m_timerManager, this))
 {
-    const auto column = new QVBoxLayout(this);
-    column->setSpacing(0);
-    column->addWidget(m_header);
-    column->addSpacing(kGap);
-    column->addWidget(m_cardArea, 1);
-    column->addWidget(m_editView, 1);
-    column->addWidget(m_rule);
-    column->addSpacing(kGap);
-    column->addWidget(m_footer);
-    const auto editColumn = new QVBoxLayout(m_editView);
-    editColumn->setContentsMargins(0, 0, 0, 0);
-    editColumn->setSpacing(kToolbarGap);
-    editColumn->addWidget(new MarkdownToolbar(context, *m_editorManager, m_editView));
-    editColumn->addWidget(m_editor, 1);
-    m_editor->setManager(*m_editorManager);
-    m_editView->hide();
+    m_column->setSpacing(0);
+    m_column->addWidget(m_header);
+    m_column->addSpacing(kGap);
+    m_column->addWidget(m_cardArea, 1);
+    m_column->addWidget(m_rule);
+    m_column->addSpacing(kGap);
+    m_column->addWidget(m_footer);
     setFocusProxy(m_cardArea);
     refresh();
 
@@ -101,6 +91,21 @@ CardContentView::CardContentView(const PanelContext& context, QWidget* parent)
         context.notifications.observe(kToggleOverwriteNotification, [this] { toggleOverwrite(); });
     m_appearanceSubscription = context.platform.appearance.changed.subscribe([this] { takeChangedLook(); });
     m_accessibilitySubscription = context.platform.accessibility.changed.subscribe([this] { takeChangedLook(); });
+}
+
+/// Only the first edit needs it, the first frame does not.
+void CardContentView::makeEditView()
+{
+    m_editView = new QWidget(this);
+    m_editView->hide();
+    m_editor = new MarkdownEditor(m_context, m_editView);
+    m_editor->setManager(*m_editorManager);
+    const auto editColumn = new QVBoxLayout(m_editView);
+    editColumn->setContentsMargins(0, 0, 0, 0);
+    editColumn->setSpacing(kToolbarGap);
+    editColumn->addWidget(new MarkdownToolbar(m_context, *m_editorManager, m_editView));
+    editColumn->addWidget(m_editor, 1);
+    m_column->insertWidget(m_column->indexOf(m_cardArea) + 1, m_editView, 1);
 }
 
 int CardContentView::columnPadding(int width) { return std::max((width - kColumnWidth) / 2, kMinSidePadding); }
@@ -143,7 +148,10 @@ void CardContentView::refresh()
 {
     m_header->refresh();
     m_footer->refresh();
-    m_editor->refresh();
+    if (m_context.store.isEditing() && !m_editor)
+        makeEditView();
+    if (m_editor)
+        m_editor->refresh();
     if (m_context.store.isEditing() && std::exchange(m_editBegins, false))
         m_editor->open();
     const auto content = std::exchange(m_cardContent, CardArea::Content::Same);

@@ -15,6 +15,8 @@
 
 #include <optional>
 
+class QVBoxLayout;
+
 namespace cuebright {
 
 class FooterView;
@@ -49,6 +51,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void makeEditView();
     void takeNotice(const Change& change);
     void takeChangedLook();
     void toggleOverwrite();
@@ -58,11 +61,12 @@ private:
 
     const PanelContext& m_context;
     TimerManager m_timerManager;
+    QVBoxLayout* m_column;
     TextViewManager* m_editorManager;
     HeaderView* m_header;
     CardArea* m_cardArea;
-    QWidget* m_editView;
-    MarkdownEditor* m_editor;
+    QWidget* m_editView = nullptr; ///< made for the first edit, with what is in it
+    MarkdownEditor* m_editor = nullptr;
     QWidget* m_rule;
     FooterView* m_footer;
     bool m_refreshScheduled = false;
@@ -70,7 +74,7 @@ private:
     // What the notices since the last refresh said:
     CardArea::Content m_cardContent = CardArea::Content::Stale;
     std::optional<Animation> m_animation;
-    bool m_editBegins = false; ///< even if another one ended in the same turn
+    bool m_editBegins = true; ///< even if another one ended in the same turn
     WeakTarget m_weakTarget;
     Subscription m_storeSubscription;
     Subscription m_appearanceSubscription;

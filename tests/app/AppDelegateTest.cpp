@@ -3,6 +3,7 @@
 #include "model/StateFile.h"
 #include "support/FakePlatform.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QTest>
 #include <QWindow>
@@ -51,6 +52,30 @@ TEST_F(AppDelegateTest, MenuKeysReachTheStore)
     EXPECT_EQ(saved()->decks[3].name, "New Deck");
     EXPECT_EQ(saved()->decks[3].cards[0].content, "# New Card\n\nStart writing here.");
     EXPECT_EQ(saved()->activeCardIndex, 0);
+}
+
+TEST_F(AppDelegateTest, DeletingACardAsksFirst)
+{
+    const auto button = [&](const QString& text) -> QAbstractButton* {
+        for (const auto candidate : delegate->panelWindow()->findChildren<QAbstractButton*>()) {
+            if (candidate->text() == text && candidate->window()->isModal() && candidate->isVisible())
+                return candidate;
+        }
+        return nullptr;
+    };
+    const auto cardCount = [&] {
+        delegate->applicationWillTerminate();
+        return saved()->decks[0].cards.size();
+    };
+    key(Qt::Key_D, Qt::ControlModifier);
+    ASSERT_TRUE(button(QStringLiteral("Cancel")));
+    button(QStringLiteral("Cancel"))->click();
+    EXPECT_EQ(cardCount(), 5U);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    key(Qt::Key_D, Qt::ControlModifier);
+    ASSERT_TRUE(button(QStringLiteral("Delete")));
+    button(QStringLiteral("Delete"))->click();
+    EXPECT_EQ(cardCount(), 4U);
 }
 
 } // namespace cuebright::test

@@ -1,0 +1,103 @@
+// A step to another card: from the store's operation to the end of the first paint, against a repaint of what rests.
+#include "panel/CardContentView.h"
+
+#include "foundation/NotificationCenter.h"
+#include "model/StateFile.h"
+#include "platform/FileSystem.h"
+#include "platform/UuidSource.h"
+#include "platform/none/NoCaptureExclusion.h"
+#include "platform/qt/QtPlatform.h"
+#include "store/CardStore.h"
+
+#include <QApplication>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <benchmark/benchmark.h>
+
+#include <string>
+
+namespace cuebright::bench {
+
+namespace {
+
+constexpr int kTransitionTime = 250; ///< in milliseconds, with some room
+
+std::string card(int lines)
+{
+    std::string content = "# A heading with *emphasis*\n";
+    for (int i = 1; i < lines; ++i)
+        content += "- Point " + std::to_string(i) + " with **strong** words and `code` to say aloud to everybody\n";
+    return content;
+}
+
+/// The panel's content on two cards of so many lines.
+struct Bench {
+    explicit Bench(int lines)
+    {
+        auto services = platform.services();
+        const auto now = services.clock.now();
+        Deck deck {services.uuids.makeUuid(), "Talk", {}, now, now};
+        for (int i = 0; i < 2; ++i)
+            deck.cards.push_back({services.uuids.makeUuid(), card(lines), now, now});
+        const std::vector<Deck> decks {deck};
+        const auto json = std::get<std::string>(encodeState({decks, deck.id, 0, 1, 17}));
+        if (services.fileSystem.writeFileAtomically(store.stateUrl(), json))
+            std::abort();
+        store.loadFromDisk();
+        view.resize(720, 560);
+        view.show();
+        settle();
+    }
+    static void settle() { QTest::qWait(kTransitionTime); }
+
+    QTemporaryDir folder;
+    bool isIsolated = qputenv("XDG_DATA_HOME", folder.path().toUtf8());
+    QtPlatform platform {(folder.path() + QStringLiteral("/preferences.conf")).toStdString()};
+    NotificationCenter notifications;
+    CardStore store {platform.services()};
+    NoCaptureExclusion captureExclusion;
+    PanelContext context {store, notifications, platform.services(), captureExclusion};
+    CardContentView view {context};
+};
+
+void stepReferenceRepaint(benchmark::State& state)
+{
+    Bench bench(static_cast<int>(state.range(0)));
+    for (auto _ : state)
+        bench.view.repaint();
+}
+BENCHMARK(stepReferenceRepaint)->Arg(6)->Arg(2000)->Iterations(40)->Unit(benchmark::kMillisecond);
+
+void step(benchmark::State& state)
+{
+    Bench bench(static_cast<int>(state.range(0)));
+    bool goesOn = true;
+    for (auto _ : state) {
+        if (goesOn)
+            bench.store.nextCard();
+        else
+            bench.store.prevCard();
+        goesOn = !goesOn;
+        QCoreApplication::sendPostedEvents(); // the refresh, then the paint
+        QCoreApplication::sendPostedEvents();
+        state.PauseTiming();
+        Bench::settle();
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(step)->Arg(6)->Arg(2000)->Iterations(20)->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+} // namespace cuebright::bench
+
+int main(int argc, char* argv[])
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_LOGGING_RULES", "default.warning=false"); // the offscreen platform's
+    const QApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
