@@ -75,6 +75,8 @@ void CardArea::refresh(Content content, const std::optional<Animation>& animatio
 
 void CardArea::layOut()
 {
+    if (!m_isSized)
+        return;
     m_focusedLink.reset();
     m_pressedLink.reset();
     const auto card = m_context.store.activeCard();
@@ -178,6 +180,7 @@ QPixmap CardArea::pictureOfFrame()
 
 void CardArea::resizeEvent(QResizeEvent*)
 {
+    m_isSized = true;
     m_transition.stop();
     layOut();
 }

@@ -75,6 +75,7 @@ private:
     CardTransition m_transition;
     std::optional<std::size_t> m_focusedLink; ///< among the layout's links
     std::optional<std::string> m_pressedLink;
+    bool m_isSized = false; ///< before it is, laying out would be for nothing
     bool m_goesOnLayingOut = false;
     WeakTarget m_weakTarget;
 };
