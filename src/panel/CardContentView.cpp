@@ -73,6 +73,7 @@ CardContentView::CardContentView(const PanelContext& context, QWidget* parent)
     , m_cardArea(new CardArea(context, this))
     , m_rule(new Rule(context, this))
     , m_footer(new FooterView(context, m_timerManager, this))
+    , m_refresh(context.platform.mainQueue, [this] { refresh(); })
 {
     m_column->setSpacing(0);
     m_column->addWidget(m_header);
@@ -118,30 +119,19 @@ void CardContentView::takeNotice(const Change& change)
         m_cardContent = CardArea::Content::Stale;
     if (change.animation)
         m_animation = change.animation;
-    scheduleRefresh();
+    m_refresh.request();
 }
 
 void CardContentView::takeChangedLook()
 {
     m_cardContent = CardArea::Content::Stale;
-    scheduleRefresh();
+    m_refresh.request();
 }
 
 void CardContentView::toggleOverwrite()
 {
     m_editorManager->setOverwriteMode(!m_editorManager->isOverwriteMode());
     m_context.store.showFeedback(m_editorManager->isOverwriteMode() ? "Overwrite" : "Insert");
-}
-
-void CardContentView::scheduleRefresh()
-{
-    if (m_refreshScheduled)
-        return;
-    m_refreshScheduled = true;
-    m_context.platform.mainQueue.post(m_weakTarget.guard([this] {
-        m_refreshScheduled = false;
-        refresh();
-    }));
 }
 
 void CardContentView::refresh()

@@ -1,12 +1,12 @@
 #pragma once
 
 #include "foundation/Signal.h"
-#include "foundation/WeakTarget.h"
 #include "markdown/Block.h"
 #include "markdown/BlockMetrics.h"
 #include "markdown/CardParser.h"
 #include "markdown/StyledText.h"
 #include "panel/CardArea.h"
+#include "panel/OncePerTurn.h"
 #include "panel/PanelContext.h"
 #include "store/Change.h"
 #include "timer/TimerManager.h"
@@ -55,7 +55,6 @@ private:
     void takeNotice(const Change& change);
     void takeChangedLook();
     void toggleOverwrite();
-    void scheduleRefresh();
     void refresh();
     void showEditor(bool isEditing, const std::optional<Animation>& animation);
 
@@ -69,13 +68,12 @@ private:
     MarkdownEditor* m_editor = nullptr;
     QWidget* m_rule;
     FooterView* m_footer;
-    bool m_refreshScheduled = false;
     bool m_showsEditor = false;
     // What the notices since the last refresh said:
     CardArea::Content m_cardContent = CardArea::Content::Stale;
     std::optional<Animation> m_animation;
     bool m_editBegins = true; ///< even if another one ended in the same turn
-    WeakTarget m_weakTarget;
+    OncePerTurn m_refresh;
     Subscription m_storeSubscription;
     Subscription m_appearanceSubscription;
     Subscription m_accessibilitySubscription;

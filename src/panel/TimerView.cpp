@@ -184,6 +184,7 @@ TimerView::TimerView(const PanelContext& context, TimerManager& timer, QWidget* 
     , m_play(new PlayButton(context, this))
     , m_time(new TimeButton(context, this))
     , m_menu(this)
+    , m_refresh(context.platform.mainQueue, [this] { refresh(); })
 {
     const auto row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
@@ -194,18 +195,7 @@ TimerView::TimerView(const PanelContext& context, TimerManager& timer, QWidget* 
     connect(m_time, &QAbstractButton::clicked, this, &TimerView::openMenu);
     offerOpenMenusToScreenReaders(*this);
     refresh();
-    m_timerSubscription = timer.willChange.subscribe([this] { scheduleRefresh(); });
-}
-
-void TimerView::scheduleRefresh()
-{
-    if (m_refreshScheduled)
-        return;
-    m_refreshScheduled = true;
-    m_context.platform.mainQueue.post(m_weakTarget.guard([this] {
-        m_refreshScheduled = false;
-        refresh();
-    }));
+    m_timerSubscription = timer.willChange.subscribe([this] { m_refresh.request(); });
 }
 
 void TimerView::refresh()

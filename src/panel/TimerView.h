@@ -1,8 +1,8 @@
 #pragma once
 
 #include "foundation/Signal.h"
-#include "foundation/WeakTarget.h"
 #include "panel/Ink.h"
+#include "panel/OncePerTurn.h"
 #include "panel/PanelContext.h"
 #include "timer/TimerManager.h"
 
@@ -55,7 +55,6 @@ private:
         bool operator==(const Shown&) const = default;
     };
 
-    void scheduleRefresh();
     void openMenu();
 
     const PanelContext& m_context;
@@ -64,8 +63,7 @@ private:
     TimeButton* m_time;
     QMenu m_menu;
     std::optional<Shown> m_shown;
-    bool m_refreshScheduled = false;
-    WeakTarget m_weakTarget;
+    OncePerTurn m_refresh;
     Subscription m_timerSubscription;
 };
 
