@@ -117,8 +117,10 @@ void CardContentView::takeNotice(const Change& change)
         m_editBegins = true;
     if (changesTheCard(change.property))
         m_cardContent = CardArea::Content::Stale;
-    if (change.animation)
-        m_animation = change.animation;
+    if (change.property == Change::Property::IsEditing)
+        m_editAnimation = change.animation;
+    else if (change.animation)
+        m_cardAnimation = change.animation;
     m_refresh.request();
 }
 
@@ -145,10 +147,11 @@ void CardContentView::refresh()
     if (m_context.store.isEditing() && std::exchange(m_editBegins, false))
         m_editor->open();
     const auto content = std::exchange(m_cardContent, CardArea::Content::Same);
-    const auto animation = std::exchange(m_animation, std::nullopt);
+    const auto cardAnimation = std::exchange(m_cardAnimation, std::nullopt);
+    const auto editAnimation = std::exchange(m_editAnimation, std::nullopt);
     const bool staysWithTheCard = !m_showsEditor && !m_context.store.isEditing();
-    m_cardArea->refresh(content, staysWithTheCard ? animation : std::nullopt);
-    showEditor(m_context.store.isEditing(), animation);
+    m_cardArea->refresh(content, staysWithTheCard ? cardAnimation : std::nullopt);
+    showEditor(m_context.store.isEditing(), editAnimation);
     update();
 }
 

@@ -71,7 +71,8 @@ private:
     bool m_showsEditor = false;
     // What the notices since the last refresh said:
     CardArea::Content m_cardContent = CardArea::Content::Stale;
-    std::optional<Animation> m_animation;
+    std::optional<Animation> m_cardAnimation;
+    std::optional<Animation> m_editAnimation;
     bool m_editBegins = true; ///< even if another one ended in the same turn
     OncePerTurn m_refresh;
     Subscription m_storeSubscription;

@@ -1,5 +1,6 @@
 #include "panel/ChromeButton.h"
 
+#include "panel/Easing.h"
 #include "theme/CuebrightChromeStyle.h"
 #include "theme/Fonts.h"
 
@@ -34,7 +35,7 @@ ChromeButton::ChromeButton(const PanelContext& context, Kind kind, const QString
     setText(text);
     setFont(fontOf(kind));
     m_press.setDuration(CuebrightChromeStyle::kPressAnimationTime);
-    m_press.setEasingCurve(QEasingCurve::OutQuad);
+    m_press.setEasingCurve(easingCurve(Animation::Curve::EaseOut));
     m_press.setStartValue(0.0);
     m_press.setEndValue(0.0);
     connect(&m_press, &QVariantAnimation::valueChanged, this, qOverload<>(&QWidget::update));

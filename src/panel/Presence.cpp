@@ -6,12 +6,12 @@
 
 namespace cuebright {
 
-Presence::Presence(double value, Seconds duration, std::function<void()> changed)
+Presence::Presence(double value, Seconds duration, std::function<void()> changed, Animation::Curve curve)
     : m_value(value)
     , m_target(value)
     , m_changed(std::move(changed))
 {
-    m_animation.setEasingCurve(easingCurve(Animation::Curve::EaseInOut));
+    m_animation.setEasingCurve(easingCurve(curve));
     m_animation.setDuration(milliseconds(duration));
     QObject::connect(&m_animation, &QVariantAnimation::valueChanged, &m_animation, [this](const QVariant& newValue) {
         if (m_animation.state() == QAbstractAnimation::Running)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Clock.h"
+#include "store/Change.h"
 
 #include <QVariantAnimation>
 
@@ -8,13 +8,14 @@
 
 namespace cuebright {
 
-/// A number from 0 to 1 that moves to where it is sent on an ease-in-out curve, from wherever it is.
+/// A number from 0 to 1 that moves to where it is sent on a curve, from wherever it is.
 class Presence final {
 public:
     enum class Motion { Animated, AtOnce };
 
     /// `changed` is called with each new value, the last one included.
-    Presence(double value, Seconds duration, std::function<void()> changed);
+    Presence(double value, Seconds duration, std::function<void()> changed,
+        Animation::Curve curve = Animation::Curve::EaseInOut);
     Presence(const Presence&) = delete;
     Presence& operator=(const Presence&) = delete;
 

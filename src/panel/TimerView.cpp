@@ -96,7 +96,9 @@ class PlayButton final : public PanelButton {
 public:
     PlayButton(const PanelContext& context, QWidget* parent)
         : PanelButton(context, parent)
-        , m_press(0, Seconds(CuebrightChromeStyle::kPressAnimationTime / 1000.0), [this] { update(); })
+        , m_press(
+              0, Seconds(CuebrightChromeStyle::kPressAnimationTime / 1000.0), [this] { update(); },
+              Animation::Curve::EaseOut)
     {
         connect(this, &QAbstractButton::pressed, this, [this] { m_press.moveTo(1, Presence::Motion::Animated); });
         connect(this, &QAbstractButton::released, this, [this] { m_press.moveTo(0, Presence::Motion::Animated); });
@@ -164,8 +166,7 @@ protected:
         const auto colors = m_context.colors();
         const auto shape = continuousRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kTimeCornerRadius);
         painter.fillPath(shape, toQColor(timerFill(m_urgency, colors)));
-        const double outlineOpacity = colors.highContrast() ? 1 : kOutlineOpacity;
-        painter.strokePath(shape, QPen(toQColor(colors.sep().withAlpha(outlineOpacity)), 1));
+        painter.strokePath(shape, QPen(toQColor(colors.sep().withAlpha(kOutlineOpacity)), 1));
         painter.setFont(font());
         painter.setPen(toQColor(inkColor(timerInk(m_urgency), colors)));
         const QRectF room = QRectF(rect()).adjusted(kTimePaddingX, 0, 0, 0);

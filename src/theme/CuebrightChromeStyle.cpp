@@ -57,7 +57,8 @@ void CuebrightChromeStyle::draw(
         painter.setOpacity(painter.opacity() * kDisabledOpacity);
     const auto separator = m_colors.sep();
     const double lineWidth = state.hasFocus ? kFocusWidth : m_colors.borderWidth();
-    const auto shape = continuousRoundedRect(rect.adjusted(1, 1, -1, -1), kCornerRadius);
+    const double inset = lineWidth / 2; // the stroke stays inside
+    const auto shape = continuousRoundedRect(rect.adjusted(inset, inset, -inset, -inset), kCornerRadius);
     painter.fillPath(
         shape, toQColor(separator.withAlpha(kReleasedFill + (kPressedFill - kReleasedFill) * state.pressed)));
     painter.setPen(QPen(toQColor(m_colors.muted())));
