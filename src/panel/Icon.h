@@ -13,8 +13,6 @@ enum class Icon {
     Bold,
     BulletList,
     Cards,
-    ChevronUpDown,
-    Close,
     Code,
     Heading,
     HiddenEye,
