@@ -5,7 +5,6 @@
 #include "model/StateFile.h"
 #include "platform/FileSystem.h"
 #include "platform/UuidSource.h"
-#include "platform/none/NoCaptureExclusion.h"
 #include "platform/qt/QtPlatform.h"
 #include "store/CardStore.h"
 
@@ -56,8 +55,7 @@ struct Bench {
     QtPlatform platform {(folder.path() + QStringLiteral("/preferences.conf")).toStdString()};
     NotificationCenter notifications;
     CardStore store {platform.services()};
-    NoCaptureExclusion captureExclusion;
-    PanelContext context {store, notifications, platform.services(), captureExclusion};
+    PanelContext context {store, notifications, platform.services(), platform.desktop()};
     CardContentView view {context};
 };
 

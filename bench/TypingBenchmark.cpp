@@ -2,7 +2,6 @@
 #include "panel/CardContentView.h"
 
 #include "foundation/NotificationCenter.h"
-#include "platform/none/NoCaptureExclusion.h"
 #include "platform/qt/QtPlatform.h"
 #include "store/CardStore.h"
 
@@ -50,8 +49,7 @@ struct Bench {
     QtPlatform platform {(folder.path() + QStringLiteral("/preferences.conf")).toStdString()};
     NotificationCenter notifications;
     CardStore store {platform.services()};
-    NoCaptureExclusion captureExclusion;
-    PanelContext context {store, notifications, platform.services(), captureExclusion};
+    PanelContext context {store, notifications, platform.services(), platform.desktop()};
     CardContentView view {context};
 };
 

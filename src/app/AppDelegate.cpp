@@ -12,9 +12,9 @@
 
 namespace cuebright {
 
-AppDelegate::AppDelegate(const Platform& platform, CaptureExclusion& captureExclusion)
+AppDelegate::AppDelegate(const Platform& platform, const Desktop& desktop)
     : m_store(platform)
-    , m_context {m_store, m_notifications, platform, captureExclusion}
+    , m_context {m_store, m_notifications, platform, desktop}
 {
 }
 

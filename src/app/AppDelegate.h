@@ -16,7 +16,7 @@ class PanelController;
 /// Owns the store and the panel, starts them in order and ends them safely. Lives as long as the application.
 class AppDelegate final {
 public:
-    AppDelegate(const Platform& platform, CaptureExclusion& captureExclusion);
+    AppDelegate(const Platform& platform, const Desktop& desktop);
     AppDelegate(const AppDelegate&) = delete;
     AppDelegate& operator=(const AppDelegate&) = delete;
     ~AppDelegate();

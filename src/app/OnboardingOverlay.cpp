@@ -3,6 +3,7 @@
 #include "app/OnboardingPageView.h"
 #include "panel/ChromeButton.h"
 #include "panel/FadeOut.h"
+#include "platform/CaptureExclusion.h"
 #include "platform/Preferences.h"
 #include "theme/CuebrightChromeStyle.h"
 #include "theme/QtColors.h"
@@ -134,7 +135,7 @@ OnboardingOverlay::OnboardingOverlay(const PanelContext& context, QWidget* paren
     raise();
     coverForScreenReaders(parent);
     m_advance->setFocus();
-    m_exclusionSubscription = context.captureExclusion.changed.subscribe([this] { buildPages(); });
+    m_exclusionSubscription = context.desktop.captureExclusion.changed.subscribe([this] { buildPages(); });
 }
 
 OnboardingOverlay::~OnboardingOverlay() = default;
@@ -149,7 +150,7 @@ void OnboardingOverlay::buildPages()
     for (const auto page : m_pages)
         delete page;
     m_pages.clear();
-    for (const auto& page : onboardingPages(m_context.captureExclusion.state()))
+    for (const auto& page : onboardingPages(m_context.desktop.captureExclusion.state()))
         m_pages.push_back(new OnboardingPageView(m_context, page, this));
     showPage();
 }

@@ -1,7 +1,6 @@
 #include "app/AppDelegate.h"
-#include "platform/linux/FontWarmUp.h"
-#include "platform/linux/TerminationSignals.h"
-#include "platform/none/NoCaptureExclusion.h"
+#include "app/FirstFrame.h"
+#include "platform/qt/ProcessSetup.h"
 #include "platform/qt/QtPlatform.h"
 
 #include <QApplication>
@@ -10,8 +9,7 @@ using namespace cuebright;
 
 int main(int, char* argv[])
 {
-    TerminationSignals::claim();
-    const FontWarmUp fontWarmUp;
+    ProcessSetup process;
 
     // Only the name: there are no command-line options, so Qt gets none either.
     int argumentCount = 1;
@@ -19,14 +17,14 @@ int main(int, char* argv[])
     QApplication::setApplicationName(QStringLiteral("Cuebright"));
     QApplication::setApplicationVersion(QStringLiteral(CUEBRIGHT_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("app.cuebright.Cuebright"));
+    process.applicationIsThere();
 
     QtPlatform platform;
-    NoCaptureExclusion captureExclusion;
-    AppDelegate delegate(platform.services(), captureExclusion);
+    AppDelegate delegate(platform.services(), platform.desktop());
     delegate.applicationDidFinishLaunching();
+    const FirstFrame firstFrame(*delegate.panelWindow(), [&] { platform.start(); });
 
-    TerminationSignals signals;
-    const auto onSignal = signals.requested.subscribe([&] { delegate.quit(); });
+    const auto onRequest = process.terminationRequested.subscribe([&] { delegate.quit(); });
     QObject::connect(&application, &QGuiApplication::lastWindowClosed, &application, [&] { delegate.quit(); });
     // The session ends: the desktop may kill the program as soon as this returns.
     QObject::connect(

@@ -4,6 +4,7 @@
 #include "panel/PanelLabel.h"
 #include "panel/ShareNotice.h"
 #include "panel/TextConversion.h"
+#include "platform/CaptureExclusion.h"
 #include "store/CardStore.h"
 #include "theme/Fonts.h"
 
@@ -35,7 +36,7 @@ HeaderView::HeaderView(const PanelContext& context, QWidget* parent)
 
 void HeaderView::refresh()
 {
-    const auto badge = badgeFor(m_context.captureExclusion.state());
+    const auto badge = badgeFor(m_context.desktop.captureExclusion.state());
     const auto position = toQString(m_context.store.positionLabel());
     if (m_showReturnPulse)
         m_eyebrow->crossFadeTo(toQString(badge.text), badge.ink);

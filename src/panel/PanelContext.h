@@ -1,12 +1,12 @@
 #pragma once
 
 #include "platform/Appearance.h"
+#include "platform/Desktop.h"
 #include "platform/Platform.h"
 #include "theme/Colors.h"
 
 namespace cuebright {
 
-class CaptureExclusion;
 class CardStore;
 class NotificationCenter;
 
@@ -15,7 +15,7 @@ struct PanelContext {
     CardStore& store;
     NotificationCenter& notifications;
     Platform platform;
-    CaptureExclusion& captureExclusion;
+    Desktop desktop;
 
     /// The colours to draw with now.
     [[nodiscard]] Colors colors() const { return {platform.appearance.isDark(), platform.accessibility}; }

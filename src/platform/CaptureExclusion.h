@@ -2,10 +2,12 @@
 
 #include "foundation/Signal.h"
 
+#include <functional>
+
 namespace cuebright {
 
 /// What becomes of the program's windows in a screen share or a recording: what the system is known to do, never what
-/// was asked of it.
+/// was asked of it. Holds for all windows of the program alike.
 class CaptureExclusion {
 public:
     enum class State {
@@ -20,7 +22,14 @@ public:
     /// Cheap; never waits for another process.
     [[nodiscard]] virtual State state() = 0;
 
-    /// `state` has changed.
+    /// False while the system has been asked and has not answered yet; becomes true within seconds, whatever happens.
+    [[nodiscard]] virtual bool isSettled() { return true; }
+
+    /// Call before each show. Where the windows were `Excluded` once and are no longer, hides them again; `reapplied`
+    /// runs once, on the main thread, as soon as the system confirms that they are out, and never otherwise.
+    virtual void reapplyIfLost(std::function<void()> reapplied) = 0;
+
+    /// `state` or `isSettled` has changed.
     Signal<> changed;
 };
 

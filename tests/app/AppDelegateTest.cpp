@@ -16,7 +16,7 @@ class AppDelegateTest : public testing::Test {
 protected:
     FakePlatform fake;
     const bool isNoFirstRun = (fake.preferences.setBoolean(preferenceKeys::kOnboardingDone, true), true);
-    std::unique_ptr<AppDelegate> delegate = std::make_unique<AppDelegate>(fake.platform(), fake.captureExclusion);
+    std::unique_ptr<AppDelegate> delegate = std::make_unique<AppDelegate>(fake.platform(), fake.desktop());
 
     void SetUp() override { delegate->applicationDidFinishLaunching(); }
 

@@ -18,7 +18,7 @@ protected:
     FakePlatform fake;
     NotificationCenter notifications;
     CardStore store {fake.platform()};
-    PanelContext context {store, notifications, fake.platform(), fake.captureExclusion};
+    PanelContext context {store, notifications, fake.platform(), fake.desktop()};
 
     /// Replaces all decks by one with these cards.
     void setCards(const std::vector<std::string>& contents);

@@ -4,12 +4,15 @@
 #include "platform/Appearance.h"
 #include "platform/CaptureExclusion.h"
 #include "platform/Clock.h"
+#include "platform/Desktop.h"
 #include "platform/FileSystem.h"
+#include "platform/HotKeys.h"
 #include "platform/Log.h"
 #include "platform/MainQueue.h"
 #include "platform/Platform.h"
 #include "platform/Preferences.h"
 #include "platform/UuidSource.h"
+#include "platform/WindowSystem.h"
 
 #include <functional>
 #include <map>
@@ -164,8 +167,59 @@ public:
 class FakeCaptureExclusion final : public CaptureExclusion {
 public:
     State state() override { return known; }
+    bool isSettled() override { return settled; }
+    void reapplyIfLost(std::function<void()> reapplied) override
+    {
+        ++checks;
+        whenReapplied = std::move(reapplied);
+    }
 
     State known = State::Excluded;
+    bool settled = true;
+    int checks = 0;
+    std::function<void()> whenReapplied; ///< of the last check
+};
+
+/// One key at a time; presses it when a test says so.
+class FakeHotKeys final : public HotKeys {
+public:
+    std::unique_ptr<HotKeyRegistration> registerHotKey(const HotKey& key, std::function<void()> pressed) override
+    {
+        keys.push_back(key);
+        if (isTaken)
+            return nullptr;
+        press = std::move(pressed);
+        return std::make_unique<Registration>(*this);
+    }
+
+    bool isTaken = false;
+    bool isSystemWide = true;
+    std::vector<HotKey> keys; ///< that were asked for
+    std::function<void()> press; ///< null without a registration
+
+private:
+    class Registration final : public HotKeyRegistration {
+    public:
+        explicit Registration(FakeHotKeys& owner)
+            : m_owner(owner)
+        {
+        }
+        ~Registration() override { m_owner.press = nullptr; }
+        bool isSystemWide() const override { return m_owner.isSystemWide; }
+
+    private:
+        FakeHotKeys& m_owner;
+    };
+};
+
+/// Records what is asked of it.
+class FakeWindowSystem final : public WindowSystem {
+public:
+    void keepAboveFullScreen(WindowId) override { calls.emplace_back("keep above"); }
+    void release(WindowId) override { calls.emplace_back("release"); }
+    void setGlass(WindowId, bool isOn) override { calls.emplace_back(isOn ? "glass on" : "glass off"); }
+
+    std::vector<std::string> calls;
 };
 
 class FakeLog final : public Log {
@@ -186,8 +240,11 @@ struct FakePlatform {
     FakeAppearance appearance;
     FakeLog log;
     FakeCaptureExclusion captureExclusion;
+    FakeHotKeys hotKeys;
+    FakeWindowSystem windowSystem;
 
     Platform platform() { return {clock, uuids, mainQueue, fileSystem, preferences, accessibility, appearance, log}; }
+    Desktop desktop() { return {captureExclusion, hotKeys, windowSystem}; }
 };
 
 } // namespace cuebright::test

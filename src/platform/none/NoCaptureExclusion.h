@@ -4,10 +4,19 @@
 
 namespace cuebright {
 
-/// For a system that cannot be asked: nothing is known.
+/// For a system that nothing can be asked of, and of which this much is known.
 class NoCaptureExclusion final : public CaptureExclusion {
 public:
-    State state() override { return State::Unknown; }
+    explicit NoCaptureExclusion(State known = State::Unknown)
+        : m_known(known)
+    {
+    }
+
+    State state() override { return m_known; }
+    void reapplyIfLost(std::function<void()>) override { }
+
+private:
+    State m_known;
 };
 
 } // namespace cuebright

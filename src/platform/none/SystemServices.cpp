@@ -2,6 +2,9 @@
 
 #include "platform/Clock.h"
 #include "platform/none/NoAccessibility.h"
+#include "platform/none/NoCaptureExclusion.h"
+#include "platform/none/NoHotKeys.h"
+#include "platform/none/NoWindowSystem.h"
 
 #include <chrono>
 
@@ -16,11 +19,24 @@ public:
     Seconds uptime() override { return std::chrono::steady_clock::now().time_since_epoch(); }
 };
 
+class NoServices final : public SystemServices {
+public:
+    Clock& clock() override { return m_clock; }
+    Accessibility& accessibility() override { return m_accessibility; }
+    Desktop desktop() override { return {m_captureExclusion, m_hotKeys, m_windowSystem}; }
+    void start() override { }
+
+private:
+    StandardClock m_clock;
+    NoAccessibility m_accessibility;
+    NoCaptureExclusion m_captureExclusion;
+    NoHotKeys m_hotKeys;
+    NoWindowSystem m_windowSystem;
+};
+
 } // namespace
 
-std::unique_ptr<Clock> makeClock() { return std::make_unique<StandardClock>(); }
-
-std::unique_ptr<Accessibility> makeAccessibility() { return std::make_unique<NoAccessibility>(); }
+std::unique_ptr<SystemServices> makeSystemServices(QtAppearance&, MainQueue&) { return std::make_unique<NoServices>(); }
 
 std::optional<FileError> syncFile(int) { return std::nullopt; }
 

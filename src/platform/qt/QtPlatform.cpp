@@ -1,7 +1,5 @@
 #include "platform/qt/QtPlatform.h"
 
-#include "platform/Accessibility.h"
-#include "platform/Clock.h"
 #include "platform/qt/SystemServices.h"
 
 #include <QFileInfo>
@@ -12,9 +10,8 @@
 namespace cuebright {
 
 QtPlatform::QtPlatform(const std::filesystem::path& preferencesFile)
-    : m_clock(makeClock())
-    , m_accessibility(makeAccessibility())
-    , m_preferences(m_mainQueue, preferencesFile)
+    : m_preferences(m_mainQueue, preferencesFile)
+    , m_system(makeSystemServices(m_appearance, m_mainQueue))
 {
 }
 
@@ -28,7 +25,12 @@ std::filesystem::path QtPlatform::defaultPreferencesFile()
 
 Platform QtPlatform::services()
 {
-    return {*m_clock, m_uuids, m_mainQueue, m_fileSystem, m_preferences, *m_accessibility, m_appearance, m_log};
+    return {m_system->clock(), m_uuids, m_mainQueue, m_fileSystem, m_preferences, m_system->accessibility(),
+        m_appearance, m_log};
 }
+
+Desktop QtPlatform::desktop() { return m_system->desktop(); }
+
+void QtPlatform::start() { m_system->start(); }
 
 } // namespace cuebright

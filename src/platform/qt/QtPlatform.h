@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Desktop.h"
 #include "platform/Platform.h"
 #include "platform/qt/QtAppearance.h"
 #include "platform/qt/QtFileSystem.h"
@@ -13,6 +14,8 @@
 
 namespace cuebright {
 
+class SystemServices;
+
 /// Owns all services of a running program; outlives whatever uses them. Make it after the `QApplication` and let it go
 /// before that.
 class QtPlatform final {
@@ -24,17 +27,20 @@ public:
     [[nodiscard]] static std::filesystem::path defaultPreferencesFile();
 
     [[nodiscard]] Platform services();
+    [[nodiscard]] Desktop desktop();
     [[nodiscard]] QtAppearance& appearance() { return m_appearance; }
 
+    /// Asks the desktop for what the first frame did not need. Call once, after that frame.
+    void start();
+
 private:
-    std::unique_ptr<Clock> m_clock;
-    std::unique_ptr<Accessibility> m_accessibility;
     QtUuidSource m_uuids;
     StdoutLog m_log;
     QtMainQueue m_mainQueue;
     QtFileSystem m_fileSystem;
     QtPreferences m_preferences;
     QtAppearance m_appearance;
+    std::unique_ptr<SystemServices> m_system;
 };
 
 } // namespace cuebright

@@ -1,8 +1,5 @@
-#include "platform/qt/SystemServices.h"
-
 #include "platform/linux/FileDescriptor.h"
-#include "platform/linux/SystemClock.h"
-#include "platform/none/NoAccessibility.h"
+#include "platform/qt/SystemServices.h"
 
 #include <cerrno>
 #include <system_error>
@@ -11,10 +8,6 @@
 #include <unistd.h>
 
 namespace cuebright {
-
-std::unique_ptr<Clock> makeClock() { return std::make_unique<SystemClock>(); }
-
-std::unique_ptr<Accessibility> makeAccessibility() { return std::make_unique<NoAccessibility>(); }
 
 std::optional<FileError> syncFile(int fileDescriptor)
 {
