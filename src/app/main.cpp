@@ -16,6 +16,7 @@ int main(int, char* argv[])
     QApplication application(argumentCount, argv);
     QApplication::setApplicationName(QStringLiteral("Cuebright"));
     QApplication::setApplicationVersion(QStringLiteral(CUEBRIGHT_VERSION));
+    QApplication::setQuitOnLastWindowClosed(false); // a hidden panel comes back
     QApplication::setDesktopFileName(QStringLiteral("app.cuebright.Cuebright"));
     process.applicationIsThere();
 
@@ -25,7 +26,6 @@ int main(int, char* argv[])
     const FirstFrame firstFrame(*delegate.panelWindow(), [&] { platform.start(); });
 
     const auto onRequest = process.terminationRequested.subscribe([&] { delegate.quit(); });
-    QObject::connect(&application, &QGuiApplication::lastWindowClosed, &application, [&] { delegate.quit(); });
     // The session ends: the desktop may kill the program as soon as this returns.
     QObject::connect(
         &application, &QGuiApplication::commitDataRequest, &application, [&] { delegate.applicationWillTerminate(); },

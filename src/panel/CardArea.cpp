@@ -267,11 +267,13 @@ void CardArea::mouseMoveEvent(QMouseEvent* event)
 {
     const auto link = linkAt(event->pos());
     viewport()->setCursor(link && isOpenableLink(*link) ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    event->setAccepted(m_pressedLink.has_value()); // otherwise the panel may be on its way
 }
 
 void CardArea::mouseReleaseEvent(QMouseEvent* event)
 {
     const auto pressed = std::exchange(m_pressedLink, std::nullopt);
+    event->setAccepted(pressed.has_value());
     if (pressed && pressed == linkAt(event->pos()))
         openLink(*pressed);
 }

@@ -8,6 +8,7 @@
 #include "panel/MarkdownToolbar.h"
 #include "panel/TextViewManager.h"
 #include "platform/Accessibility.h"
+#include "platform/CaptureExclusion.h"
 #include "platform/MainQueue.h"
 #include "store/CardStore.h"
 #include "theme/QtColors.h"
@@ -92,6 +93,7 @@ CardContentView::CardContentView(const PanelContext& context, QWidget* parent)
         context.notifications.observe(kToggleOverwriteNotification, [this] { toggleOverwrite(); });
     m_appearanceSubscription = context.platform.appearance.changed.subscribe([this] { takeChangedLook(); });
     m_accessibilitySubscription = context.platform.accessibility.changed.subscribe([this] { takeChangedLook(); });
+    m_exclusionSubscription = context.desktop.captureExclusion.changed.subscribe([this] { m_refresh.request(); });
 }
 
 /// Only the first edit needs it, the first frame does not.

@@ -78,6 +78,7 @@ private:
     Subscription m_storeSubscription;
     Subscription m_appearanceSubscription;
     Subscription m_accessibilitySubscription;
+    Subscription m_exclusionSubscription;
     Subscription m_absenceSubscription;
     Subscription m_overwriteSubscription;
 };

@@ -4,49 +4,128 @@
 #include "panel/MarkdownEditor.h"
 #include "store/CardStore.h"
 #include "store/UndoManager.h"
+#include "theme/QtColors.h"
 
 #include <QApplication>
-#include <QKeyEvent>
+#include <QCloseEvent>
+#include <QDialog>
+#include <QMouseEvent>
+#include <QPainter>
 #include <QWindow>
+
+#include <utility>
 
 namespace cuebright {
 
 NotesPanel::NotesPanel(const PanelContext& context)
-    : QWidget(nullptr, Qt::Window)
+    : QWidget(nullptr, Qt::Window | Qt::WindowStaysOnTopHint)
     , m_context(context)
     , m_undoManager(std::make_shared<UndoManager>())
+    , m_keyMonitor(*this, [this](const QKeyEvent& event) { return actionFor(event); })
 {
+    setAttribute(Qt::WA_ShowWithoutActivating);
     qApp->installEventFilter(this);
 }
 
 NotesPanel::~NotesPanel() = default;
 
-/// A key reaches the window first as an offer to override shortcuts, then as a press. Taking the offer keeps the menus
-/// out; the press acts. The widgets inside see neither.
-bool NotesPanel::eventFilter(QObject* watched, QEvent* event)
+void NotesPanel::orderFront()
 {
-    if (event->type() == QEvent::MouseButtonPress && watched == windowHandle() && m_context.store.isEditing())
-        MarkdownEditor::commitComposition(); // the click may end the edit
-    const bool isOffer = event->type() == QEvent::ShortcutOverride;
-    if ((!isOffer && event->type() != QEvent::KeyPress) || watched != windowHandle())
-        return false;
-    if (QApplication::activePopupWidget() || QApplication::activeModalWidget())
-        return false;
-    const auto action = actionFor(*static_cast<QKeyEvent*>(event));
-    if (!action)
-        return false;
-    event->accept();
-    if (!isOffer)
-        perform(*action);
-    return true;
+    if (isMinimized())
+        setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    if (!QApplication::activePopupWidget()) // a restacked window would cover its own pop-up
+        raise();
 }
 
-std::optional<PanelKeyAction> NotesPanel::actionFor(const QKeyEvent& event) const
+void NotesPanel::orderOut()
 {
-    const auto stroke = KeyStroke::of(event);
-    const bool isEditing = m_context.store.isEditing();
-    const auto action = panelKeyAction(stroke, isEditing);
-    return action ? action : arrowKeyAction(stroke, isEditing);
+    dismissMenusAndSheets();
+    hide();
+}
+
+void NotesPanel::activate()
+{
+    raise();
+    activateWindow();
+}
+
+void NotesPanel::dismissMenusAndSheets()
+{
+    while (const auto popup = QApplication::activePopupWidget()) {
+        if (!popup->close())
+            break;
+    }
+    for (const auto sheet : findChildren<QDialog*>()) {
+        if (sheet->isVisible())
+            sheet->reject();
+    }
+}
+
+/// Every press on the panel comes by here, whatever it is on.
+bool NotesPanel::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::MouseButtonPress || watched != windowHandle())
+        return false;
+    if (m_context.store.isEditing())
+        MarkdownEditor::commitComposition(); // the click may end the edit
+    if (!isActiveWindow())
+        activate();
+    return false;
+}
+
+void NotesPanel::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton)
+        m_pressedSpot = event->position().toPoint();
+}
+
+void NotesPanel::mouseMoveEvent(QMouseEvent* event)
+{
+    if (!m_pressedSpot || !(event->buttons() & Qt::LeftButton))
+        return;
+    const auto way = event->position().toPoint() - *m_pressedSpot;
+    if (way.manhattanLength() < QApplication::startDragDistance())
+        return; // may become a double click yet
+    m_pressedSpot.reset();
+    windowHandle()->startSystemMove();
+}
+
+void NotesPanel::mouseReleaseEvent(QMouseEvent*) { m_pressedSpot.reset(); }
+
+void NotesPanel::closeEvent(QCloseEvent* event)
+{
+    event->ignore();
+    orderOut();
+}
+
+void NotesPanel::showEvent(QShowEvent*) { noticeIfOnScreenChanged(); }
+
+void NotesPanel::hideEvent(QHideEvent*) { noticeIfOnScreenChanged(); }
+
+void NotesPanel::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange)
+        noticeIfOnScreenChanged();
+}
+
+void NotesPanel::noticeIfOnScreenChanged()
+{
+    if (std::exchange(m_wasOnScreen, isOnScreen()) != isOnScreen())
+        isOnScreenChanged.notify();
+}
+
+/// Seen only where the content does not reach: around it while the panel comes and goes.
+void NotesPanel::paintEvent(QPaintEvent* event)
+{
+    QPainter(this).fillRect(event->rect(), toQColor(m_context.colors().warmBg()));
+}
+
+KeyMonitor::Action NotesPanel::actionFor(const QKeyEvent& event)
+{
+    const auto action = panelKeyAction(KeyStroke::of(event), m_context.store.isEditing());
+    return action ? KeyMonitor::Action([this, action] { perform(*action); }) : nullptr;
 }
 
 void NotesPanel::perform(const PanelKeyAction& action)
@@ -66,7 +145,7 @@ void NotesPanel::perform(const PanelKeyAction& action)
     case PanelCommand::Redo:
         return m_undoManager->redo();
     case PanelCommand::BeginEditing:
-        activateWindow();
+        activate();
         return store.beginEditing();
     case PanelCommand::SaveEdit:
         return store.saveEdit();

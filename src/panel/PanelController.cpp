@@ -1,13 +1,20 @@
 #include "panel/PanelController.h"
 
+#include "foundation/NotificationCenter.h"
 #include "panel/CardContentView.h"
+#include "panel/GlobalHotKey.h"
 #include "panel/NotesPanel.h"
+#include "panel/ShareNotice.h"
 #include "panel/TextConversion.h"
+#include "platform/Accessibility.h"
+#include "platform/CaptureExclusion.h"
+#include "platform/Log.h"
+#include "platform/WindowSystem.h"
 #include "store/CardStore.h"
 
-#include <QGuiApplication>
-#include <QScreen>
 #include <QVBoxLayout>
+
+#include <utility>
 
 namespace cuebright {
 
@@ -16,6 +23,12 @@ namespace {
 constexpr QSize kDefaultSize {720, 560};
 constexpr QSize kMinimumSize {480, 360};
 constexpr Seconds kStoreDebounce {0.2};
+constexpr Seconds kAbsence {60};
+
+Presence::Motion motion(const PanelContext& context)
+{
+    return context.platform.accessibility.reduceMotion() ? Presence::Motion::AtOnce : Presence::Motion::Animated;
+}
 
 } // namespace
 
@@ -23,38 +36,149 @@ PanelController::PanelController(const PanelContext& context)
     : m_context(context)
     , m_panel(std::make_unique<NotesPanel>(context))
     , m_content(new CardContentView(context, m_panel.get()))
+    , m_frameMemory(context, *m_panel, kDefaultSize)
+    , m_showHideAnimation(*m_panel, *m_content, [this] { m_panel->orderOut(); })
 {
     m_panel->setMinimumSize(kMinimumSize);
-    QRect frame({0, 0}, kDefaultSize);
-    if (const auto screen = QGuiApplication::primaryScreen())
-        frame.moveCenter(screen->availableGeometry().center());
-    m_panel->setGeometry(frame);
+    updateTitle();
+    m_frameMemory.restore();
+    configureContent();
+    observeStore();
+    m_panelSubscription = m_panel->isOnScreenChanged.subscribe([this] { followPanel(); });
+    m_toggleSubscription =
+        context.notifications.observe(kTogglePanelNotification, [this] { handleHotkeyNotification(); });
+    m_hotkeyRef = context.desktop.hotKeys.registerHotKey(
+        kTogglePanelHotKey, [&notifications = context.notifications] { hotkeyHandler(notifications); });
+    installArrowKeyMonitor();
+    context.store.setUndoManager(m_panel->undoManager());
+}
 
+PanelController::~PanelController()
+{
+    m_storeUpdate.cancel();
+    m_context.desktop.windowSystem.release(m_panel->winId());
+}
+
+void PanelController::configureContent()
+{
     const auto layout = new QVBoxLayout(m_panel.get());
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_content);
     m_content->setFocus();
-
-    updateTitle();
-    observeStore();
-    context.store.setUndoManager(m_panel->undoManager());
+    applyOpacity();
 }
 
-PanelController::~PanelController() { m_titleUpdate.cancel(); }
+bool PanelController::isPanelVisible() const { return m_isMeantToShow && m_panel->isOnScreen(); }
+
+void PanelController::togglePanel()
+{
+    if (isPanelVisible())
+        hidePanel();
+    else
+        showPanel();
+}
 
 void PanelController::showPanel()
 {
-    m_panel->show();
-    m_panel->raise();
+    reapplyCaptureExclusion();
+    m_isMeantToShow = true;
+    m_frameMemory.prepareToShow();
+    m_context.desktop.windowSystem.keepAboveFullScreen(m_panel->winId());
+    m_showHideAnimation.show(motion(m_context));
+    m_panel->orderFront();
+    if (m_shareNotice == ShareNotice::NotDue)
+        m_shareNotice = ShareNotice::Due;
+    tellWhatTheAudienceSees();
+    endAbsence();
+}
+
+void PanelController::hidePanel()
+{
+    if (!isPanelVisible())
+        return;
+    m_isMeantToShow = false;
+    m_lastHideTime = m_context.platform.clock.uptime();
+    m_showHideAnimation.hide(motion(m_context));
+}
+
+/// The window's own buttons and the window manager hide and show the panel too.
+void PanelController::followPanel()
+{
+    if (m_panel->isOnScreen()) {
+        if (!m_isMeantToShow)
+            showPanel();
+        return;
+    }
+    if (std::exchange(m_isMeantToShow, false))
+        m_lastHideTime = m_context.platform.clock.uptime();
+    m_showHideAnimation.reset();
+}
+
+void PanelController::reapplyCaptureExclusion()
+{
+    m_context.desktop.captureExclusion.reapplyIfLost(m_weakTarget.guard([this] {
+        m_context.platform.log.writeLine("[Cuebright] WARNING: sharingType was reset — re-applied .none");
+        m_context.store.showFeedback("Protection re-applied");
+    }));
+}
+
+/// Once after launch, as soon as it is known.
+void PanelController::tellWhatTheAudienceSees()
+{
+    auto& exclusion = m_context.desktop.captureExclusion;
+    if (m_shareNotice != ShareNotice::Due || !exclusion.isSettled())
+        return;
+    m_shareNotice = ShareNotice::Given;
+    if (const auto feedback = shareFeedback(exclusion.state()))
+        m_context.store.showFeedback(std::string(*feedback));
+}
+
+void PanelController::endAbsence()
+{
+    const auto hiddenAt = std::exchange(m_lastHideTime, std::nullopt);
+    if (hiddenAt && m_context.platform.clock.uptime() - *hiddenAt > kAbsence)
+        m_context.notifications.post(kReturnAfterAbsenceNotification);
+}
+
+/// The plain arrow keys; and ⌘⇧S where it does not arrive by itself.
+void PanelController::installArrowKeyMonitor()
+{
+    m_arrowKeyMonitor =
+        std::make_unique<KeyMonitor>(*m_panel, [this](const QKeyEvent& event) { return actionFor(event); });
+}
+
+KeyMonitor::Action PanelController::actionFor(const QKeyEvent& event)
+{
+    const auto stroke = KeyStroke::of(event);
+    const bool isHotKeyElsewhere = m_hotkeyRef && m_hotkeyRef->isSystemWide();
+    if (isTogglePanelKey(stroke) && !isHotKeyElsewhere && !event.isAutoRepeat())
+        return [this] { togglePanel(); };
+    if (!isPanelVisible())
+        return {};
+    const auto action = arrowKeyAction(stroke, m_context.store.isEditing());
+    if (!action)
+        return {};
+    return [&store = m_context.store, isForward = action->command == PanelCommand::NextCard] {
+        isForward ? store.nextCard() : store.prevCard();
+    };
 }
 
 void PanelController::observeStore()
 {
     m_storeSubscription = m_context.store.willChange.subscribe([this](const Change&) {
-        m_titleUpdate.cancel();
-        m_titleUpdate =
-            m_context.platform.mainQueue.after(kStoreDebounce, m_weakTarget.guard([this] { updateTitle(); }));
+        m_storeUpdate.cancel();
+        m_storeUpdate =
+            m_context.platform.mainQueue.after(kStoreDebounce, m_weakTarget.guard([this] { followStore(); }));
     });
+    m_accessibilitySubscription = m_context.platform.accessibility.changed.subscribe([this] { applyOpacity(); });
+    m_exclusionSubscription =
+        m_context.desktop.captureExclusion.changed.subscribe([this] { tellWhatTheAudienceSees(); });
+}
+
+void PanelController::followStore()
+{
+    updateTitle();
+    applyOpacity();
 }
 
 void PanelController::updateTitle()
@@ -62,6 +186,15 @@ void PanelController::updateTitle()
     const auto title = toWindowTitle("Cuebright — " + m_context.store.deckName());
     if (m_panel->windowTitle() != title)
         m_panel->setWindowTitle(title);
+}
+
+/// Opaque, the panel has nothing behind it that could be blurred.
+void PanelController::applyOpacity()
+{
+    const double opacity = m_context.store.opacity();
+    const bool hasGlass = opacity < 1 && !m_context.platform.accessibility.reduceTransparency();
+    m_context.desktop.windowSystem.setGlass(m_panel->winId(), hasGlass);
+    m_showHideAnimation.setOpacity(opacity);
 }
 
 } // namespace cuebright

@@ -2,19 +2,26 @@
 
 #include "foundation/Signal.h"
 #include "foundation/WeakTarget.h"
+#include "panel/FrameMemory.h"
+#include "panel/KeyMonitor.h"
 #include "panel/PanelContext.h"
+#include "panel/ShowHideAnimation.h"
+#include "platform/Clock.h"
 #include "platform/MainQueue.h"
 
-#include <QString>
-
 #include <memory>
+#include <optional>
+
+class QKeyEvent;
 
 namespace cuebright {
 
 class CardContentView;
+class HotKeyRegistration;
 class NotesPanel;
 
-/// Makes the panel, fills it and keeps its title in step with the store.
+/// Owns the panel: makes and fills it, shows and hides it, remembers where it stood, and keeps its title and opacity
+/// in step with the store.
 class PanelController final {
 public:
     explicit PanelController(const PanelContext& context);
@@ -25,18 +32,51 @@ public:
     [[nodiscard]] NotesPanel& panelWindow() const { return *m_panel; }
     /// All that the panel shows.
     [[nodiscard]] CardContentView& content() const { return *m_content; }
+    /// On the screen and not on its way out.
+    [[nodiscard]] bool isPanelVisible() const;
+
+    void togglePanel();
+    /// Puts the panel above everything; leaves the keyboard where it is.
     void showPanel();
+    void hidePanel();
+    /// Where the panel stands now is not kept, until the user moves it again.
+    void forgetFrame() { m_frameMemory.cancelPendingSave(); }
 
 private:
+    enum class ShareNotice { NotDue, Due, Given };
+
+    void configureContent();
+    void installArrowKeyMonitor();
+    [[nodiscard]] KeyMonitor::Action actionFor(const QKeyEvent& event);
+    void handleHotkeyNotification() { togglePanel(); }
+
     void observeStore();
+    void followStore();
     void updateTitle();
+    void applyOpacity();
+
+    void followPanel();
+    void reapplyCaptureExclusion();
+    void tellWhatTheAudienceSees();
+    void endAbsence();
 
     const PanelContext& m_context;
     std::unique_ptr<NotesPanel> m_panel;
     CardContentView* m_content;
-    PendingTask m_titleUpdate;
+    FrameMemory m_frameMemory;
+    ShowHideAnimation m_showHideAnimation;
+    std::unique_ptr<HotKeyRegistration> m_hotkeyRef;
+    std::unique_ptr<KeyMonitor> m_arrowKeyMonitor;
+    std::optional<Seconds> m_lastHideTime; ///< by `Clock::uptime`
+    bool m_isMeantToShow = false;
+    ShareNotice m_shareNotice = ShareNotice::NotDue;
+    PendingTask m_storeUpdate;
     WeakTarget m_weakTarget;
     Subscription m_storeSubscription;
+    Subscription m_accessibilitySubscription;
+    Subscription m_exclusionSubscription;
+    Subscription m_panelSubscription;
+    Subscription m_toggleSubscription;
 };
 
 } // namespace cuebright

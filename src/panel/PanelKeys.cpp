@@ -98,6 +98,11 @@ std::optional<PanelKeyAction> panelKeyAction(const KeyStroke& stroke, bool isEdi
     return std::nullopt;
 }
 
+bool isTogglePanelKey(const KeyStroke& stroke)
+{
+    return stroke.modifiers == (Qt::ControlModifier | Qt::ShiftModifier) && stroke.key == Qt::Key_S;
+}
+
 std::optional<PanelKeyAction> arrowKeyAction(const KeyStroke& stroke, bool isEditing)
 {
     return stroke.modifiers == Qt::NoModifier ? lookUp(kArrowRows, stroke, isEditing) : std::nullopt;

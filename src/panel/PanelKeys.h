@@ -42,6 +42,9 @@ struct KeyStroke {
 /// The panel's shortcuts, tried before those of the menus; absent where the key is not one of them.
 [[nodiscard]] std::optional<PanelKeyAction> panelKeyAction(const KeyStroke& stroke, bool isEditing);
 
+/// ⌘⇧S.
+[[nodiscard]] bool isTogglePanelKey(const KeyStroke& stroke);
+
 /// The plain arrow keys, which step through the cards while nothing is edited.
 [[nodiscard]] std::optional<PanelKeyAction> arrowKeyAction(const KeyStroke& stroke, bool isEditing);
 

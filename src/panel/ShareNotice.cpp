@@ -18,6 +18,22 @@ ShareBadge badgeFor(CaptureExclusion::State state)
     return {"MAY BE VISIBLE IN SHARE", Ink::Orange};
 }
 
+std::optional<std::string_view> shareFeedback(CaptureExclusion::State state)
+{
+    using enum CaptureExclusion::State;
+    switch (state) {
+    case Excluded:
+        return std::nullopt;
+    case Blackout:
+        return "Shown as a black box in screen shares";
+    case Visible:
+        return "Visible in screen shares";
+    case Unknown:
+        break;
+    }
+    return "May be visible in screen shares";
+}
+
 std::optional<std::string_view> shareAdvice(CaptureExclusion::State state)
 {
     if (state == CaptureExclusion::State::Excluded)

@@ -18,6 +18,9 @@ struct ShareBadge {
 
 [[nodiscard]] ShareBadge badgeFor(CaptureExclusion::State state);
 
+/// What the first show after launch tells; absent where nothing of the panel is seen.
+[[nodiscard]] std::optional<std::string_view> shareFeedback(CaptureExclusion::State state);
+
 /// What to do where the panel cannot be kept out of a shared screen; absent where it is.
 [[nodiscard]] std::optional<std::string_view> shareAdvice(CaptureExclusion::State state);
 
