@@ -1,0 +1,54 @@
+#pragma once
+
+#include <cstdint>
+#include <cstdlib>
+#include <initializer_list>
+#include <memory>
+#include <vector>
+
+#include <xcb/xcb.h>
+
+namespace cuebright {
+
+/// What libxcb hands out to be freed.
+struct FreeReply {
+    void operator()(void* reply) const { std::free(reply); }
+};
+template <typename Reply> using XcbReply = std::unique_ptr<Reply, FreeReply>;
+
+/// The toolkit's connection to the X server, with the few requests that several classes make. Requests about windows
+/// that have gone answer empty and do nothing.
+class X11Connection final {
+public:
+    /// Null where the program does not talk to an X server.
+    [[nodiscard]] static std::unique_ptr<X11Connection> ofApplication();
+
+    [[nodiscard]] xcb_connection_t* get() const { return m_connection; }
+    [[nodiscard]] xcb_window_t root() const { return m_screen->root; }
+    [[nodiscard]] int screenNumber() const { return m_screenNumber; }
+
+    [[nodiscard]] xcb_atom_t atom(const char* name) const;
+
+    /// The 32-bit items of a property.
+    [[nodiscard]] std::vector<std::uint32_t> property(xcb_window_t window, xcb_atom_t name) const;
+    void setProperty(
+        xcb_window_t window, xcb_atom_t name, xcb_atom_t type, std::initializer_list<std::uint32_t> items) const;
+    void deleteProperty(xcb_window_t window, xcb_atom_t name) const;
+
+    /// Asks for further events of a window, beside those that this program gets already.
+    void selectEvents(xcb_window_t window, std::uint32_t mask) const;
+
+private:
+    X11Connection(xcb_connection_t* connection, xcb_screen_t* screen, int screenNumber)
+        : m_connection(connection)
+        , m_screen(screen)
+        , m_screenNumber(screenNumber)
+    {
+    }
+
+    xcb_connection_t* m_connection;
+    xcb_screen_t* m_screen;
+    int m_screenNumber;
+};
+
+} // namespace cuebright

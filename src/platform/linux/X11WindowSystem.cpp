@@ -1,0 +1,103 @@
+#include "platform/linux/X11WindowSystem.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace cuebright {
+
+X11WindowSystem::X11WindowSystem(const X11Connection& x11)
+    : m_x11(x11)
+    , m_activeWindowAtom(x11.atom("_NET_ACTIVE_WINDOW"))
+    , m_stateAtom(x11.atom("_NET_WM_STATE"))
+    , m_fullScreenAtom(x11.atom("_NET_WM_STATE_FULLSCREEN"))
+    , m_blurAtom(x11.atom("_KDE_NET_WM_BLUR_BEHIND_REGION"))
+{
+    x11.selectEvents(x11.root(), XCB_EVENT_MASK_PROPERTY_CHANGE);
+    QCoreApplication::instance()->installNativeEventFilter(this);
+}
+
+X11WindowSystem::~X11WindowSystem()
+{
+    if (const auto application = QCoreApplication::instance())
+        application->removeNativeEventFilter(this);
+}
+
+void X11WindowSystem::keepAboveFullScreen(WindowId window)
+{
+    m_windows.insert(static_cast<xcb_window_t>(window));
+    followActiveWindow();
+    lift(static_cast<xcb_window_t>(window)); // window managers forget what a withdrawn window had
+}
+
+void X11WindowSystem::release(WindowId window)
+{
+    if (m_windows.erase(static_cast<xcb_window_t>(window)) > 0)
+        m_x11.deleteProperty(static_cast<xcb_window_t>(window), XCB_ATOM_WM_TRANSIENT_FOR);
+}
+
+void X11WindowSystem::setGlass(WindowId window, bool isOn)
+{
+    // No rectangles: all of the window.
+    if (isOn)
+        m_x11.setProperty(static_cast<xcb_window_t>(window), m_blurAtom, XCB_ATOM_CARDINAL, {});
+    else
+        m_x11.deleteProperty(static_cast<xcb_window_t>(window), m_blurAtom);
+}
+
+bool X11WindowSystem::nativeEventFilter(const QByteArray&, void* message, qintptr*)
+{
+    const auto* const event = static_cast<const xcb_generic_event_t*>(message);
+    const auto type = event->response_type & ~0x80;
+    if (type == XCB_PROPERTY_NOTIFY) {
+        const auto* const change = reinterpret_cast<const xcb_property_notify_event_t*>(event);
+        const bool isActivation = change->window == m_x11.root() && change->atom == m_activeWindowAtom;
+        const bool isNewState = change->window == m_watched && change->atom == m_stateAtom;
+        if (isActivation || isNewState)
+            followActiveWindow();
+    } else if (type == XCB_DESTROY_NOTIFY || type == XCB_UNMAP_NOTIFY) {
+        const auto* const end = reinterpret_cast<const xcb_unmap_notify_event_t*>(event);
+        if (end->window == m_watched)
+            followActiveWindow();
+    }
+    return false;
+}
+
+xcb_window_t X11WindowSystem::activeWindow() const
+{
+    const auto active = m_x11.property(m_x11.root(), m_activeWindowAtom);
+    return active.empty() ? static_cast<xcb_window_t>(XCB_WINDOW_NONE) : active.front();
+}
+
+bool X11WindowSystem::isFullScreen(xcb_window_t window) const
+{
+    return std::ranges::count(m_x11.property(window, m_stateAtom), m_fullScreenAtom) > 0;
+}
+
+void X11WindowSystem::followActiveWindow()
+{
+    if (m_windows.empty())
+        return;
+    const auto active = activeWindow();
+    const auto others = m_windows.contains(active) ? static_cast<xcb_window_t>(XCB_WINDOW_NONE) : active;
+    if (others != m_watched && others != XCB_WINDOW_NONE)
+        m_x11.selectEvents(others, XCB_EVENT_MASK_PROPERTY_CHANGE | XCB_EVENT_MASK_STRUCTURE_NOTIFY);
+    m_watched = others;
+    const bool isCovering = others != XCB_WINDOW_NONE && isFullScreen(others);
+    const auto fullScreenWindow = isCovering ? others : static_cast<xcb_window_t>(XCB_WINDOW_NONE);
+    if (fullScreenWindow == m_fullScreenWindow)
+        return;
+    m_fullScreenWindow = fullScreenWindow;
+    for (const auto window : m_windows)
+        lift(window);
+}
+
+void X11WindowSystem::lift(xcb_window_t window) const
+{
+    if (m_fullScreenWindow == XCB_WINDOW_NONE)
+        m_x11.deleteProperty(window, XCB_ATOM_WM_TRANSIENT_FOR);
+    else
+        m_x11.setProperty(window, XCB_ATOM_WM_TRANSIENT_FOR, XCB_ATOM_WINDOW, {m_fullScreenWindow});
+}
+
+} // namespace cuebright

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "platform/WindowSystem.h"
+#include "platform/linux/X11Connection.h"
+
+#include <QAbstractNativeEventFilter>
+
+#include <set>
+
+namespace cuebright {
+
+/// Floating on X11, by the means of the Extended Window Manager Hints and KWin's blur hint.
+///
+/// A full-screen window that is active lies above windows that are merely "above". While there is one, the windows kept
+/// above are transient for it, which lifts them over it and leaves the keyboard alone.
+class X11WindowSystem final : public WindowSystem, public QAbstractNativeEventFilter {
+public:
+    explicit X11WindowSystem(const X11Connection& x11);
+    ~X11WindowSystem() override;
+
+    void keepAboveFullScreen(WindowId window) override;
+    void release(WindowId window) override;
+    void setGlass(WindowId window, bool isOn) override;
+
+    bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* result) override;
+
+private:
+    [[nodiscard]] xcb_window_t activeWindow() const;
+    [[nodiscard]] bool isFullScreen(xcb_window_t window) const;
+    void followActiveWindow();
+    void lift(xcb_window_t window) const;
+
+    const X11Connection& m_x11;
+    const xcb_atom_t m_activeWindowAtom;
+    const xcb_atom_t m_stateAtom;
+    const xcb_atom_t m_fullScreenAtom;
+    const xcb_atom_t m_blurAtom;
+    std::set<xcb_window_t> m_windows; ///< that are kept above
+    xcb_window_t m_watched = XCB_WINDOW_NONE; ///< the active one, unless it is ours
+    xcb_window_t m_fullScreenWindow = XCB_WINDOW_NONE; ///< the same while it is full-screen
+};
+
+} // namespace cuebright
