@@ -122,15 +122,17 @@ struct Desktop::Display {
         return items;
     }
 
-    void move(KeyCode key, Bool down) { XTestFakeKeyEvent(connection, key, down, CurrentTime); }
+    /// `delay` in milliseconds.
+    void move(KeyCode key, Bool down, unsigned long delay = 0) { XTestFakeKeyEvent(connection, key, down, delay); }
 
     void tap(const std::vector<KeySym>& keys)
     {
         std::vector<KeyCode> codes;
         for (const KeySym key : keys)
             codes.push_back(XKeysymToKeycode(connection, key));
+        // A press at the moment of the last release would be taken for a key that repeats.
         for (const KeyCode code : codes)
-            move(code, True);
+            move(code, True, 1);
         std::ranges::reverse(codes);
         for (const KeyCode code : codes)
             move(code, False);
@@ -156,14 +158,38 @@ Desktop::Desktop()
     m_environment["DBUS_SESSION_BUS_ADDRESS"] = m_bus->firstLine();
 
     std::ofstream(folder / "openbox.xml") << kWindowManagerSettings;
+    m_display = std::make_unique<Display>(m_environment["DISPLAY"]);
+    startWindowManager();
+}
+
+Desktop::~Desktop() = default;
+
+void Desktop::startWindowManager()
+{
+    const auto& folder = m_folder.path();
     m_windowManager = std::make_unique<Process>(Process::Start {
         {"openbox", "--config-file", folder / "openbox.xml"}, m_environment, folder / "openbox.log", {}});
-    m_display = std::make_unique<Display>(m_environment["DISPLAY"]);
     if (!waitUntil([this] { return !m_display->property<::Window>(m_display->root, "_NET_SUPPORTED").empty(); }))
         throw std::runtime_error("the window manager does not come up: " + m_windowManager->output());
 }
 
-Desktop::~Desktop() = default;
+void Desktop::restartWindowManager()
+{
+    m_windowManager.reset();
+    XDeleteProperty(m_display->connection, m_display->root,
+        XInternAtom(m_display->connection, "_NET_SUPPORTED", False)); // left behind by the former one
+    startWindowManager();
+}
+
+std::unique_ptr<Process> Desktop::startCompositor() const
+{
+    auto compositor =
+        std::make_unique<Process>(Process::Start {{"xcompmgr"}, m_environment, m_folder.path() / "compositor.log", {}});
+    const Atom selection = XInternAtom(m_display->connection, "_NET_WM_CM_S0", False);
+    if (!waitUntil([&] { return XGetSelectionOwner(m_display->connection, selection) != None; }))
+        throw std::runtime_error("the compositor does not come up: " + compositor->output());
+    return compositor;
+}
 
 std::optional<Desktop::WindowId> Desktop::windowOf(pid_t process) const
 {
@@ -198,6 +224,96 @@ bool Desktop::isActive(WindowId window) const
 {
     const auto active = m_display->property<WindowId>(m_display->root, "_NET_ACTIVE_WINDOW");
     return !active.empty() && active.front() == window;
+}
+
+bool Desktop::isOnScreen(WindowId window) const
+{
+    XWindowAttributes attributes {};
+    return XGetWindowAttributes(m_display->connection, window, &attributes) && attributes.map_state == IsViewable;
+}
+
+bool Desktop::isAbove(WindowId upper, WindowId lower) const
+{
+    const auto stack = m_display->property<WindowId>(m_display->root, "_NET_CLIENT_LIST_STACKING");
+    const auto upperPlace = std::ranges::find(stack, upper);
+    const auto lowerPlace = std::ranges::find(stack, lower);
+    return upperPlace != stack.end() && lowerPlace != stack.end() && upperPlace > lowerPlace;
+}
+
+bool Desktop::hasProperty(WindowId window, const char* name) const
+{
+    int count = 0;
+    Atom* const atoms = XListProperties(m_display->connection, window, &count);
+    const Atom wanted = XInternAtom(m_display->connection, name, False);
+    const bool isThere = atoms && std::find(atoms, atoms + count, wanted) != atoms + count;
+    if (atoms)
+        XFree(atoms);
+    return isThere;
+}
+
+void Desktop::askWindowManager(WindowId window, const char* request, const std::vector<long>& data)
+{
+    XEvent event {};
+    event.xclient.type = ClientMessage;
+    event.xclient.window = window;
+    event.xclient.message_type = XInternAtom(m_display->connection, request, False);
+    event.xclient.format = 32;
+    std::ranges::copy(data, event.xclient.data.l);
+    XSendEvent(
+        m_display->connection, m_display->root, False, SubstructureRedirectMask | SubstructureNotifyMask, &event);
+    XSync(m_display->connection, False);
+}
+
+Desktop::WindowId Desktop::openWindow(Size size)
+{
+    const WindowId window =
+        XCreateSimpleWindow(m_display->connection, m_display->root, 20, 20, 300, 200, 0, 0, 0x336699);
+    if (size == Size::FullScreen) {
+        const Atom fullScreen = XInternAtom(m_display->connection, "_NET_WM_STATE_FULLSCREEN", False);
+        XChangeProperty(m_display->connection, window, XInternAtom(m_display->connection, "_NET_WM_STATE", False),
+            XA_ATOM, 32, PropModeReplace, reinterpret_cast<const unsigned char*>(&fullScreen), 1);
+    }
+    const auto isMapped = [&] {
+        XMapWindow(m_display->connection, window); // the window manager overlooks one while it comes up
+        return isOnScreen(window);
+    };
+    if (!waitUntil(isMapped))
+        throw std::runtime_error("the window does not come up");
+    askWindowManager(window, "_NET_ACTIVE_WINDOW", {2, 0, 0, 0, 0}); // 2: the user himself
+    if (!waitUntil([&] { return isActive(window); }))
+        throw std::runtime_error("the window does not get the keyboard");
+    return window;
+}
+
+void Desktop::closeWindow(WindowId window)
+{
+    XDestroyWindow(m_display->connection, window);
+    XSync(m_display->connection, False);
+    if (!waitUntil([&] { return !isActive(window); }))
+        throw std::runtime_error("the window manager does not let the window go");
+}
+
+void Desktop::leaveFullScreen(WindowId window)
+{
+    const Atom fullScreen = XInternAtom(m_display->connection, "_NET_WM_STATE_FULLSCREEN", False);
+    askWindowManager(window, "_NET_WM_STATE", {0, static_cast<long>(fullScreen), 0, 2, 0}); // 0: remove
+}
+
+void Desktop::minimise(WindowId window)
+{
+    XIconifyWindow(m_display->connection, window, DefaultScreen(m_display->connection));
+    XSync(m_display->connection, False);
+}
+
+void Desktop::askToClose(WindowId window) { askWindowManager(window, "_NET_CLOSE_WINDOW", {0, 2, 0, 0, 0}); }
+
+std::shared_ptr<void> Desktop::grabHotKey()
+{
+    auto other = std::make_shared<Display>(m_environment.at("DISPLAY"));
+    XGrabKey(other->connection, XKeysymToKeycode(other->connection, XStringToKeysym("s")), ControlMask | ShiftMask,
+        other->root, False, GrabModeAsync, GrabModeAsync);
+    XSync(other->connection, False);
+    return other;
 }
 
 void Desktop::resize(WindowId window, int width, int height)
@@ -237,6 +353,19 @@ void Desktop::click(int x, int y)
     XTestFakeMotionEvent(m_display->connection, -1, x, y, CurrentTime);
     XTestFakeButtonEvent(m_display->connection, Button1, True, CurrentTime);
     XTestFakeButtonEvent(m_display->connection, Button1, False, CurrentTime);
+    XSync(m_display->connection, False);
+}
+
+void Desktop::drag(int fromX, int fromY, int toX, int toY)
+{
+    constexpr int kSteps = 20;
+    XTestFakeMotionEvent(m_display->connection, -1, fromX, fromY, CurrentTime);
+    XTestFakeButtonEvent(m_display->connection, Button1, True, CurrentTime);
+    for (int step = 1; step <= kSteps; ++step) {
+        XTestFakeMotionEvent(m_display->connection, -1, fromX + (toX - fromX) * step / kSteps,
+            fromY + (toY - fromY) * step / kSteps, 10); // the pace of a hand, in milliseconds
+    }
+    XTestFakeButtonEvent(m_display->connection, Button1, False, 50);
     XSync(m_display->connection, False);
 }
 

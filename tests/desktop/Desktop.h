@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace cuebright::test {
 
@@ -51,6 +52,27 @@ public:
     /// Without the frame that the window manager draws around it.
     [[nodiscard]] Area clientArea(WindowId window) const;
     [[nodiscard]] bool isActive(WindowId window) const;
+    /// Neither hidden nor minimised.
+    [[nodiscard]] bool isOnScreen(WindowId window) const;
+    /// In the order in which the window manager stacks them.
+    [[nodiscard]] bool isAbove(WindowId upper, WindowId lower) const;
+    [[nodiscard]] bool hasProperty(WindowId window, const char* name) const;
+
+    /// Another program's window with the keyboard, as large as the screen where that is asked for.
+    enum class Size { Small, FullScreen };
+    [[nodiscard]] WindowId openWindow(Size size);
+    /// Waits until the window manager has let it go.
+    void closeWindow(WindowId window);
+    void leaveFullScreen(WindowId window);
+    void minimise(WindowId window);
+    /// Asks as a window's own close button does.
+    void askToClose(WindowId window);
+    /// Another program takes Ctrl+Shift+S for itself, as long as the result lives.
+    [[nodiscard]] std::shared_ptr<void> grabHotKey();
+
+    void restartWindowManager();
+    /// Runs as long as the result lives.
+    [[nodiscard]] std::unique_ptr<Process> startCompositor() const;
 
     /// Gives the client area another size, and waits until it has it.
     void resize(WindowId window, int width, int height);
@@ -59,6 +81,8 @@ public:
 
     /// Presses and releases the left button.
     void click(int x, int y);
+    /// Presses the left button, moves in small steps, releases.
+    void drag(int fromX, int fromY, int toX, int toY);
     /// A key with its modifiers, as in "Right", "ctrl+e", "ctrl+shift+Return": the key has its X11 name.
     void press(std::string_view chord);
     /// Letters, digits, blanks and line feeds, as on a US keyboard.
@@ -66,6 +90,8 @@ public:
 
 private:
     struct Display;
+    void startWindowManager();
+    void askWindowManager(WindowId window, const char* request, const std::vector<long>& data);
 
     TemporaryFolder m_folder;
     Environment m_environment;

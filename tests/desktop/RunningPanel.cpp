@@ -9,13 +9,6 @@ namespace cuebright::test {
 
 namespace {
 
-// One for all tests of a run: the accessibility library cannot change its bus.
-Desktop& desktop()
-{
-    static Desktop shared;
-    return shared;
-}
-
 Environment with(Environment environment, const Environment& more)
 {
     for (const auto& [name, value] : more)
@@ -30,6 +23,12 @@ const ScreenReader& screenReader()
 }
 
 } // namespace
+
+Desktop& desktop()
+{
+    static Desktop shared;
+    return shared;
+}
 
 Home::Home(Introduction introduction)
 {
@@ -79,7 +78,7 @@ void Home::write(const std::filesystem::path& path, std::string_view text)
     std::ofstream(path, std::ios::binary) << text;
 }
 
-RunningPanel::RunningPanel(const Home& home, const Environment& more)
+RunningPanel::RunningPanel(const Home& home, const Environment& more, Keyboard keyboard)
     : m_program(
         {{CUEBRIGHT_PROGRAM}, with(home.environment(desktop().environment()), more), home.console(), {}, SIGKILL})
 {
@@ -91,6 +90,8 @@ RunningPanel::RunningPanel(const Home& home, const Environment& more)
     });
     if (!up)
         throw std::runtime_error("the panel does not come up, the program printed: " + console());
+    if (keyboard == Keyboard::Left)
+        return;
     const auto place = area();
     // The corner is empty: in the middle there may be a link.
     desktop().click(place.x + 12, place.y + place.height - 8);
@@ -101,6 +102,16 @@ RunningPanel::RunningPanel(const Home& home, const Environment& more)
 std::string RunningPanel::title() const { return desktop().title(m_window); }
 
 Desktop::Area RunningPanel::area() const { return desktop().clientArea(m_window); }
+
+testing::AssertionResult RunningPanel::isOnScreen() const
+{
+    return outcome(waitUntil([&] { return desktop().isOnScreen(m_window); }), "the panel on the screen");
+}
+
+testing::AssertionResult RunningPanel::isOffScreen() const
+{
+    return outcome(waitUntil([&] { return !desktop().isOnScreen(m_window); }), "the panel off the screen");
+}
 
 testing::AssertionResult RunningPanel::hasTitle(std::string_view wanted) const
 {

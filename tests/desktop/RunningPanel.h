@@ -36,16 +36,24 @@ private:
     TemporaryFolder m_folder;
 };
 
+/// One for all tests of a run: the accessibility library cannot change its bus.
+[[nodiscard]] Desktop& desktop();
+
 /// Cuebright as a user meets it: started, on the screen and with the keyboard.
 ///
 /// What `shows` and its kind look for is waited for.
 class RunningPanel final {
 public:
+    enum class Keyboard { Taken, Left }; ///< whether a click gives the panel the keyboard at the start
+
     /// `more` is added to the environment of the desktop.
-    explicit RunningPanel(const Home& home, const Environment& more = {});
+    explicit RunningPanel(const Home& home, const Environment& more = {}, Keyboard keyboard = Keyboard::Taken);
 
     [[nodiscard]] std::string title() const;
     [[nodiscard]] Desktop::Area area() const;
+    [[nodiscard]] Desktop::WindowId window() const { return m_window; }
+    [[nodiscard]] testing::AssertionResult isOnScreen() const;
+    [[nodiscard]] testing::AssertionResult isOffScreen() const;
     [[nodiscard]] testing::AssertionResult hasTitle(std::string_view title) const;
     /// Something on the panel has that accessible name.
     [[nodiscard]] testing::AssertionResult shows(std::string_view name) const;

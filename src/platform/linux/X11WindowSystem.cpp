@@ -27,7 +27,7 @@ void X11WindowSystem::keepAboveFullScreen(WindowId window)
 {
     m_windows.insert(static_cast<xcb_window_t>(window));
     followActiveWindow();
-    lift(static_cast<xcb_window_t>(window)); // window managers forget what a withdrawn window had
+    lift(static_cast<xcb_window_t>(window));
 }
 
 void X11WindowSystem::release(WindowId window)
@@ -59,6 +59,11 @@ bool X11WindowSystem::nativeEventFilter(const QByteArray&, void* message, qintpt
         const auto* const end = reinterpret_cast<const xcb_unmap_notify_event_t*>(event);
         if (end->window == m_watched)
             followActiveWindow();
+    } else if (type == XCB_MAP_NOTIFY) {
+        // Showing a window again, the toolkit deletes what it has not written itself (Qt 6.4).
+        const auto* const map = reinterpret_cast<const xcb_map_notify_event_t*>(event);
+        if (m_fullScreenWindow != XCB_WINDOW_NONE && m_windows.contains(map->window))
+            lift(map->window);
     }
     return false;
 }
