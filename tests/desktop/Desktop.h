@@ -91,6 +91,7 @@ public:
 private:
     struct Display;
     void startWindowManager();
+    [[nodiscard]] bool managesNewWindows();
     void askWindowManager(WindowId window, const char* request, const std::vector<long>& data);
 
     TemporaryFolder m_folder;

@@ -1,55 +1,112 @@
+#include "platform/linux/LinuxAccessibility.h"
+#include "platform/linux/PortalHotKeys.h"
 #include "platform/linux/Session.h"
+#include "platform/linux/SessionCaptureExclusion.h"
 #include "platform/linux/SystemClock.h"
 #include "platform/linux/X11Compositor.h"
 #include "platform/linux/X11HotKeys.h"
 #include "platform/linux/X11WindowSystem.h"
-#include "platform/none/NoAccessibility.h"
-#include "platform/none/NoCaptureExclusion.h"
 #include "platform/none/NoHotKeys.h"
 #include "platform/none/NoWindowSystem.h"
+#include "platform/qt/QtAppearance.h"
 #include "platform/qt/SystemServices.h"
+
+#include <optional>
 
 namespace cuebright {
 
 namespace {
 
-std::unique_ptr<WindowSystem> makeWindowSystem(const X11Connection* x11)
+/// What an X server gives, XWayland included.
+struct X11Services {
+    explicit X11Services(std::unique_ptr<X11Connection> x11Connection)
+        : connection(std::move(x11Connection))
+        , compositor(*connection)
+        , windowSystem(*connection)
+        , hotKeys(*connection)
+    {
+    }
+
+    std::unique_ptr<X11Connection> connection;
+    X11Compositor compositor;
+    X11WindowSystem windowSystem;
+    X11HotKeys hotKeys;
+};
+
+std::unique_ptr<X11Services> connectToX11()
 {
-    if (x11)
-        return std::make_unique<X11WindowSystem>(*x11);
-    return std::make_unique<NoWindowSystem>();
+    auto connection = X11Connection::ofApplication();
+    return connection ? std::make_unique<X11Services>(std::move(connection)) : nullptr;
 }
 
-/// In a Wayland session a grab would work only while a window of XWayland has the keyboard.
-std::unique_ptr<HotKeys> makeHotKeys(const Session& session, const X11Connection* x11)
+QDBusConnection connectForHotKeys()
 {
-    if (x11 && !session.isWayland)
-        return std::make_unique<X11HotKeys>(*x11);
-    return std::make_unique<NoHotKeys>();
+    return QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("hot keys"));
 }
 
 class LinuxServices final : public SystemServices {
 public:
+    LinuxServices(QtAppearance& appearance, MainQueue& mainQueue)
+        : m_accessibility(
+            mainQueue, [this] { return hasCompositor(); },
+            [&appearance](bool isDark) { appearance.setSystemIsDark(isDark); })
+        , m_captureExclusion(makeCaptureExclusion(m_session, mainQueue))
+    {
+        if (m_session.isWayland)
+            m_portalHotKeys.emplace(connectForHotKeys);
+        if (m_x11)
+            m_compositorSubscription =
+                m_x11->compositor.changed.subscribe([this] { m_accessibility.compositorMayHaveChanged(); });
+    }
+
     Clock& clock() override { return m_clock; }
     Accessibility& accessibility() override { return m_accessibility; }
-    Desktop desktop() override { return {m_captureExclusion, *m_hotKeys, *m_windowSystem}; }
-    void start() override { }
+    Desktop desktop() override { return {*m_captureExclusion.exclusion, hotKeys(), windowSystem()}; }
+    void start() override
+    {
+        m_captureExclusion.start();
+        m_accessibility.start(QDBusConnection::sessionBus());
+        if (m_portalHotKeys)
+            m_portalHotKeys->start();
+    }
 
 private:
+    /// A Wayland compositor is one by its nature.
+    bool hasCompositor() const { return !m_x11 || m_x11->compositor.isRunning(); }
+
+    /// A grab in a Wayland session would be deaf while a Wayland window has the keyboard.
+    HotKeys& hotKeys()
+    {
+        if (m_portalHotKeys)
+            return *m_portalHotKeys;
+        if (m_x11)
+            return m_x11->hotKeys;
+        return m_noHotKeys;
+    }
+
+    WindowSystem& windowSystem()
+    {
+        if (m_x11)
+            return m_x11->windowSystem;
+        return m_noWindowSystem;
+    }
+
     const Session m_session = Session::fromEnvironment();
-    const std::unique_ptr<X11Connection> m_x11 = X11Connection::ofApplication();
+    const std::unique_ptr<X11Services> m_x11 = connectToX11();
     SystemClock m_clock;
-    NoAccessibility m_accessibility;
-    NoCaptureExclusion m_captureExclusion;
-    const std::unique_ptr<HotKeys> m_hotKeys = makeHotKeys(m_session, m_x11.get());
-    const std::unique_ptr<WindowSystem> m_windowSystem = makeWindowSystem(m_x11.get());
+    LinuxAccessibility m_accessibility;
+    SessionCaptureExclusion m_captureExclusion;
+    std::optional<PortalHotKeys> m_portalHotKeys;
+    NoHotKeys m_noHotKeys;
+    NoWindowSystem m_noWindowSystem;
+    Subscription m_compositorSubscription;
 };
 
 } // namespace
 
-std::unique_ptr<SystemServices> makeSystemServices(QtAppearance&, MainQueue&)
+std::unique_ptr<SystemServices> makeSystemServices(QtAppearance& appearance, MainQueue& mainQueue)
 {
-    return std::make_unique<LinuxServices>();
+    return std::make_unique<LinuxServices>(appearance, mainQueue);
 }
 
 } // namespace cuebright

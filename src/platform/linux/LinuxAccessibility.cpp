@@ -1,0 +1,58 @@
+#include "platform/linux/LinuxAccessibility.h"
+
+#include "platform/linux/SettingsPortal.h"
+
+#include <utility>
+
+namespace cuebright {
+
+namespace {
+
+constexpr Seconds kPatience {3};
+
+} // namespace
+
+LinuxAccessibility::LinuxAccessibility(
+    MainQueue& mainQueue, std::function<bool()> hasCompositor, std::function<void(bool)> systemIsDark)
+    : m_mainQueue(mainQueue)
+    , m_hasCompositor(std::move(hasCompositor))
+    , m_systemIsDark(std::move(systemIsDark))
+    , m_wishes {.reduceTransparency = !m_hasCompositor()}
+{
+}
+
+LinuxAccessibility::~LinuxAccessibility() = default;
+
+void LinuxAccessibility::start(const QDBusConnection& sessionBus)
+{
+    if (!sessionBus.isConnected()) {
+        settle({});
+        return;
+    }
+    m_giveUp = m_mainQueue.after(kPatience, m_weakTarget.guard([this] { settle({}); }));
+    m_portal =
+        std::make_unique<SettingsPortal>(sessionBus, [this](const DesktopSettings& settings) { settle(settings); });
+}
+
+void LinuxAccessibility::compositorMayHaveChanged()
+{
+    auto wishes = m_wishes;
+    wishes.reduceTransparency = !m_hasCompositor();
+    become(wishes);
+}
+
+void LinuxAccessibility::settle(const DesktopSettings& settings)
+{
+    m_giveUp.cancel();
+    if (const auto isDark = settings.isDark())
+        m_systemIsDark(*isDark);
+    become({settings.reduceMotion(), m_wishes.reduceTransparency, settings.increaseContrast()});
+}
+
+void LinuxAccessibility::become(const Wishes& wishes)
+{
+    if (std::exchange(m_wishes, wishes) != wishes)
+        changed.notify();
+}
+
+} // namespace cuebright

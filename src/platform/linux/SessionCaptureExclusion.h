@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/CaptureExclusion.h"
+
+#include <functional>
+#include <memory>
+
+namespace cuebright {
+
+class MainQueue;
+struct Session;
+
+/// Who can keep windows out of screen shares in a session, and where nobody can, what is known of it.
+enum class CaptureExclusionWay { KWin, Hyprland, NoneAndVisible, NoneAndUnknown };
+
+[[nodiscard]] CaptureExclusionWay captureExclusionWay(const Session& session);
+
+struct SessionCaptureExclusion {
+    std::unique_ptr<CaptureExclusion> exclusion;
+    std::function<void()> start; ///< asks the session; call once. Before that no bus and no socket is opened.
+};
+
+/// `mainQueue` outlives the result.
+[[nodiscard]] SessionCaptureExclusion makeCaptureExclusion(const Session& session, MainQueue& mainQueue);
+
+} // namespace cuebright

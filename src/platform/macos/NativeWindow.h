@@ -1,0 +1,15 @@
+#pragma once
+
+#include "platform/WindowSystem.h"
+
+#import <AppKit/AppKit.h>
+
+namespace cuebright {
+
+/// The window of a toolkit's window, whose handle is a view. Null while it has none.
+[[nodiscard]] inline NSWindow* nativeWindow(WindowSystem::WindowId window)
+{
+    return ((__bridge NSView*)reinterpret_cast<void*>(window)).window;
+}
+
+} // namespace cuebright

@@ -1,0 +1,25 @@
+#include "platform/qt/ProcessSetup.h"
+
+#include "platform/macos/TerminationSignals.h"
+
+namespace cuebright {
+
+struct ProcessSetup::System {
+    TerminationSignals terminationSignals;
+    Subscription subscription {};
+};
+
+ProcessSetup::ProcessSetup()
+    : m_system(std::make_unique<System>())
+{
+}
+
+ProcessSetup::~ProcessSetup() = default;
+
+void ProcessSetup::applicationIsThere()
+{
+    m_system->subscription =
+        m_system->terminationSignals.requested.subscribe([this] { terminationRequested.notify(); });
+}
+
+} // namespace cuebright

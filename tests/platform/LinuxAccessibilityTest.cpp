@@ -1,0 +1,143 @@
+#include "platform/linux/LinuxAccessibility.h"
+
+#include "support/EventLoop.h"
+#include "support/FakePlatform.h"
+#include "support/FakePortal.h"
+#include "support/PrivateBus.h"
+
+#include <QDBusVariant>
+
+#include <gtest/gtest.h>
+
+#include <optional>
+
+namespace cuebright::test {
+
+namespace {
+
+const QString kGroup = QStringLiteral("org.freedesktop.appearance");
+const QString kMotion = QStringLiteral("reduced-motion");
+const QString kContrast = QStringLiteral("contrast");
+const QString kScheme = QStringLiteral("color-scheme");
+
+class LinuxAccessibilityTest : public testing::Test {
+protected:
+    FakePortal& startPortal(const QVariantMap& settings = {})
+    {
+        portal.emplace(bus.connect());
+        portal->settings.insert(kGroup, settings);
+        return *portal;
+    }
+    void start() { accessibility.start(bus.connect()); }
+    [[nodiscard]] bool settles()
+    {
+        return waitUntil([&] { return queue.pendingCount() == 0; });
+    }
+
+    PrivateBus bus;
+    FakeClock clock;
+    FakeMainQueue queue {clock};
+    std::optional<FakePortal> portal;
+    bool hasCompositor = true;
+    std::vector<bool> reportedDark;
+    LinuxAccessibility accessibility {
+        queue, [this] { return hasCompositor; }, [this](bool isDark) { reportedDark.push_back(isDark); }};
+    int changes = 0;
+    Subscription onChange = accessibility.changed.subscribe([this] { ++changes; });
+};
+
+} // namespace
+
+TEST_F(LinuxAccessibilityTest, NothingMovesUntilThePortalHasAnswered)
+{
+    startPortal();
+    EXPECT_TRUE(accessibility.reduceMotion());
+    EXPECT_FALSE(accessibility.increaseContrast());
+    start();
+    EXPECT_TRUE(accessibility.reduceMotion());
+    ASSERT_TRUE(settles());
+    EXPECT_FALSE(accessibility.reduceMotion());
+    EXPECT_EQ(changes, 1);
+    EXPECT_EQ(portal->calls,
+        QStringList {QStringLiteral("ReadAll org.freedesktop.appearance org.gnome.desktop.interface "
+                                    "org.gnome.desktop.a11y.interface org.kde.kdeglobals.KDE")});
+}
+
+TEST_F(LinuxAccessibilityTest, TheAnswerCountsHoweverManyVariantsItComesIn)
+{
+    const auto wrapped = QVariant::fromValue(QDBusVariant(QVariant::fromValue(QDBusVariant(1U))));
+    startPortal({{kMotion, 1U}, {kContrast, wrapped}, {kScheme, wrapped}});
+    start();
+    ASSERT_TRUE(settles());
+    EXPECT_TRUE(accessibility.reduceMotion());
+    EXPECT_TRUE(accessibility.increaseContrast());
+    EXPECT_EQ(reportedDark, std::vector {true});
+    EXPECT_EQ(changes, 1);
+}
+
+TEST_F(LinuxAccessibilityTest, LiveChangesArriveAndOthersChangeNothing)
+{
+    startPortal();
+    start();
+    ASSERT_TRUE(settles());
+    changes = 0;
+    portal->changeSetting(kGroup, kScheme, 1U);
+    portal->changeSetting(kGroup, kScheme, 2U);
+    portal->changeSetting(kGroup, kScheme, 0U);
+    portal->changeSetting(kGroup, QStringLiteral("accent-color"), QStringLiteral("red"));
+    portal->changeSetting(kGroup, kContrast, QVariant::fromValue(QDBusVariant(1U)));
+    ASSERT_TRUE(waitUntil([&] { return accessibility.increaseContrast(); }));
+    EXPECT_EQ(reportedDark, (std::vector {true, false})) << "no preference says nothing";
+    EXPECT_EQ(changes, 1);
+    portal->changeSetting(kGroup, kMotion, 1U);
+    EXPECT_TRUE(waitUntil([&] { return accessibility.reduceMotion(); }));
+    EXPECT_EQ(changes, 2);
+}
+
+TEST_F(LinuxAccessibilityTest, ASilentPortalIsWaitedForThreeSeconds)
+{
+    startPortal().isSilent = true;
+    start();
+    ASSERT_TRUE(waitUntil([&] { return !portal->calls.isEmpty(); }));
+    queue.advance(Seconds(2.9));
+    EXPECT_TRUE(accessibility.reduceMotion());
+    queue.advance(Seconds(0.2));
+    EXPECT_FALSE(accessibility.reduceMotion());
+    EXPECT_EQ(changes, 1);
+}
+
+TEST_F(LinuxAccessibilityTest, WithoutABusNobodyHasAskedForAnything)
+{
+    accessibility.start(QDBusConnection(QStringLiteral("no such bus")));
+    EXPECT_FALSE(accessibility.reduceMotion());
+    EXPECT_FALSE(accessibility.increaseContrast());
+    EXPECT_TRUE(reportedDark.empty());
+    EXPECT_EQ(queue.pendingCount(), 0U);
+}
+
+TEST_F(LinuxAccessibilityTest, APortalThatAppearsLateIsAskedAndSoIsTheOneAfterIt)
+{
+    start();
+    ASSERT_TRUE(settles());
+    EXPECT_FALSE(accessibility.reduceMotion());
+    startPortal({{kMotion, 1U}});
+    ASSERT_TRUE(waitUntil([&] { return accessibility.reduceMotion(); }));
+    portal->leave();
+    startPortal({{kContrast, 1U}});
+    ASSERT_TRUE(waitUntil([&] { return accessibility.increaseContrast(); }));
+    EXPECT_FALSE(accessibility.reduceMotion());
+    EXPECT_EQ(changes, 3);
+}
+
+TEST_F(LinuxAccessibilityTest, TransparencyFollowsTheCompositorFromTheBeginning)
+{
+    EXPECT_FALSE(accessibility.reduceTransparency());
+    hasCompositor = false;
+    accessibility.compositorMayHaveChanged();
+    EXPECT_TRUE(accessibility.reduceTransparency());
+    EXPECT_TRUE(accessibility.reduceMotion());
+    accessibility.compositorMayHaveChanged();
+    EXPECT_EQ(changes, 1);
+}
+
+} // namespace cuebright::test

@@ -1,0 +1,167 @@
+#include "platform/linux/PortalHotKeys.h"
+
+#include "support/EventLoop.h"
+#include "support/FakePortal.h"
+#include "support/PrivateBus.h"
+
+#include <QGuiApplication>
+
+#include <gtest/gtest.h>
+
+#include <optional>
+
+namespace cuebright::test {
+
+namespace {
+
+constexpr HotKey kKey {0x43554542, 1, 'S', "toggle-panel", "Show or hide the panel"};
+constexpr HotKey kOtherKey {0x43554542, 2, 'T', "other", "Something else"};
+
+QStringList callsForOneKey()
+{
+    return {QStringLiteral("Register app.cuebright.Cuebright"), QStringLiteral("CreateSession"),
+        QStringLiteral("BindShortcuts toggle-panel CTRL+SHIFT+s")};
+}
+
+class PortalHotKeysTest : public testing::Test {
+protected:
+    PortalHotKeysTest() { QGuiApplication::setDesktopFileName(QStringLiteral("app.cuebright.Cuebright")); }
+
+    FakePortal& startPortal() { return portal.emplace(bus.connect()); }
+    std::unique_ptr<HotKeyRegistration> registerKey(const HotKey& key = kKey)
+    {
+        return hotKeys.registerHotKey(key, [this] { ++presses; });
+    }
+    [[nodiscard]] bool isBoundInTheEnd(const std::unique_ptr<HotKeyRegistration>& registration)
+    {
+        return waitUntil([&] { return registration->isSystemWide(); });
+    }
+
+    PrivateBus bus;
+    std::optional<FakePortal> portal;
+    int connections = 0;
+    PortalHotKeys hotKeys {[this] {
+        ++connections;
+        return bus.connect();
+    }};
+    int presses = 0;
+};
+
+} // namespace
+
+TEST_F(PortalHotKeysTest, FromTheStartOnAKeyIsRegisteredThenGivenASessionThenBound)
+{
+    startPortal();
+    const auto registration = registerKey();
+    EXPECT_EQ(connections, 0);
+    EXPECT_FALSE(registration->isSystemWide());
+    hotKeys.start();
+    ASSERT_TRUE(isBoundInTheEnd(registration));
+    EXPECT_EQ(portal->calls, callsForOneKey());
+    EXPECT_EQ(portal->lastShortcut.value(QStringLiteral("description")), QStringLiteral("Show or hide the panel"));
+}
+
+TEST_F(PortalHotKeysTest, OnlyItsOwnActivationPressesTheKey)
+{
+    startPortal();
+    const auto registration = registerKey();
+    hotKeys.start();
+    ASSERT_TRUE(isBoundInTheEnd(registration));
+    const auto id = QStringLiteral("toggle-panel");
+    portal->sendActivated(portal->sessions[0].path, QStringLiteral("other"));
+    portal->sendActivated(portal->sessions[0].path + QLatin1Char('2'), id);
+    ASSERT_TRUE(portal->activate(id));
+    EXPECT_TRUE(waitUntil([&] { return presses == 1; })) << presses;
+    ASSERT_TRUE(portal->activate(id));
+    EXPECT_TRUE(waitUntil([&] { return presses == 2; })) << presses;
+}
+
+TEST_F(PortalHotKeysTest, WhatThePortalDoesNotGrantIsNotSystemWide)
+{
+    struct Case {
+        const char* name;
+        void (*prepare)(FakePortal&);
+        int calls;
+    };
+    const std::vector<Case> cases {
+        {"session refused by the user", [](FakePortal& p) { p.responseToCreate = 1; }, 2},
+        {"session ended otherwise", [](FakePortal& p) { p.responseToCreate = 2; }, 2},
+        {"binding refused by the user", [](FakePortal& p) { p.responseToBind = 1; }, 3},
+        {"binding ended otherwise", [](FakePortal& p) { p.responseToBind = 2; }, 3},
+        {"bound to no key", [](FakePortal& p) { p.triggerDescription.clear(); }, 3},
+        {"no global shortcuts", [](FakePortal& p) { p.hasShortcuts = false; }, 2},
+    };
+    for (const auto& c : cases) {
+        c.prepare(startPortal());
+        PortalHotKeys keys([this] { return bus.connect(); });
+        const auto refused = keys.registerHotKey(kKey, [] {});
+        keys.start();
+        ASSERT_TRUE(waitUntil([&] { return portal->calls.size() == c.calls; })) << c.name;
+        // What is granted afterwards tells when the refusal has arrived.
+        portal->hasShortcuts = true;
+        portal->responseToCreate = portal->responseToBind = 0;
+        portal->triggerDescription = QStringLiteral("Ctrl+T");
+        const auto granted = keys.registerHotKey(kOtherKey, [] {});
+        ASSERT_TRUE(isBoundInTheEnd(granted)) << c.name;
+        EXPECT_FALSE(refused->isSystemWide()) << c.name;
+        EXPECT_EQ(portal->calls.size(), c.calls + 3) << "a refusal is final: " << c.name;
+    }
+}
+
+TEST_F(PortalHotKeysTest, APortalWithoutTheRegistryBindsKeysToo)
+{
+    startPortal().hasRegistry = false;
+    const auto registration = registerKey();
+    hotKeys.start();
+    EXPECT_TRUE(isBoundInTheEnd(registration));
+}
+
+TEST_F(PortalHotKeysTest, AKeyGivenBackClosesItsSession)
+{
+    startPortal();
+    auto registration = registerKey();
+    auto neverStarted = registerKey(kOtherKey);
+    neverStarted.reset();
+    hotKeys.start();
+    ASSERT_TRUE(isBoundInTheEnd(registration));
+    registration.reset();
+    EXPECT_TRUE(waitUntil([&] { return portal->sessions.isEmpty(); }));
+    EXPECT_EQ(portal->calls, callsForOneKey() << QStringLiteral("Close"));
+}
+
+TEST_F(PortalHotKeysTest, ALatePortalAndARestartedOneAreAskedAnew)
+{
+    const auto registration = registerKey();
+    hotKeys.start();
+    startPortal();
+    ASSERT_TRUE(isBoundInTheEnd(registration));
+    portal->leave();
+    ASSERT_TRUE(waitUntil([&] { return !registration->isSystemWide(); }));
+    startPortal();
+    ASSERT_TRUE(isBoundInTheEnd(registration));
+    EXPECT_EQ(portal->calls, callsForOneKey());
+    ASSERT_TRUE(portal->activate(QStringLiteral("toggle-panel")));
+    EXPECT_TRUE(waitUntil([&] { return presses == 1; }));
+}
+
+TEST_F(PortalHotKeysTest, ASessionThatTheDesktopEndsIsNotSystemWideAnyMore)
+{
+    startPortal();
+    const auto registration = registerKey();
+    hotKeys.start();
+    ASSERT_TRUE(isBoundInTheEnd(registration));
+    portal->closeSession(portal->sessions[0].path);
+    EXPECT_TRUE(waitUntil([&] { return !registration->isSystemWide(); }));
+}
+
+TEST_F(PortalHotKeysTest, WithoutABusTheKeyIsSilent)
+{
+    PortalHotKeys keys([] { return QDBusConnection(QStringLiteral("no such bus")); });
+    const auto registration = keys.registerHotKey(kKey, [] {});
+    keys.start();
+    const auto late = keys.registerHotKey(kOtherKey, [] {});
+    EXPECT_FALSE(registration->isSystemWide());
+    EXPECT_FALSE(late->isSystemWide());
+}
+
+} // namespace cuebright::test

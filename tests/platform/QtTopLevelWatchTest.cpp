@@ -1,0 +1,87 @@
+#include "platform/qt/QtTopLevelWatch.h"
+
+#include "support/EventLoop.h"
+
+#include <QMenu>
+#include <QWidget>
+#include <QWindow>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <vector>
+
+namespace cuebright::test {
+
+namespace {
+
+class QtTopLevelWatchTest : public testing::Test {
+protected:
+    [[nodiscard]] bool hasAppeared(const QWidget& widget) const
+    {
+        return std::ranges::find(appeared, widget.winId()) != appeared.end();
+    }
+
+    QtTopLevelWatch watch;
+    std::vector<WindowSystem::WindowId> appeared;
+    std::vector<WindowSystem::WindowId> gone;
+    Subscription appears = watch.appears.subscribe([this](auto window) { appeared.push_back(window); });
+    Subscription goes = watch.goes.subscribe([this](auto window) { gone.push_back(window); });
+};
+
+TEST_F(QtTopLevelWatchTest, TellsOfAWindowBeforeItIsExposed)
+{
+    QWidget widget;
+    bool wasExposed = true;
+    const auto first = watch.appears.subscribe([&](auto) {
+        if (appeared.size() == 1)
+            wasExposed = widget.windowHandle() && widget.windowHandle()->isExposed();
+    });
+    widget.show();
+    EXPECT_TRUE(hasAppeared(widget));
+    EXPECT_FALSE(wasExposed);
+}
+
+TEST_F(QtTopLevelWatchTest, TellsAgainAtEachShowAndOnceTheWindowShows)
+{
+    QWidget widget;
+    widget.show();
+    processEvents();
+    widget.hide();
+    processEvents();
+    appeared.clear();
+    widget.show();
+    EXPECT_TRUE(waitUntil([&] { return widget.windowHandle()->isExposed(); }));
+    EXPECT_EQ(appeared, (std::vector<WindowSystem::WindowId>(2, widget.winId())));
+}
+
+TEST_F(QtTopLevelWatchTest, TellsOfMenusAndNotOfWindowsInsideOthers)
+{
+    QWidget widget;
+    QWidget inside(&widget);
+    inside.setAttribute(Qt::WA_NativeWindow);
+    widget.show();
+    ASSERT_NE(inside.windowHandle(), nullptr);
+    EXPECT_FALSE(hasAppeared(inside));
+
+    QMenu menu;
+    menu.addAction(QStringLiteral("An action"));
+    menu.popup({});
+    EXPECT_TRUE(hasAppeared(menu));
+}
+
+TEST_F(QtTopLevelWatchTest, TellsWhenAWindowGoes)
+{
+    WindowSystem::WindowId id = 0;
+    {
+        QWidget widget;
+        widget.show();
+        id = widget.winId();
+        EXPECT_TRUE(gone.empty());
+    }
+    EXPECT_EQ(gone, std::vector {id});
+}
+
+} // namespace
+
+} // namespace cuebright::test
