@@ -9,6 +9,13 @@ if(NOT MSVC)
     endif()
 endif()
 
+# What distributions build with: a smashed stack or an overrun buffer ends the program.
+if(CMAKE_SYSTEM_NAME STREQUAL Linux AND NOT CUEBRIGHT_SANITIZE)
+    target_compile_options(cuebright_options INTERFACE
+        "$<$<CONFIG:Release>:-fstack-protector-strong;-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>")
+    target_link_options(cuebright_options INTERFACE "$<$<CONFIG:Release>:-Wl,-z,relro,-z,now>")
+endif()
+
 if(CUEBRIGHT_SANITIZE)
     target_compile_options(cuebright_options INTERFACE
         -fsanitize=${CUEBRIGHT_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
