@@ -11,6 +11,7 @@
 #include <X11/XKBlib.h>
 #include <X11/Xatom.h>
 #include <X11/Xlib.h>
+#include <X11/Xutil.h>
 #include <X11/extensions/XTest.h>
 
 namespace cuebright::test {
@@ -263,6 +264,18 @@ bool Desktop::hasProperty(WindowId window, const char* name) const
     if (atoms)
         XFree(atoms);
     return isThere;
+}
+
+int Desktop::brightness(WindowId window, int x, int y) const
+{
+    const auto area = clientArea(window);
+    XImage* const image =
+        XGetImage(m_display->connection, m_display->root, area.x + x, area.y + y, 1, 1, AllPlanes, ZPixmap);
+    if (!image)
+        return -1;
+    const auto colour = XGetPixel(image, 0, 0);
+    XDestroyImage(image);
+    return static_cast<int>(colour >> 8 & 0xff);
 }
 
 void Desktop::askWindowManager(WindowId window, const char* request, const std::vector<long>& data)

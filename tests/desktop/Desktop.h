@@ -57,6 +57,8 @@ public:
     /// In the order in which the window manager stacks them.
     [[nodiscard]] bool isAbove(WindowId upper, WindowId lower) const;
     [[nodiscard]] bool hasProperty(WindowId window, const char* name) const;
+    /// Of the green on the screen, 0 to 255, at a place in the window; −1 where there is nothing.
+    [[nodiscard]] int brightness(WindowId window, int x, int y) const;
 
     /// Another program's window with the keyboard, as large as the screen where that is asked for.
     enum class Size { Small, FullScreen };

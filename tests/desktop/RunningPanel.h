@@ -52,6 +52,7 @@ public:
     [[nodiscard]] std::string title() const;
     [[nodiscard]] Desktop::Area area() const;
     [[nodiscard]] Desktop::WindowId window() const { return m_window; }
+    [[nodiscard]] pid_t process() const { return m_program.pid(); }
     [[nodiscard]] testing::AssertionResult isOnScreen() const;
     [[nodiscard]] testing::AssertionResult isOffScreen() const;
     [[nodiscard]] testing::AssertionResult hasTitle(std::string_view title) const;

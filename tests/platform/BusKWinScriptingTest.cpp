@@ -4,14 +4,13 @@
 #include "platform/linux/KWinCaptureExclusion.h"
 #include "platform/linux/KWinScript.h"
 #include "support/EventLoop.h"
+#include "support/FakeKWin.h"
 #include "support/FakePlatform.h"
 #include "support/PrivateBus.h"
 
 #include <QDBusError>
 #include <QDBusMessage>
 #include <QDBusPendingCall>
-#include <QDBusVirtualObject>
-#include <QRegularExpression>
 
 #include <gtest/gtest.h>
 
@@ -22,57 +21,6 @@ namespace cuebright::test {
 namespace {
 
 using State = CaptureExclusion::State;
-
-QString qs(std::string_view text) { return QString::fromUtf8(text.data(), qsizetype(text.size())); }
-
-/// A call of the object whose address the script contains, as the script would make it.
-QDBusMessage reportTo(const std::string& script, const char* word)
-{
-    const QRegularExpression pattern(QStringLiteral("busName = \"([^\"]*)\""));
-    auto message = QDBusMessage::createMethodCall(
-        pattern.match(qs(script)).captured(1), qs(kKWinReportPath), qs(kKWinReportInterface), qs(kKWinReportMethod));
-    message.setArguments({qs(word)});
-    return message;
-}
-
-/// Stands in for KWin on the bus: takes a script in and, when that is run, reports what a test has laid down.
-class FakeKWin final : public QDBusVirtualObject {
-public:
-    explicit FakeKWin(PrivateBus& bus)
-        : connection(bus.connect())
-    {
-        connection.registerVirtualObject(QStringLiteral("/Scripting"), this, QDBusConnection::SubPath);
-        appear();
-    }
-    ~FakeKWin() override { connection.unregisterObject(QStringLiteral("/Scripting")); }
-    void appear() { connection.registerService(QStringLiteral("org.kde.KWin")); }
-    void vanish() { connection.unregisterService(QStringLiteral("org.kde.KWin")); }
-
-    QString introspect(const QString&) const override { return {}; }
-    bool handleMessage(const QDBusMessage& message, const QDBusConnection&) override
-    {
-        const auto member = message.member();
-        calls << message.path() + u' ' + message.interface() + u'.' + member + u'(' + message.signature() + u')';
-        for (const auto& argument : message.arguments())
-            calls.back() += u' ' + argument.toString();
-        if (member == QStringLiteral("unloadScript"))
-            return connection.send(message.createReply(false));
-        if (member == QStringLiteral("loadScript")) {
-            const std::filesystem::path file = message.arguments().at(0).toString().toStdString();
-            script = TemporaryFolder::contentOf(file);
-            modes = {TemporaryFolder::modeOf(file), TemporaryFolder::modeOf(file.parent_path())};
-            return connection.send(message.createReply(5));
-        }
-        connection.asyncCall(reportTo(script, report));
-        return connection.send(message.createReply());
-    }
-
-    QDBusConnection connection;
-    const char* report = "omitted";
-    QStringList calls;
-    std::string script;
-    std::vector<unsigned> modes; ///< of the script file and its folder
-};
 
 class BusKWinScriptingTest : public testing::Test {
 protected:
@@ -93,13 +41,14 @@ protected:
 
 TEST_F(BusKWinScriptingTest, KWinGetsTheDocumentedCallsAndAFileForItsEyesOnly)
 {
-    FakeKWin kwin(bus);
+    FakeKWin kwin(bus.connect());
     exclusion->start();
     EXPECT_TRUE(reaches(State::Excluded));
     const auto file = folder.path() / "cuebright/capture-exclusion.js";
     EXPECT_EQ(kwin.calls,
         (QStringList {QStringLiteral("/Scripting org.kde.kwin.Scripting.unloadScript(s) cuebright"),
-            QStringLiteral("/Scripting org.kde.kwin.Scripting.loadScript(ss) %1 cuebright").arg(qs(file.string())),
+            QStringLiteral("/Scripting org.kde.kwin.Scripting.loadScript(ss) %1 cuebright")
+                .arg(QString::fromStdString(file)),
             QStringLiteral("/Scripting/Script5 org.kde.kwin.Script.run()")}));
     EXPECT_EQ(kwin.script, kwinScript(::getpid(), ours.baseService().toStdString()));
     EXPECT_EQ(kwin.modes, (std::vector<unsigned> {0600, 0700}));
@@ -108,12 +57,12 @@ TEST_F(BusKWinScriptingTest, KWinGetsTheDocumentedCallsAndAFileForItsEyesOnly)
 
 TEST_F(BusKWinScriptingTest, ARestartedKWinIsLoadedAnew)
 {
-    FakeKWin kwin(bus);
+    FakeKWin kwin(bus.connect());
     exclusion->start();
     EXPECT_TRUE(reaches(State::Excluded));
     kwin.vanish();
     EXPECT_TRUE(reaches(State::Unknown));
-    kwin.report = "refused";
+    kwin.report = QStringLiteral("refused");
     kwin.appear();
     EXPECT_TRUE(reaches(State::Visible));
     EXPECT_EQ(kwin.calls.size(), 6);
@@ -134,12 +83,12 @@ TEST_F(BusKWinScriptingTest, WithoutKWinOrABusTheAnswerIsUnknown)
 
 TEST_F(BusKWinScriptingTest, AReportFromAnyoneElseDoesNotCount)
 {
-    FakeKWin kwin(bus);
+    FakeKWin kwin(bus.connect());
     exclusion->start();
     EXPECT_TRUE(reaches(State::Excluded));
     std::vector<State> states;
     const auto subscription = exclusion->changed.subscribe([&] { states.push_back(exclusion->state()); });
-    const auto report = reportTo(kwin.script, "refused");
+    const auto report = kwin.reportOf(QStringLiteral("refused"));
     const auto foreign = bus.connect().asyncCall(report);
     EXPECT_TRUE(waitUntil([&] { return foreign.isFinished(); }));
     EXPECT_EQ(foreign.error().type(), QDBusError::AccessDenied);
@@ -152,7 +101,7 @@ TEST_F(BusKWinScriptingTest, AReportFromAnyoneElseDoesNotCount)
 
 TEST_F(BusKWinScriptingTest, TheScriptIsUnloadedEvenIfTheProgramEndsAtOnce)
 {
-    FakeKWin kwin(bus);
+    FakeKWin kwin(bus.connect());
     exclusion->start();
     EXPECT_TRUE(reaches(State::Excluded));
     kwin.calls.clear();

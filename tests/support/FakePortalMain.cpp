@@ -1,21 +1,9 @@
 #include "support/FakePortal.h"
-
-#include <QCoreApplication>
-#include <QSocketNotifier>
-
-#include <cstdio>
-
-#include <unistd.h>
+#include "support/OrderLine.h"
 
 using namespace cuebright::test;
 
 namespace {
-
-void say(const QString& line)
-{
-    std::puts(qPrintable(line));
-    std::fflush(stdout);
-}
 
 QVariant valueOf(const QString& type, const QString& text)
 {
@@ -52,20 +40,7 @@ int main(int argc, char* argv[])
     const QCoreApplication application(argc, argv);
     FakePortal portal(QDBusConnection::sessionBus());
     portal.called = say;
-    QByteArray input;
-    const QSocketNotifier notifier(STDIN_FILENO, QSocketNotifier::Read);
-    QObject::connect(&notifier, &QSocketNotifier::activated, &application, [&] {
-        char buffer[1024];
-        const auto size = ::read(STDIN_FILENO, buffer, sizeof buffer);
-        if (size <= 0)
-            QCoreApplication::quit();
-        else
-            input.append(buffer, size);
-        for (auto end = input.indexOf('\n'); end >= 0; end = input.indexOf('\n')) {
-            obey(portal, QString::fromUtf8(input.left(end)));
-            input.remove(0, end + 1);
-        }
-    });
+    const OrderLine orders([&portal](const QString& line) { obey(portal, line); });
     say(QStringLiteral("ready"));
     return QCoreApplication::exec();
 }

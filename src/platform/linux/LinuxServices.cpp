@@ -52,6 +52,7 @@ public:
             [&appearance](bool isDark) { appearance.setSystemIsDark(isDark); })
         , m_captureExclusion(makeCaptureExclusion(m_session, mainQueue))
     {
+        m_captureExclusion.start(); // before the first window; it waits for nobody
         if (m_session.isWayland)
             m_portalHotKeys.emplace(connectForHotKeys);
         if (m_x11)
@@ -64,7 +65,6 @@ public:
     Desktop desktop() override { return {*m_captureExclusion.exclusion, hotKeys(), windowSystem()}; }
     void start() override
     {
-        m_captureExclusion.start();
         m_accessibility.start(QDBusConnection::sessionBus());
         if (m_portalHotKeys)
             m_portalHotKeys->start();
