@@ -59,9 +59,11 @@ void AppDelegate::showOnboarding()
         return;
     auto& content = m_panelController->content();
     const auto overlay = new OnboardingOverlay(m_context, &content);
-    overlay->finished = [overlay, &content] {
+    m_panelController->setContentCovered(true);
+    overlay->finished = [this, overlay, &content] {
         overlay->deleteLater();
         content.setFocus();
+        m_panelController->setContentCovered(false);
     };
 }
 

@@ -3,6 +3,7 @@
 #include "app/OnboardingPageView.h"
 #include "panel/ChromeButton.h"
 #include "panel/FadeOut.h"
+#include "panel/ShareNotice.h"
 #include "platform/CaptureExclusion.h"
 #include "platform/Preferences.h"
 #include "theme/CuebrightChromeStyle.h"
@@ -150,7 +151,7 @@ void OnboardingOverlay::buildPages()
     for (const auto page : m_pages)
         delete page;
     m_pages.clear();
-    for (const auto& page : onboardingPages(m_context.desktop.captureExclusion.state()))
+    for (const auto& page : onboardingPages(currentShareAdvice(m_context.desktop.captureExclusion)))
         m_pages.push_back(new OnboardingPageView(m_context, page, this));
     showPage();
 }

@@ -1,18 +1,17 @@
 #include "app/OnboardingPages.h"
 
-#include "panel/ShareNotice.h"
 #include "panel/TextConversion.h"
 
 namespace cuebright {
 
-std::vector<OnboardingPage> onboardingPages(CaptureExclusion::State state)
+std::vector<OnboardingPage> onboardingPages(std::optional<std::string_view> advice)
 {
     return {
         {Icon::Cards, QStringLiteral("Cue cards your audience can't see"), {},
             QStringLiteral(
                 "Cuebright keeps your talking points floating above every app, invisible to screen sharing."),
             {}},
-        {Icon::HiddenEye, QStringLiteral("Invisible to screen share"), toQString(shareAdvice(state).value_or("")),
+        {Icon::HiddenEye, QStringLiteral("Invisible to screen share"), toQString(advice.value_or("")),
             QStringLiteral("Content protection is always on. Your notes won't appear on Zoom, Teams, Meet, Webex, "
                            "Loom, or any screen recording."),
             {}},

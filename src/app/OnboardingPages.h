@@ -1,10 +1,11 @@
 #pragma once
 
 #include "panel/Icon.h"
-#include "platform/CaptureExclusion.h"
 
 #include <QString>
 
+#include <optional>
+#include <string_view>
 #include <vector>
 
 namespace cuebright {
@@ -23,7 +24,7 @@ struct OnboardingPage {
     std::vector<Row> rows;
 };
 
-/// The pages in order. The one on screen sharing takes back no word of its own, but says what holds on this desktop.
-[[nodiscard]] std::vector<OnboardingPage> onboardingPages(CaptureExclusion::State state);
+/// The pages in order. The one on screen sharing takes back no word of its own, but begins with `advice`.
+[[nodiscard]] std::vector<OnboardingPage> onboardingPages(std::optional<std::string_view> advice);
 
 } // namespace cuebright

@@ -65,7 +65,8 @@ void FrameMemory::restore()
 void FrameMemory::prepareToShow()
 {
     const auto isSeen = [this](const QRect& screen) { return screen.intersects(m_knownFrame); };
-    if (std::ranges::none_of(availableScreens(), isSeen))
+    const auto screens = availableScreens();
+    if (!screens.isEmpty() && std::ranges::none_of(screens, isSeen)) // none at all come back by themselves
         place(centred(m_defaultSize));
     else if (!m_window.isVisible())
         place(m_knownFrame);
@@ -86,7 +87,8 @@ void FrameMemory::cancelPendingSave()
 bool FrameMemory::eventFilter(QObject*, QEvent* event)
 {
     const bool isMove = event->type() == QEvent::Move || event->type() == QEvent::Resize;
-    if (!isMove || !event->spontaneous() || !m_window.isVisible() || m_window.geometry() == m_knownFrame)
+    const bool isOrdinary = m_window.isVisible() && !m_window.isMaximized() && !m_window.isFullScreen();
+    if (!isMove || !event->spontaneous() || !isOrdinary || m_window.geometry() == m_knownFrame)
         return false;
     m_knownFrame = m_window.geometry();
     m_save.cancel();

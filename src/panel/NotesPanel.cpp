@@ -31,8 +31,10 @@ NotesPanel::~NotesPanel() = default;
 
 void NotesPanel::orderFront()
 {
-    if (isMinimized())
+    if (isMinimized()) {
+        hide(); // brought back as it is, it would take the keyboard
         setWindowState(windowState() & ~Qt::WindowMinimized);
+    }
     show();
     if (!QApplication::activePopupWidget()) // a restacked window would cover its own pop-up
         raise();
@@ -125,7 +127,11 @@ void NotesPanel::paintEvent(QPaintEvent* event)
 KeyMonitor::Action NotesPanel::actionFor(const QKeyEvent& event)
 {
     const auto action = panelKeyAction(KeyStroke::of(event), m_context.store.isEditing());
-    return action ? KeyMonitor::Action([this, action] { perform(*action); }) : nullptr;
+    if (!action)
+        return {};
+    if (event.isAutoRepeat() && !repeatsWhileHeld(action->command))
+        return [] {};
+    return [this, action] { perform(*action); };
 }
 
 void NotesPanel::perform(const PanelKeyAction& action)

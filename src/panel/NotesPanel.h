@@ -33,6 +33,7 @@ public:
     void orderFront();
     /// Takes the panel off the screen. Its menus close, its sheets are answered with Cancel.
     void orderOut();
+    void dismissMenusAndSheets();
     /// Gives the panel the keyboard.
     void activate();
 
@@ -53,7 +54,6 @@ protected:
 private:
     [[nodiscard]] KeyMonitor::Action actionFor(const QKeyEvent& event);
     void perform(const PanelKeyAction& action);
-    void dismissMenusAndSheets();
     void noticeIfOnScreenChanged();
 
     const PanelContext& m_context;

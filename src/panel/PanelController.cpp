@@ -45,6 +45,11 @@ PanelController::PanelController(const PanelContext& context)
     configureContent();
     observeStore();
     m_panelSubscription = m_panel->isOnScreenChanged.subscribe([this] { followPanel(); });
+    m_fallSubscription =
+        context.desktop.windowSystem.minimisedWithFullScreen.subscribe([this](WindowSystem::WindowId window) {
+            if (window == m_panel->winId())
+                showPanel();
+        });
     m_toggleSubscription =
         context.notifications.observe(kTogglePanelNotification, [this] { handleHotkeyNotification(); });
     m_hotkeyRef = context.desktop.hotKeys.registerHotKey(
@@ -85,9 +90,9 @@ void PanelController::showPanel()
     m_frameMemory.prepareToShow();
     m_context.desktop.windowSystem.keepAboveFullScreen(m_panel->winId());
     m_showHideAnimation.show(motion(m_context));
+    if (!m_panel->isOnScreen() && !m_isContentCovered)
+        m_content->setFocus();
     m_panel->orderFront();
-    if (m_shareNotice == ShareNotice::NotDue)
-        m_shareNotice = ShareNotice::Due;
     tellWhatTheAudienceSees();
     endAbsence();
 }
@@ -98,6 +103,7 @@ void PanelController::hidePanel()
         return;
     m_isMeantToShow = false;
     m_lastHideTime = m_context.platform.clock.uptime();
+    m_panel->dismissMenusAndSheets();
     m_showHideAnimation.hide(motion(m_context));
 }
 
@@ -111,6 +117,7 @@ void PanelController::followPanel()
     }
     if (std::exchange(m_isMeantToShow, false))
         m_lastHideTime = m_context.platform.clock.uptime();
+    m_panel->dismissMenusAndSheets();
     m_showHideAnimation.reset();
 }
 
@@ -122,15 +129,26 @@ void PanelController::reapplyCaptureExclusion()
     }));
 }
 
-/// Once after launch, as soon as it is known.
+void PanelController::setContentCovered(bool isCovered)
+{
+    m_isContentCovered = isCovered;
+    tellWhatTheAudienceSees();
+}
+
+/// Once after launch, as soon as it is known and can be read; and again if what was hidden has come to light.
 void PanelController::tellWhatTheAudienceSees()
 {
     auto& exclusion = m_context.desktop.captureExclusion;
-    if (m_shareNotice != ShareNotice::Due || !exclusion.isSettled())
+    if (!exclusion.isSettled())
         return;
-    m_shareNotice = ShareNotice::Given;
-    if (const auto feedback = shareFeedback(exclusion.state()))
+    if (exclusion.state() == CaptureExclusion::State::Excluded)
+        m_isShareNoticeDue = true;
+    if (!m_isShareNoticeDue || !isPanelVisible() || m_isContentCovered)
+        return;
+    if (const auto feedback = shareFeedback(exclusion.state())) {
+        m_isShareNoticeDue = false;
         m_context.store.showFeedback(std::string(*feedback));
+    }
 }
 
 void PanelController::endAbsence()
@@ -140,7 +158,7 @@ void PanelController::endAbsence()
         m_context.notifications.post(kReturnAfterAbsenceNotification);
 }
 
-/// The plain arrow keys; and ⌘⇧S where it does not arrive by itself.
+/// The plain arrow keys; and ⌘⇧S, which comes by here only where the system has not taken it for us.
 void PanelController::installArrowKeyMonitor()
 {
     m_arrowKeyMonitor =
@@ -150,8 +168,7 @@ void PanelController::installArrowKeyMonitor()
 KeyMonitor::Action PanelController::actionFor(const QKeyEvent& event)
 {
     const auto stroke = KeyStroke::of(event);
-    const bool isHotKeyElsewhere = m_hotkeyRef && m_hotkeyRef->isSystemWide();
-    if (isTogglePanelKey(stroke) && !isHotKeyElsewhere && !event.isAutoRepeat())
+    if (isTogglePanelKey(stroke) && !event.isAutoRepeat())
         return [this] { togglePanel(); };
     if (!isPanelVisible())
         return {};

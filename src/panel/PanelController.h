@@ -39,12 +39,12 @@ public:
     /// Puts the panel above everything; leaves the keyboard where it is.
     void showPanel();
     void hidePanel();
+    /// Says that something lies over the content and has the keyboard: what is told there waits until it has gone.
+    void setContentCovered(bool isCovered);
     /// Where the panel stands now is not kept, until the user moves it again.
     void forgetFrame() { m_frameMemory.cancelPendingSave(); }
 
 private:
-    enum class ShareNotice { NotDue, Due, Given };
-
     void configureContent();
     void installArrowKeyMonitor();
     [[nodiscard]] KeyMonitor::Action actionFor(const QKeyEvent& event);
@@ -69,13 +69,15 @@ private:
     std::unique_ptr<KeyMonitor> m_arrowKeyMonitor;
     std::optional<Seconds> m_lastHideTime; ///< by `Clock::uptime`
     bool m_isMeantToShow = false;
-    ShareNotice m_shareNotice = ShareNotice::NotDue;
+    bool m_isShareNoticeDue = true;
+    bool m_isContentCovered = false;
     PendingTask m_storeUpdate;
     WeakTarget m_weakTarget;
     Subscription m_storeSubscription;
     Subscription m_accessibilitySubscription;
     Subscription m_exclusionSubscription;
     Subscription m_panelSubscription;
+    Subscription m_fallSubscription;
     Subscription m_toggleSubscription;
 };
 

@@ -1,5 +1,7 @@
 #include "panel/PanelKeys.h"
 
+#include <QGuiApplication>
+
 #include <algorithm>
 #include <array>
 
@@ -31,8 +33,8 @@ constexpr std::array kCommandRows {
 };
 
 constexpr std::array kCommandShiftRows {
-    Row {Qt::Key_W, ToggleWordCount, ToggleWordCount},
-    Row {Qt::Key_Z, Redo, std::nullopt},
+    Row {Qt::Key_W, ToggleWordCount, ToggleWordCount}, Row {Qt::Key_Z, Redo, std::nullopt},
+    Row {Qt::Key_Period, std::nullopt, CancelEdit}, // where the full stop needs Shift
 };
 
 constexpr std::array kPlainRows {
@@ -64,12 +66,14 @@ std::optional<PanelKeyAction> deckKeyAction(const KeyStroke& stroke, bool isEdit
     return PanelKeyAction {SwitchToDeck, stroke.digit - 1};
 }
 
-/// X11 key codes of the digits above the letters: 10 to 18 for 1 to 9, 19 for 0.
+/// The digits stand above the letters from 1 to 9 and 0; how the first key is numbered is the window system's.
 int topRowDigit(quint32 scanCode)
 {
-    constexpr quint32 kFirst = 10;
-    constexpr quint32 kLast = 19;
-    return scanCode >= kFirst && scanCode <= kLast ? static_cast<int>((scanCode - kFirst + 1) % 10) : -1;
+    static const auto windowSystem = QGuiApplication::platformName();
+    const quint32 first = windowSystem == QLatin1String("windows") ? 2 : 10;
+    if (windowSystem == QLatin1String("cocoa") || scanCode < first || scanCode > first + 9)
+        return -1;
+    return static_cast<int>((scanCode - first + 1) % 10);
 }
 
 } // namespace
@@ -96,6 +100,11 @@ std::optional<PanelKeyAction> panelKeyAction(const KeyStroke& stroke, bool isEdi
     if (stroke.modifiers == Qt::NoModifier)
         return lookUp(kPlainRows, stroke, isEditing);
     return std::nullopt;
+}
+
+bool repeatsWhileHeld(PanelCommand command)
+{
+    return command == PrevCard || command == NextCard || command == Undo || command == Redo;
 }
 
 bool isTogglePanelKey(const KeyStroke& stroke)

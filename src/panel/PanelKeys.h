@@ -42,6 +42,9 @@ struct KeyStroke {
 /// The panel's shortcuts, tried before those of the menus; absent where the key is not one of them.
 [[nodiscard]] std::optional<PanelKeyAction> panelKeyAction(const KeyStroke& stroke, bool isEditing);
 
+/// A key that is held goes on stepping and undoing; everything else happens once.
+[[nodiscard]] bool repeatsWhileHeld(PanelCommand command);
+
 /// ⌘⇧S.
 [[nodiscard]] bool isTogglePanelKey(const KeyStroke& stroke);
 

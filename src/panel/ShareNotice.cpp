@@ -42,4 +42,9 @@ std::optional<std::string_view> shareAdvice(CaptureExclusion::State state)
            "screen.";
 }
 
+std::optional<std::string_view> currentShareAdvice(CaptureExclusion& exclusion)
+{
+    return exclusion.isSettled() ? shareAdvice(exclusion.state()) : std::nullopt;
+}
+
 } // namespace cuebright

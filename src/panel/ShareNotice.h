@@ -24,4 +24,7 @@ struct ShareBadge {
 /// What to do where the panel cannot be kept out of a shared screen; absent where it is.
 [[nodiscard]] std::optional<std::string_view> shareAdvice(CaptureExclusion::State state);
 
+/// The same for what is known now; absent while it is being found out.
+[[nodiscard]] std::optional<std::string_view> currentShareAdvice(CaptureExclusion& exclusion);
+
 } // namespace cuebright

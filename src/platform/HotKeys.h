@@ -21,7 +21,7 @@ class HotKeyRegistration {
 public:
     virtual ~HotKeyRegistration() = default;
 
-    /// Whether the key is known to arrive from other programs too. May change while the desktop is being asked.
+    /// Whether the system has granted the key. May change while the desktop is being asked.
     [[nodiscard]] virtual bool isSystemWide() const = 0;
 };
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "foundation/Signal.h"
+
 #include <cstdint>
 
 namespace cuebright {
@@ -21,6 +23,9 @@ public:
 
     /// Blurs what shows through the window, where the system can. Lasts while the window exists.
     virtual void setGlass(WindowId window, bool isOn) = 0;
+
+    /// A window kept above was minimised, and not for its own sake: together with the full-screen window below it.
+    Signal<WindowId> minimisedWithFullScreen;
 };
 
 } // namespace cuebright

@@ -2,6 +2,7 @@
 
 #include "panel/PanelFixture.h"
 #include "panel/PanelLabel.h"
+#include "panel/ShareNotice.h"
 #include "support/EventLoop.h"
 
 #include <QApplication>
@@ -113,7 +114,7 @@ TEST_F(OnboardingOverlayTest, WhereThePanelCanBeSeenTheSecondPageSaysSo)
 {
     using enum CaptureExclusion::State;
     for (const auto state : {Blackout, Visible, Unknown, Excluded}) {
-        const auto pages = onboardingPages(state);
+        const auto pages = onboardingPages(shareAdvice(state));
         EXPECT_EQ(pages[1].advice, state == Excluded ? QString() : kAdvice);
         for (const int other : {0, 2, 3})
             EXPECT_TRUE(pages[static_cast<std::size_t>(other)].advice.isEmpty());
@@ -121,7 +122,7 @@ TEST_F(OnboardingOverlayTest, WhereThePanelCanBeSeenTheSecondPageSaysSo)
     open(Visible);
     overlay->advance();
     const auto advice = find(*overlay, kAdvice);
-    const auto body = find(*overlay, onboardingPages(Visible)[1].body);
+    const auto body = find(*overlay, onboardingPages(shareAdvice(Visible))[1].body);
     EXPECT_LT(advice->geometry().bottom(), body->geometry().top());
     fake.captureExclusion.known = Excluded;
     fake.captureExclusion.changed.notify();

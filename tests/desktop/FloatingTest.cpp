@@ -94,6 +94,18 @@ TEST(DesktopFloating, ItStaysAboveARunningSlideShow)
     EXPECT_TRUE(isAbove(panel.window(), more.id())) << "above the next slide show";
 }
 
+TEST(DesktopFloating, ASlideShowThatIsMinimisedLeavesThePanelOnTheScreen)
+{
+    const Home home;
+    const RunningPanel panel(home, {}, kLeft);
+    const OtherWindow slides(Desktop::Size::FullScreen);
+    ASSERT_TRUE(waitUntil([&] { return desktop().hasProperty(panel.window(), "WM_TRANSIENT_FOR"); }));
+    desktop().minimise(slides.id());
+    ASSERT_TRUE(waitUntil([&] { return !desktop().isOnScreen(slides.id()); }));
+    EXPECT_TRUE(waitUntil([&] { return !desktop().hasProperty(panel.window(), "WM_TRANSIENT_FOR"); }));
+    EXPECT_TRUE(panel.isOnScreen());
+}
+
 TEST(DesktopFloating, ASlideShowThatEndsLeavesThePanelWhereItWas)
 {
     const Home home;
@@ -151,8 +163,10 @@ TEST(DesktopFloating, ClosingAndMinimisingHideItAndTheHotKeyBringsItBack)
     EXPECT_TRUE(panel.isOnScreen());
     desktop().minimise(panel.window());
     ASSERT_TRUE(panel.isOffScreen());
+    const OtherWindow other(Desktop::Size::Small);
     panel.press("ctrl+shift+s");
     EXPECT_TRUE(panel.isOnScreen());
+    EXPECT_TRUE(other.hasKeyboard());
     EXPECT_TRUE(waitUntil([&] { return panel.area() == place; })) << "once the window manager has framed it";
 }
 

@@ -93,5 +93,65 @@ TEST(DesktopPanel, NewCardGoesByUndoAndComesBackByRedo)
     EXPECT_TRUE(panel.shows("Card 6 of 6"));
 }
 
+TEST(DesktopPanel, EveryKeyOfThePanelWorksWithNumLockAndCapsLockOn)
+{
+    const Home home;
+    home.prefer("cuebrightWordCount", "false");
+    const RunningPanel panel(home);
+    for (const auto* const lock : {"Num_Lock", "Caps_Lock"})
+        panel.press(lock);
+
+    panel.press("Right");
+    EXPECT_TRUE(panel.shows("Card 2 of 5"));
+    panel.press("Left");
+    EXPECT_TRUE(panel.shows("Card 1 of 5"));
+    panel.press("ctrl+Right");
+    EXPECT_TRUE(panel.shows("Card 2 of 5"));
+    panel.press("ctrl+Left");
+    EXPECT_TRUE(panel.shows("Card 1 of 5"));
+    panel.press("ctrl+2");
+    EXPECT_TRUE(panel.hasTitle("Cuebright — Product Demo"));
+    panel.press("ctrl+9"); // no such deck
+    panel.press("ctrl+KP_1");
+    EXPECT_TRUE(panel.hasTitle("Cuebright — Getting Started"));
+    panel.press("ctrl+o"); // taken, and nothing
+    panel.press("Escape");
+    panel.press("ctrl+d");
+    EXPECT_TRUE(panel.shows("Delete this card?"));
+    panel.press("Escape");
+    EXPECT_TRUE(panel.showsNoLonger("Delete this card?"));
+    panel.press("ctrl+shift+w");
+    EXPECT_TRUE(panel.shows("62w · ~1 min"));
+
+    panel.press("ctrl+e");
+    ASSERT_TRUE(panel.editorHolds("Cue cards"));
+    panel.press("ctrl+o");
+    EXPECT_TRUE(panel.shows("Overwrite"));
+    panel.press("ctrl+o");
+    EXPECT_TRUE(panel.shows("Insert"));
+    panel.type("1");
+    EXPECT_TRUE(panel.editorHolds("# 1"));
+    panel.press("ctrl+z");
+    EXPECT_TRUE(panel.editorHolds("# C"));
+    panel.press("ctrl+shift+z");
+    EXPECT_TRUE(panel.editorHolds("# 1"));
+    panel.press("ctrl+2"); // the editor's
+    panel.press("ctrl+period");
+    EXPECT_TRUE(panel.shows("Edit card"));
+    EXPECT_TRUE(panel.hasTitle("Cuebright — Getting Started"));
+
+    panel.press("ctrl+Return");
+    ASSERT_TRUE(panel.editorHolds("# C"));
+    panel.type("2");
+    panel.press("ctrl+Return");
+    EXPECT_TRUE(panel.shows("Edit card"));
+    panel.press("ctrl+e");
+    EXPECT_TRUE(panel.editorHolds("2"));
+    panel.press("ctrl+e");
+    EXPECT_TRUE(panel.shows("Edit card"));
+    for (const auto* const lock : {"Num_Lock", "Caps_Lock"})
+        panel.press(lock);
+}
+
 } // namespace
 } // namespace cuebright::test

@@ -193,7 +193,7 @@ public:
     }
 
     bool isTaken = false;
-    bool isSystemWide = true;
+    bool isGranted = true;
     std::vector<HotKey> keys; ///< that were asked for
     std::function<void()> press; ///< null without a registration
 
@@ -205,7 +205,7 @@ private:
         {
         }
         ~Registration() override { m_owner.press = nullptr; }
-        bool isSystemWide() const override { return m_owner.isSystemWide; }
+        bool isSystemWide() const override { return m_owner.isGranted; }
 
     private:
         FakeHotKeys& m_owner;

@@ -120,6 +120,8 @@ void KWinCaptureExclusion::setState(State state, bool isSettled)
 void KWinCaptureExclusion::settle(State state)
 {
     m_deadline.cancel();
+    if (state == State::Unknown)
+        m_reapplied = nullptr; // a success long after the show that asked would only puzzle
     setState(state, true);
 }
 

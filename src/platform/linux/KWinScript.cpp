@@ -7,6 +7,10 @@ namespace {
 // The handler is connected before the first report: whoever has been answered is kept up to date.
 constexpr std::string_view kBody = R"js(
 (function () {
+    if (typeof workspace.windowList !== "function") { // older than Plasma 6
+        callDBus(busName, path, iface, method, "unsupported");
+        return;
+    }
     function ourWindows() {
         const all = workspace.windowList();
         const ours = [];

@@ -13,7 +13,7 @@ constexpr Seconds kPatience {3};
 } // namespace
 
 LinuxAccessibility::LinuxAccessibility(
-    MainQueue& mainQueue, std::function<bool()> hasCompositor, std::function<void(bool)> systemIsDark)
+    MainQueue& mainQueue, std::function<bool()> hasCompositor, std::function<void(std::optional<bool>)> systemIsDark)
     : m_mainQueue(mainQueue)
     , m_hasCompositor(std::move(hasCompositor))
     , m_systemIsDark(std::move(systemIsDark))
@@ -44,8 +44,8 @@ void LinuxAccessibility::compositorMayHaveChanged()
 void LinuxAccessibility::settle(const DesktopSettings& settings)
 {
     m_giveUp.cancel();
-    if (const auto isDark = settings.isDark())
-        m_systemIsDark(*isDark);
+    if (std::exchange(m_isDark, settings.isDark()) != m_isDark)
+        m_systemIsDark(m_isDark);
     become({settings.reduceMotion(), m_wishes.reduceTransparency, settings.increaseContrast()});
 }
 

@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 class QDBusConnection;
 
@@ -18,9 +19,9 @@ class SettingsPortal;
 /// moves. No desktop here has a wish for less transparency: without a compositor there is none to be had.
 class LinuxAccessibility final : public Accessibility {
 public:
-    /// `systemIsDark` hears of the desktop's light or dark look, once there is a preference and with every change.
-    LinuxAccessibility(
-        MainQueue& mainQueue, std::function<bool()> hasCompositor, std::function<void(bool)> systemIsDark);
+    /// `systemIsDark` hears of each change of the desktop's light or dark look; nothing: it has no preference.
+    LinuxAccessibility(MainQueue& mainQueue, std::function<bool()> hasCompositor,
+        std::function<void(std::optional<bool>)> systemIsDark);
     ~LinuxAccessibility() override;
 
     /// Begins to ask; settles at once where there is no bus.
@@ -47,8 +48,9 @@ private:
 
     MainQueue& m_mainQueue;
     std::function<bool()> m_hasCompositor;
-    std::function<void(bool)> m_systemIsDark;
+    std::function<void(std::optional<bool>)> m_systemIsDark;
     Wishes m_wishes;
+    std::optional<bool> m_isDark;
     std::unique_ptr<SettingsPortal> m_portal;
     PendingTask m_giveUp;
     WeakTarget m_weakTarget;

@@ -19,10 +19,10 @@ namespace {
 
 /// What an X server gives, XWayland included.
 struct X11Services {
-    explicit X11Services(std::unique_ptr<X11Connection> x11Connection)
+    X11Services(std::unique_ptr<X11Connection> x11Connection, MainQueue& mainQueue)
         : connection(std::move(x11Connection))
         , compositor(*connection)
-        , windowSystem(*connection)
+        , windowSystem(*connection, mainQueue)
         , hotKeys(*connection)
     {
     }
@@ -33,10 +33,10 @@ struct X11Services {
     X11HotKeys hotKeys;
 };
 
-std::unique_ptr<X11Services> connectToX11()
+std::unique_ptr<X11Services> connectToX11(MainQueue& mainQueue)
 {
     auto connection = X11Connection::ofApplication();
-    return connection ? std::make_unique<X11Services>(std::move(connection)) : nullptr;
+    return connection ? std::make_unique<X11Services>(std::move(connection), mainQueue) : nullptr;
 }
 
 QDBusConnection connectForHotKeys()
@@ -47,9 +47,10 @@ QDBusConnection connectForHotKeys()
 class LinuxServices final : public SystemServices {
 public:
     LinuxServices(QtAppearance& appearance, MainQueue& mainQueue)
-        : m_accessibility(
-            mainQueue, [this] { return hasCompositor(); },
-            [&appearance](bool isDark) { appearance.setSystemIsDark(isDark); })
+        : m_x11(connectToX11(mainQueue))
+        , m_accessibility(
+              mainQueue, [this] { return hasCompositor(); },
+              [&appearance](std::optional<bool> isDark) { appearance.setSystemIsDark(isDark); })
         , m_captureExclusion(makeCaptureExclusion(m_session, mainQueue))
     {
         m_captureExclusion.start(); // before the first window; it waits for nobody
@@ -72,7 +73,7 @@ public:
 
 private:
     /// A Wayland compositor is one by its nature.
-    bool hasCompositor() const { return !m_x11 || m_x11->compositor.isRunning(); }
+    bool hasCompositor() const { return m_session.isWayland || !m_x11 || m_x11->compositor.isRunning(); }
 
     /// A grab in a Wayland session would be deaf while a Wayland window has the keyboard.
     HotKeys& hotKeys()
@@ -92,7 +93,7 @@ private:
     }
 
     const Session m_session = Session::fromEnvironment();
-    const std::unique_ptr<X11Services> m_x11 = connectToX11();
+    const std::unique_ptr<X11Services> m_x11;
     SystemClock m_clock;
     LinuxAccessibility m_accessibility;
     SessionCaptureExclusion m_captureExclusion;

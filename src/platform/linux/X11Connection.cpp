@@ -49,15 +49,19 @@ void X11Connection::deleteProperty(xcb_window_t window, xcb_atom_t name) const
     xcb_flush(m_connection);
 }
 
-void X11Connection::selectEvents(xcb_window_t window, std::uint32_t mask) const
+std::uint32_t X11Connection::events(xcb_window_t window) const
 {
     const auto cookie = xcb_get_window_attributes(m_connection, window);
     const XcbReply<xcb_get_window_attributes_reply_t> now(
         xcb_get_window_attributes_reply(m_connection, cookie, nullptr));
-    if (!now)
-        return;
-    const std::uint32_t wanted = now->your_event_mask | mask;
-    xcb_change_window_attributes(m_connection, window, XCB_CW_EVENT_MASK, &wanted);
+    return now ? now->your_event_mask : 0;
+}
+
+void X11Connection::selectEvents(xcb_window_t window, std::uint32_t mask) const
+{
+    // Checked, and the outcome left alone: the toolkit would report a window that has just gone.
+    const auto cookie = xcb_change_window_attributes_checked(m_connection, window, XCB_CW_EVENT_MASK, &mask);
+    xcb_discard_reply(m_connection, cookie.sequence);
 }
 
 } // namespace cuebright

@@ -35,7 +35,8 @@ public:
         xcb_window_t window, xcb_atom_t name, xcb_atom_t type, std::initializer_list<std::uint32_t> items) const;
     void deleteProperty(xcb_window_t window, xcb_atom_t name) const;
 
-    /// Asks for further events of a window, beside those that this program gets already.
+    /// The events of a window that this program gets.
+    [[nodiscard]] std::uint32_t events(xcb_window_t window) const;
     void selectEvents(xcb_window_t window, std::uint32_t mask) const;
 
 private:

@@ -6,14 +6,16 @@
 
 namespace cuebright {
 
-X11WindowSystem::X11WindowSystem(const X11Connection& x11)
+X11WindowSystem::X11WindowSystem(const X11Connection& x11, MainQueue& mainQueue)
     : m_x11(x11)
+    , m_mainQueue(mainQueue)
     , m_activeWindowAtom(x11.atom("_NET_ACTIVE_WINDOW"))
     , m_stateAtom(x11.atom("_NET_WM_STATE"))
     , m_fullScreenAtom(x11.atom("_NET_WM_STATE_FULLSCREEN"))
     , m_blurAtom(x11.atom("_KDE_NET_WM_BLUR_BEHIND_REGION"))
+    , m_managedAtom(x11.atom("WM_STATE"))
 {
-    x11.selectEvents(x11.root(), XCB_EVENT_MASK_PROPERTY_CHANGE);
+    x11.selectEvents(x11.root(), x11.events(x11.root()) | XCB_EVENT_MASK_PROPERTY_CHANGE);
     QCoreApplication::instance()->installNativeEventFilter(this);
 }
 
@@ -59,6 +61,8 @@ bool X11WindowSystem::nativeEventFilter(const QByteArray&, void* message, qintpt
         const auto* const end = reinterpret_cast<const xcb_unmap_notify_event_t*>(event);
         if (end->window == m_watched)
             followActiveWindow();
+        if (m_windows.contains(end->window))
+            examineUnmapped(end->window);
     } else if (type == XCB_MAP_NOTIFY) {
         // Showing a window again, the toolkit deletes what it has not written itself (Qt 6.4).
         const auto* const map = reinterpret_cast<const xcb_map_notify_event_t*>(event);
@@ -85,16 +89,48 @@ void X11WindowSystem::followActiveWindow()
         return;
     const auto active = activeWindow();
     const auto others = m_windows.contains(active) ? static_cast<xcb_window_t>(XCB_WINDOW_NONE) : active;
-    if (others != m_watched && others != XCB_WINDOW_NONE)
-        m_x11.selectEvents(others, XCB_EVENT_MASK_PROPERTY_CHANGE | XCB_EVENT_MASK_STRUCTURE_NOTIFY);
-    m_watched = others;
+    if (others != m_watched)
+        watch(others);
     const bool isCovering = others != XCB_WINDOW_NONE && isFullScreen(others);
     const auto fullScreenWindow = isCovering ? others : static_cast<xcb_window_t>(XCB_WINDOW_NONE);
     if (fullScreenWindow == m_fullScreenWindow)
         return;
     m_fullScreenWindow = fullScreenWindow;
+    if (isCovering)
+        m_lastFullScreenWindow = others;
     for (const auto window : m_windows)
         lift(window);
+}
+
+void X11WindowSystem::watch(xcb_window_t window)
+{
+    if (m_watched != XCB_WINDOW_NONE)
+        m_x11.selectEvents(m_watched, m_eventsBefore); // what is not watched must not wake us
+    m_watched = window;
+    if (window == XCB_WINDOW_NONE)
+        return;
+    m_eventsBefore = m_x11.events(window);
+    m_x11.selectEvents(window, m_eventsBefore | XCB_EVENT_MASK_PROPERTY_CHANGE | XCB_EVENT_MASK_STRUCTURE_NOTIFY);
+}
+
+bool X11WindowSystem::isMinimised(xcb_window_t window) const
+{
+    constexpr std::uint32_t kIconicState = 3; // Inter-Client Communication Conventions Manual 4.1.3.1
+    const auto state = m_x11.property(window, m_managedAtom);
+    return !state.empty() && state.front() == kIconicState;
+}
+
+/// Window managers minimise a window with what is transient for it, in either order.
+void X11WindowSystem::examineUnmapped(xcb_window_t window)
+{
+    if (m_lastFullScreenWindow == XCB_WINDOW_NONE)
+        return;
+    // By then both are, and nobody can have minimised the one and then the other.
+    constexpr Seconds kMoment {0.1};
+    m_mainQueue.after(kMoment, m_weakTarget.guard([this, window, below = m_lastFullScreenWindow] {
+        if (m_windows.contains(window) && isMinimised(window) && isMinimised(below))
+            minimisedWithFullScreen.notify(window);
+    }));
 }
 
 void X11WindowSystem::lift(xcb_window_t window) const

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "foundation/WeakTarget.h"
+#include "platform/MainQueue.h"
 #include "platform/WindowSystem.h"
 #include "platform/linux/X11Connection.h"
 
@@ -15,7 +17,7 @@ namespace cuebright {
 /// above are transient for it, which lifts them over it and leaves the keyboard alone.
 class X11WindowSystem final : public WindowSystem, public QAbstractNativeEventFilter {
 public:
-    explicit X11WindowSystem(const X11Connection& x11);
+    X11WindowSystem(const X11Connection& x11, MainQueue& mainQueue);
     ~X11WindowSystem() override;
 
     void keepAboveFullScreen(WindowId window) override;
@@ -28,16 +30,24 @@ private:
     [[nodiscard]] xcb_window_t activeWindow() const;
     [[nodiscard]] bool isFullScreen(xcb_window_t window) const;
     void followActiveWindow();
+    void watch(xcb_window_t window);
+    [[nodiscard]] bool isMinimised(xcb_window_t window) const;
+    void examineUnmapped(xcb_window_t window);
     void lift(xcb_window_t window) const;
 
     const X11Connection& m_x11;
+    MainQueue& m_mainQueue;
     const xcb_atom_t m_activeWindowAtom;
     const xcb_atom_t m_stateAtom;
     const xcb_atom_t m_fullScreenAtom;
     const xcb_atom_t m_blurAtom;
+    const xcb_atom_t m_managedAtom;
     std::set<xcb_window_t> m_windows; ///< that are kept above
     xcb_window_t m_watched = XCB_WINDOW_NONE; ///< the active one, unless it is ours
+    std::uint32_t m_eventsBefore = 0; ///< of the watched one
     xcb_window_t m_fullScreenWindow = XCB_WINDOW_NONE; ///< the same while it is full-screen
+    xcb_window_t m_lastFullScreenWindow = XCB_WINDOW_NONE; ///< which may be so no longer
+    WeakTarget m_weakTarget;
 };
 
 } // namespace cuebright

@@ -35,7 +35,7 @@ void QtAppearance::choose(Choice choice)
     update();
 }
 
-void QtAppearance::setSystemIsDark(bool isDark)
+void QtAppearance::setSystemIsDark(std::optional<bool> isDark)
 {
     m_reportedDark = isDark;
     update();

@@ -21,8 +21,8 @@ public:
     void choose(Choice choice) override;
     bool isDark() override { return m_isDark; }
 
-    /// From now on this counts, and the desktop's palette no more.
-    void setSystemIsDark(bool isDark);
+    /// From now on this counts and not the desktop's palette; nothing: the palette again.
+    void setSystemIsDark(std::optional<bool> isDark);
 
     /// Whether a palette writes light on dark.
     [[nodiscard]] static bool looksDark(const QPalette& palette);
