@@ -11,17 +11,21 @@ namespace cuebright {
 enum class Icon {
     Blockquote,
     Bold,
+    Brush,
     BulletList,
     Cards,
     Code,
+    Gear,
     Heading,
     HiddenEye,
+    InfoCircle,
     Italic,
     Keyboard,
     Link,
     NumberedList,
     Pause,
     Play,
+    Warning,
     Write,
 };
 

@@ -1,0 +1,105 @@
+#include "app/SettingSlider.h"
+
+#include "panel/PanelFixture.h"
+
+#include <QSlider>
+#include <QTest>
+
+namespace cuebright::test {
+
+namespace {
+
+constexpr SliderScale kTens {80, 250, 10, 50};
+constexpr SliderScale kHundredths {40, 100, 1, 10, 100};
+
+} // namespace
+
+TEST(SliderScale, AnyValueHasANearestPosition)
+{
+    struct Case {
+        SliderScale scale;
+        double value;
+        int position;
+    };
+    const Case cases[] = {
+        {kTens, 130, 130},
+        {kTens, 134, 130},
+        {kTens, 135, 140},
+        {kTens, 249, 250},
+        {kTens, 1, 80},
+        {kTens, 9e18, 250},
+        {kHundredths, 0.7000000000000001, 70},
+        {kHundredths, 0.7999999999999999, 80},
+        {kHundredths, 0.05, 40},
+        {kHundredths, 1e300, 100},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(c.scale.nearest(c.value), c.position) << c.value;
+}
+
+class SettingSliderTest : public PanelFixture {
+protected:
+    double value = 0;
+    std::vector<double> writes;
+    std::unique_ptr<SettingSlider> row;
+    QSlider* slider = nullptr;
+
+    void open(double stored)
+    {
+        value = stored;
+        writes.clear();
+        row = std::make_unique<SettingSlider>(context,
+            SettingSlider::Setting {QStringLiteral("Pace"), kTens, [](double v) { return QString::number(v); },
+                [this] { return value; }, [this](double v) { writes.push_back(value = v); }},
+            nullptr);
+        slider = row->findChild<QSlider*>();
+    }
+};
+
+TEST_F(SettingSliderTest, KeysMoveItInStepsPagesAndToTheEnds)
+{
+    const struct {
+        Qt::Key key;
+        double expected;
+    } cases[] = {{Qt::Key_Right, 140}, {Qt::Key_Left, 120}, {Qt::Key_Up, 140}, {Qt::Key_Down, 120},
+        {Qt::Key_PageUp, 180}, {Qt::Key_PageDown, 80}, {Qt::Key_Home, 80}, {Qt::Key_End, 250}};
+    for (const auto& c : cases) {
+        open(130);
+        QTest::keyClick(slider, c.key);
+        EXPECT_EQ(writes, std::vector {c.expected}) << c.key;
+    }
+}
+
+TEST_F(SettingSliderTest, AValueOffTheScaleIsWrittenOnlyWhenTheUserMovesTheSlider)
+{
+    open(9999);
+    EXPECT_EQ(slider->value(), 250);
+    value = 133;
+    row->refresh();
+    EXPECT_EQ(slider->value(), 130);
+    EXPECT_TRUE(writes.empty());
+    QTest::keyClick(slider, Qt::Key_Right);
+    EXPECT_EQ(writes, std::vector {140.0});
+
+    open(9999); // the slider stands at its end already
+    QTest::keyClick(slider, Qt::Key_End);
+    QTest::keyClick(slider, Qt::Key_End);
+    EXPECT_EQ(writes, std::vector {250.0});
+}
+
+TEST_F(SettingSliderTest, TheMouseAndTheScreenReaderLandOnSteps)
+{
+    open(130);
+    slider->setSliderPosition(147); // as dragging does
+    EXPECT_EQ(slider->value(), 150);
+    EXPECT_EQ(writes, std::vector {150.0});
+
+    const auto interface = QAccessible::queryAccessibleInterface(slider);
+    EXPECT_EQ(interface->text(QAccessible::Name), QStringLiteral("Pace"));
+    interface->valueInterface()->setCurrentValue(92);
+    EXPECT_EQ(slider->value(), 90);
+    EXPECT_EQ(writes, (std::vector {150.0, 90.0}));
+    EXPECT_EQ(interface->text(QAccessible::Description), QStringLiteral("90"));
+}
+
+} // namespace cuebright::test
