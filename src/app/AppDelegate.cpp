@@ -5,8 +5,10 @@
 #include "panel/MarkdownEditor.h"
 #include "panel/NotesPanel.h"
 #include "panel/PanelController.h"
+#include "platform/RemoteRequest.h"
+#include "platform/qt/WindowActivation.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -30,6 +32,37 @@ void AppDelegate::applicationDidFinishLaunching()
 }
 
 QWidget* AppDelegate::panelWindow() const { return m_panelController ? &m_panelController->panelWindow() : nullptr; }
+
+bool AppDelegate::applicationShouldHandleReopen()
+{
+    m_panelController->showPanel();
+    return true;
+}
+
+void AppDelegate::perform(const RemoteRequest& request)
+{
+    const auto question = QApplication::activeModalWidget();
+    switch (request.action) {
+    case RemoteRequest::Action::Activate:
+        applicationShouldHandleReopen();
+        return activateForUser(question ? *question : *panelWindow(), request.token);
+    case RemoteRequest::Action::ShowPanel:
+        m_panelController->showPanel();
+        break;
+    case RemoteRequest::Action::TogglePanel:
+        m_notifications.post(kTogglePanelNotification);
+        break;
+    case RemoteRequest::Action::NextCard:
+        if (!question)
+            m_store.nextCard();
+        break;
+    case RemoteRequest::Action::PreviousCard:
+        if (!question)
+            m_store.prevCard();
+        break;
+    }
+    endLaunch(*panelWindow(), request.token);
+}
 
 void AppDelegate::applicationWillTerminate()
 {

@@ -12,6 +12,7 @@ class QWidget;
 namespace cuebright {
 
 class PanelController;
+struct RemoteRequest;
 
 /// Owns the store and the panel, starts them in order and ends them safely. Lives as long as the application.
 class AppDelegate final {
@@ -22,6 +23,10 @@ public:
     ~AppDelegate();
 
     void applicationDidFinishLaunching();
+    /// The user opens the application again: shows the panel, and says that this was done.
+    bool applicationShouldHandleReopen();
+    /// Call when launching has finished. While a question is open, no request changes the card.
+    void perform(const RemoteRequest& request);
     /// Null before launching has finished.
     [[nodiscard]] QWidget* panelWindow() const;
     /// Keeps an open edit and writes everything to disk.

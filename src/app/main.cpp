@@ -1,5 +1,6 @@
 #include "app/AppDelegate.h"
 #include "app/FirstFrame.h"
+#include "platform/qt/OneInstance.h"
 #include "platform/qt/ProcessSetup.h"
 #include "platform/qt/QtPlatform.h"
 
@@ -9,6 +10,9 @@ using namespace cuebright;
 
 int main(int, char* argv[])
 {
+    OneInstance instance;
+    if (const auto status = instance.exitStatus())
+        return *status;
     ProcessSetup process;
 
     // Only the name: there are no command-line options, so Qt gets none either.
@@ -23,6 +27,7 @@ int main(int, char* argv[])
     QtPlatform platform;
     AppDelegate delegate(platform.services(), platform.desktop());
     delegate.applicationDidFinishLaunching();
+    instance.deliver([&](const RemoteRequest& request) { delegate.perform(request); });
     const FirstFrame firstFrame(*delegate.panelWindow(), [&] { platform.start(); });
 
     const auto onRequest = process.terminationRequested.subscribe([&] { delegate.quit(); });
