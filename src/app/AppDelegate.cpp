@@ -1,16 +1,21 @@
 #include "app/AppDelegate.h"
 
+#include "app/AboutWindow.h"
+#include "app/ApplicationIcon.h"
+#include "app/EditCommands.h"
+#include "app/ExportCommand.h"
+#include "app/MainMenu.h"
+#include "app/MenuBarStrip.h"
 #include "app/OnboardingOverlay.h"
+#include "app/SettingsWindow.h"
+#include "app/StatusItem.h"
 #include "panel/CardContentView.h"
 #include "panel/MarkdownEditor.h"
 #include "panel/NotesPanel.h"
 #include "panel/PanelController.h"
-#include "platform/RemoteRequest.h"
-#include "platform/qt/WindowActivation.h"
 
 #include <QApplication>
 #include <QMessageBox>
-#include <QPushButton>
 
 namespace cuebright {
 
@@ -25,13 +30,28 @@ AppDelegate::~AppDelegate() = default;
 void AppDelegate::applicationDidFinishLaunching()
 {
     m_panelController = std::make_unique<PanelController>(m_context);
-    addCommandActions(m_panelController->panelWindow(), [this](Command command) { perform(command); });
+    auto& panel = m_panelController->panelWindow();
+    m_editCommands = std::make_unique<EditCommands>(panel.undoManager());
+    m_mainMenu = std::make_unique<MainMenu>(
+        m_context, *m_editCommands, *panel.undoManager(), [this](Command command) { perform(command); });
+    m_mainMenu->addActionsTo(panel);
+    m_exportCommand = std::make_unique<ExportCommand>(m_context);
     showOnboarding();
     m_panelController->showPanel();
     m_deleteSubscription = m_notifications.observe(kDeleteCardNotification, [this] { askToDeleteCard(); });
 }
 
-QWidget* AppDelegate::panelWindow() const { return m_panelController ? &m_panelController->panelWindow() : nullptr; }
+void AppDelegate::firstFrameIsThere()
+{
+    m_mainMenu->addMenusTo(*new MenuBarStrip(m_context, &m_panelController->panelWindow()));
+    QApplication::setWindowIcon(applicationIcon());
+    setupStatusItem();
+}
+
+void AppDelegate::setupStatusItem()
+{
+    m_statusItem = std::make_unique<StatusItem>(m_context, *m_panelController, [this] { quit(); });
+}
 
 bool AppDelegate::applicationShouldHandleReopen()
 {
@@ -39,30 +59,7 @@ bool AppDelegate::applicationShouldHandleReopen()
     return true;
 }
 
-void AppDelegate::perform(const RemoteRequest& request)
-{
-    const auto question = QApplication::activeModalWidget();
-    switch (request.action) {
-    case RemoteRequest::Action::Activate:
-        applicationShouldHandleReopen();
-        return activateForUser(question ? *question : *panelWindow(), request.token);
-    case RemoteRequest::Action::ShowPanel:
-        m_panelController->showPanel();
-        break;
-    case RemoteRequest::Action::TogglePanel:
-        m_notifications.post(kTogglePanelNotification);
-        break;
-    case RemoteRequest::Action::NextCard:
-        if (!question)
-            m_store.nextCard();
-        break;
-    case RemoteRequest::Action::PreviousCard:
-        if (!question)
-            m_store.prevCard();
-        break;
-    }
-    endLaunch(*panelWindow(), request.token);
-}
+QWidget* AppDelegate::panelWindow() const { return m_panelController ? &m_panelController->panelWindow() : nullptr; }
 
 void AppDelegate::applicationWillTerminate()
 {
@@ -71,19 +68,11 @@ void AppDelegate::applicationWillTerminate()
     m_store.flushToDisk();
 }
 
-/// Asks about the card on show; deletes the one that is active when "Delete" is pressed.
-void AppDelegate::askToDeleteCard()
+void AppDelegate::quit()
 {
-    const auto sheet = new QMessageBox(QMessageBox::Warning, QString(), QStringLiteral("Delete this card?"),
-        QMessageBox::NoButton, &m_panelController->panelWindow());
-    sheet->setAttribute(Qt::WA_DeleteOnClose);
-    sheet->setWindowModality(Qt::WindowModal);
-    sheet->setInformativeText(QStringLiteral("This card will be permanently removed from the deck."));
-    const auto remove = sheet->addButton(QStringLiteral("Delete"), QMessageBox::AcceptRole);
-    sheet->setDefaultButton(remove);
-    sheet->setEscapeButton(sheet->addButton(QStringLiteral("Cancel"), QMessageBox::RejectRole));
-    QObject::connect(remove, &QAbstractButton::clicked, sheet, [this] { m_store.deleteCard(); });
-    sheet->open();
+    applicationWillTerminate();
+    // Not QApplication::quit(): a window that stays visible after its close event would cancel that.
+    QCoreApplication::exit(0);
 }
 
 void AppDelegate::showOnboarding()
@@ -98,30 +87,6 @@ void AppDelegate::showOnboarding()
         content.setFocus();
         m_panelController->setContentCovered(false);
     };
-}
-
-void AppDelegate::quit()
-{
-    applicationWillTerminate();
-    // Not QApplication::quit(): a window that stays visible after its close event would cancel that.
-    QCoreApplication::exit(0);
-}
-
-void AppDelegate::perform(Command command)
-{
-    MarkdownEditor::commitComposition(); // the command may end the edit
-    switch (command) {
-    case Command::NewCard:
-        return m_store.addCard();
-    case Command::NewDeck:
-        return m_store.createNewDeck("New Deck");
-    case Command::MoveCardUp:
-        return m_store.moveCardUp();
-    case Command::MoveCardDown:
-        return m_store.moveCardDown();
-    case Command::Quit:
-        return quit();
-    }
 }
 
 } // namespace cuebright

@@ -1,20 +1,30 @@
 #pragma once
 
-#include "app/MainMenu.h"
+#include "app/Command.h"
 #include "foundation/NotificationCenter.h"
 #include "panel/PanelContext.h"
 #include "store/CardStore.h"
 
+#include <QPointer>
+
 #include <memory>
 
+class QMessageBox;
 class QWidget;
 
 namespace cuebright {
 
+class AboutWindow;
+class EditCommands;
+class ExportCommand;
+class MainMenu;
 class PanelController;
+class SettingsWindow;
+class StatusItem;
 struct RemoteRequest;
 
-/// Owns the store and the panel, starts them in order and ends them safely. Lives as long as the application.
+/// Owns the store and everything that is shown, starts it in order, carries out the commands and ends it all safely.
+/// Lives as long as the application.
 class AppDelegate final {
 public:
     AppDelegate(const Platform& platform, const Desktop& desktop);
@@ -23,26 +33,48 @@ public:
     ~AppDelegate();
 
     void applicationDidFinishLaunching();
+    /// The rest of launching, which the panel does not need in order to be seen.
+    void firstFrameIsThere();
     /// The user opens the application again: shows the panel, and says that this was done.
     bool applicationShouldHandleReopen();
-    /// Call when launching has finished. While a question is open, no request changes the card.
-    void perform(const RemoteRequest& request);
-    /// Null before launching has finished.
-    [[nodiscard]] QWidget* panelWindow() const;
     /// Keeps an open edit and writes everything to disk.
     void applicationWillTerminate();
     /// Saves and leaves the event loop with status 0, whatever windows are open.
     void quit();
 
+    /// Null before launching has finished.
+    [[nodiscard]] QWidget* panelWindow() const;
+
+    // Commands (AppDelegateCommands.cpp)
+    void perform(Command command);
+    /// Call when launching has finished. While a question is open, no request changes the card.
+    void perform(const RemoteRequest& request);
+
 private:
     void showOnboarding();
+    void setupStatusItem();
+
+    void activatePanel();
     void askToDeleteCard();
-    void perform(Command command);
+    void renameDeck();
+    void showAbout();
+    void openSettings();
+    void openSupport();
+    void emailSupport();
+    void checkForUpdates();
+    void resetAllData();
 
     CardStore m_store;
     NotificationCenter m_notifications;
     PanelContext m_context;
     std::unique_ptr<PanelController> m_panelController;
+    std::unique_ptr<EditCommands> m_editCommands;
+    std::unique_ptr<MainMenu> m_mainMenu;
+    std::unique_ptr<ExportCommand> m_exportCommand;
+    std::unique_ptr<SettingsWindow> m_settingsWindow; ///< made when first opened
+    std::unique_ptr<AboutWindow> m_aboutWindow; ///< made when first opened
+    std::unique_ptr<StatusItem> m_statusItem;
+    QPointer<QMessageBox> m_deleteSheet;
     Subscription m_deleteSubscription;
 };
 

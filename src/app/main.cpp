@@ -28,7 +28,10 @@ int main(int, char* argv[])
     AppDelegate delegate(platform.services(), platform.desktop());
     delegate.applicationDidFinishLaunching();
     instance.deliver([&](const RemoteRequest& request) { delegate.perform(request); });
-    const FirstFrame firstFrame(*delegate.panelWindow(), [&] { platform.start(); });
+    const FirstFrame firstFrame(*delegate.panelWindow(), [&] {
+        platform.start();
+        delegate.firstFrameIsThere();
+    });
 
     const auto onRequest = process.terminationRequested.subscribe([&] { delegate.quit(); });
     // The session ends: the desktop may kill the program as soon as this returns.

@@ -1,0 +1,178 @@
+#include "app/AppDelegate.h"
+
+#include "app/AboutWindow.h"
+#include "app/EditCommands.h"
+#include "app/ExportCommand.h"
+#include "app/MainMenu.h"
+#include "app/Product.h"
+#include "app/SettingsWindow.h"
+#include "panel/LinkOpener.h"
+#include "panel/NotesPanel.h"
+#include "panel/PanelController.h"
+#include "platform/RemoteRequest.h"
+#include "platform/qt/WindowActivation.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace cuebright {
+
+void AppDelegate::perform(Command command)
+{
+    switch (command) {
+    case Command::ShowAbout:
+        return showAbout();
+    case Command::OpenSettings:
+        return openSettings();
+    case Command::CheckForUpdates:
+        return checkForUpdates();
+    case Command::Quit:
+        return quit();
+    case Command::NewCard:
+        return m_store.addCard();
+    case Command::DeleteCard:
+        return askToDeleteCard();
+    case Command::NewDeck:
+        return m_store.createNewDeck("New Deck");
+    case Command::DeleteDeck:
+        return m_store.deleteActiveDeck();
+    case Command::RenameDeck:
+        return renameDeck();
+    case Command::ExportDeck:
+        return m_exportCommand->exportDeck();
+    case Command::SaveCard:
+        return m_store.saveEdit();
+    case Command::CancelEdit:
+        return m_store.cancelEdit();
+    case Command::SetThemeSystem:
+        return m_store.setTheme("system");
+    case Command::SetThemeLight:
+        return m_store.setTheme("light");
+    case Command::SetThemeDark:
+        return m_store.setTheme("dark");
+    case Command::IncreaseTextSize:
+        return m_store.increaseFontSize();
+    case Command::DecreaseTextSize:
+        return m_store.decreaseFontSize();
+    case Command::ResetTextSize:
+        return m_store.resetFontSize();
+    case Command::IncreaseOpacity:
+        return m_store.increaseOpacity();
+    case Command::DecreaseOpacity:
+        return m_store.decreaseOpacity();
+    case Command::ShowPanel:
+        return activatePanel();
+    case Command::MoveCardUp:
+        return m_store.moveCardUp();
+    case Command::MoveCardDown:
+        return m_store.moveCardDown();
+    case Command::Minimize:
+        if (const auto window = QApplication::activeWindow())
+            window->showMinimized();
+        return;
+    case Command::OpenSupport:
+        return openSupport();
+    case Command::EmailSupport:
+        return emailSupport();
+    case Command::Undo:
+    case Command::Redo:
+    case Command::Cut:
+    case Command::Copy:
+    case Command::Paste:
+    case Command::SelectAll:
+        m_editCommands->perform(command);
+        return;
+    }
+}
+
+void AppDelegate::perform(const RemoteRequest& request)
+{
+    const auto question = QApplication::activeModalWidget();
+    switch (request.action) {
+    case RemoteRequest::Action::Activate:
+        applicationShouldHandleReopen();
+        return activateForUser(question ? *question : *panelWindow(), request.token);
+    case RemoteRequest::Action::ShowPanel:
+        m_panelController->showPanel();
+        break;
+    case RemoteRequest::Action::TogglePanel:
+        m_notifications.post(kTogglePanelNotification);
+        break;
+    case RemoteRequest::Action::NextCard:
+        if (!question)
+            m_store.nextCard();
+        break;
+    case RemoteRequest::Action::PreviousCard:
+        if (!question)
+            m_store.prevCard();
+        break;
+    }
+    endLaunch(*panelWindow(), request.token);
+}
+
+void AppDelegate::activatePanel()
+{
+    m_panelController->showPanel();
+    m_panelController->panelWindow().activate();
+}
+
+/// Asks about the card on show; deletes the one that is active when "Delete" is pressed.
+void AppDelegate::askToDeleteCard()
+{
+    if (!m_panelController)
+        return m_store.deleteCard();
+    if (!m_panelController->isPanelVisible())
+        activatePanel();
+    if (m_deleteSheet)
+        return m_deleteSheet->activateWindow();
+    m_deleteSheet = new QMessageBox(QMessageBox::Warning, QString(), QStringLiteral("Delete this card?"),
+        QMessageBox::NoButton, &m_panelController->panelWindow());
+    m_deleteSheet->setAttribute(Qt::WA_DeleteOnClose);
+    m_deleteSheet->setWindowModality(Qt::WindowModal);
+    m_deleteSheet->setInformativeText(QStringLiteral("This card will be permanently removed from the deck."));
+    const auto remove = m_deleteSheet->addButton(QStringLiteral("Delete"), QMessageBox::AcceptRole);
+    m_deleteSheet->setDefaultButton(remove);
+    m_deleteSheet->setEscapeButton(m_deleteSheet->addButton(QStringLiteral("Cancel"), QMessageBox::RejectRole));
+    QObject::connect(remove, &QAbstractButton::clicked, m_deleteSheet, [this] { m_store.deleteCard(); });
+    m_deleteSheet->open();
+}
+
+void AppDelegate::renameDeck()
+{
+    if (!m_panelController->isPanelVisible())
+        activatePanel();
+    m_notifications.post(kRenameDeckNotification);
+}
+
+void AppDelegate::showAbout()
+{
+    if (!m_aboutWindow)
+        m_aboutWindow = std::make_unique<AboutWindow>(m_context);
+    m_aboutWindow->showBeside(*panelWindow());
+}
+
+void AppDelegate::openSettings()
+{
+    if (!m_settingsWindow) {
+        m_settingsWindow = std::make_unique<SettingsWindow>(m_context, [this] { resetAllData(); });
+        m_mainMenu->addMenusTo(m_settingsWindow->addMenuBar());
+        m_mainMenu->addActionsTo(*m_settingsWindow);
+    }
+    m_settingsWindow->showBeside(*panelWindow());
+}
+
+void AppDelegate::openSupport() { openLink(product::kSupportPage); }
+
+void AppDelegate::emailSupport() { openLink(product::supportMailLink().toStdString()); }
+
+/// Updates come from whoever installed the program; this only shows what there is.
+void AppDelegate::checkForUpdates() { openLink(product::kReleasesPage); }
+
+void AppDelegate::resetAllData()
+{
+    m_panelController->forgetFrame();
+    m_store.resetAllData();
+}
+
+} // namespace cuebright

@@ -1,0 +1,71 @@
+#include "app/Command.h"
+
+#include "store/CardStore.h"
+
+namespace cuebright {
+
+namespace {
+
+/// Null where the command chooses none.
+const char* themeOf(Command command)
+{
+    switch (command) {
+    case Command::SetThemeSystem:
+        return "system";
+    case Command::SetThemeLight:
+        return "light";
+    case Command::SetThemeDark:
+        return "dark";
+    default:
+        return nullptr;
+    }
+}
+
+} // namespace
+
+bool isCommandEnabled(Command command, const CardStore& store)
+{
+    switch (command) {
+    case Command::SaveCard:
+    case Command::CancelEdit:
+        return store.isEditing();
+    case Command::DeleteCard:
+        return store.activeCard() && store.cardCount() > 1;
+    case Command::DeleteDeck:
+        return store.deckCount() > 1;
+    case Command::MoveCardUp:
+        return store.activeCard() && !store.isEditing() && store.canGoPrev();
+    case Command::MoveCardDown:
+        return store.activeCard() && !store.isEditing() && store.canGoNext();
+    default:
+        return true;
+    }
+}
+
+bool isCommandCheckable(Command command) { return themeOf(command); }
+
+bool isCommandChecked(Command command, const CardStore& store)
+{
+    const auto* const theme = themeOf(command);
+    return theme && store.theme() == theme;
+}
+
+bool isCommandRepeatable(Command command)
+{
+    switch (command) {
+    case Command::Undo:
+    case Command::Redo:
+    case Command::Paste:
+    case Command::IncreaseTextSize:
+    case Command::DecreaseTextSize:
+    case Command::IncreaseOpacity:
+    case Command::DecreaseOpacity:
+    case Command::MoveCardUp:
+    case Command::MoveCardDown:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace cuebright

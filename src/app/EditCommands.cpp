@@ -1,0 +1,106 @@
+#include "app/EditCommands.h"
+
+#include "store/UndoManager.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QMetaObject>
+#include <QPlainTextEdit>
+#include <QTextDocument>
+#include <QTextEdit>
+
+#include <utility>
+
+namespace cuebright {
+
+namespace {
+
+/// The slot that every kind of text has for the command; null for other commands.
+const char* textSlot(Command command)
+{
+    switch (command) {
+    case Command::Undo:
+        return "undo";
+    case Command::Redo:
+        return "redo";
+    case Command::Cut:
+        return "cut";
+    case Command::Copy:
+        return "copy";
+    case Command::Paste:
+        return "paste";
+    case Command::SelectAll:
+        return "selectAll";
+    default:
+        return nullptr;
+    }
+}
+
+bool isText(const QWidget* widget)
+{
+    return qobject_cast<const QLineEdit*>(widget) || qobject_cast<const QPlainTextEdit*>(widget)
+        || qobject_cast<const QTextEdit*>(widget);
+}
+
+bool isAvailable(const QWidget* text, bool isUndo)
+{
+    if (const auto line = qobject_cast<const QLineEdit*>(text))
+        return isUndo ? line->isUndoAvailable() : line->isRedoAvailable();
+    const auto plain = qobject_cast<const QPlainTextEdit*>(text);
+    const auto document = plain ? plain->document() : static_cast<const QTextEdit*>(text)->document();
+    return isUndo ? document->isUndoAvailable() : document->isRedoAvailable();
+}
+
+} // namespace
+
+EditCommands::EditCommands(std::shared_ptr<UndoManager> undoManager)
+    : m_undoManager(std::move(undoManager))
+{
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget* old, QWidget* now) {
+        if (qobject_cast<QMenuBar*>(now))
+            m_focusBeforeMenus = old;
+        if (targetChanged)
+            targetChanged();
+    });
+}
+
+QWidget* EditCommands::focusedText() const
+{
+    auto* focused = QApplication::focusWidget();
+    if (qobject_cast<QMenuBar*>(focused))
+        focused = m_focusBeforeMenus;
+    return isText(focused) ? focused : nullptr;
+}
+
+bool EditCommands::perform(Command command)
+{
+    const auto* const slot = textSlot(command);
+    if (!slot)
+        return false;
+    if (const auto text = focusedText())
+        QMetaObject::invokeMethod(text, slot);
+    else if (command == Command::Undo)
+        m_undoManager->undo();
+    else if (command == Command::Redo)
+        m_undoManager->redo();
+    return true;
+}
+
+std::string EditCommands::title(Command undoOrRedo) const
+{
+    const bool isUndo = undoOrRedo == Command::Undo;
+    const std::string verb = isUndo ? "Undo" : "Redo";
+    const auto name = isUndo ? m_undoManager->undoActionName() : m_undoManager->redoActionName();
+    return focusedText() || name.empty() ? verb : verb + ' ' + name;
+}
+
+bool EditCommands::isEnabled(Command undoOrRedo) const
+{
+    const bool isUndo = undoOrRedo == Command::Undo;
+    if (const auto text = focusedText())
+        return isAvailable(text, isUndo);
+    return isUndo ? m_undoManager->canUndo() : m_undoManager->canRedo();
+}
+
+} // namespace cuebright

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "app/Command.h"
+
+#include <QObject>
+#include <QPointer>
+
+#include <functional>
+#include <memory>
+#include <string>
+
+class QWidget;
+
+namespace cuebright {
+
+class UndoManager;
+
+/// Undo, Redo, Cut, Copy, Paste and Select All. They act on the text that has the keyboard; while none has, Undo and
+/// Redo act on the store's stack and the others do nothing.
+///
+/// The two stacks never mix: with nothing left to undo in a text, Undo does nothing.
+class EditCommands final : public QObject {
+public:
+    explicit EditCommands(std::shared_ptr<UndoManager> undoManager);
+
+    /// False where the command is not one of the six.
+    bool perform(Command command);
+
+    /// "Undo Add Card"; plain "Undo" while a text has the keyboard. UTF-8 as it shows.
+    [[nodiscard]] std::string title(Command undoOrRedo) const;
+    [[nodiscard]] bool isEnabled(Command undoOrRedo) const;
+
+    /// Called when the keyboard has gone to another widget.
+    std::function<void()> targetChanged;
+
+private:
+    [[nodiscard]] QWidget* focusedText() const;
+
+    std::shared_ptr<UndoManager> m_undoManager;
+    QPointer<QWidget> m_focusBeforeMenus; ///< had the keyboard before a menu bar took it
+};
+
+} // namespace cuebright

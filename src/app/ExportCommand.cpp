@@ -1,0 +1,81 @@
+#include "app/ExportCommand.h"
+
+#include "app/ExportDialog.h"
+#include "app/SafeFileName.h"
+#include "panel/TextConversion.h"
+#include "platform/FileSystem.h"
+#include "store/CardStore.h"
+
+#include <QApplication>
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace cuebright {
+
+namespace {
+
+/// A window that a sheet can belong to: no menu, no tooltip, no icon in a tray.
+bool canHaveSheets(const QWidget* window)
+{
+    const auto type = window->windowType();
+    return window->isVisible() && (type == Qt::Window || type == Qt::Dialog)
+        && !window->windowFlags().testFlag(Qt::BypassWindowManagerHint);
+}
+
+QWidget* windowForSheet()
+{
+    if (const auto active = QApplication::activeWindow(); active && canHaveSheets(active))
+        return active;
+    const auto windows = QApplication::topLevelWidgets();
+    const auto found = std::find_if(windows.begin(), windows.end(), canHaveSheets);
+    return found == windows.end() ? nullptr : *found;
+}
+
+void bringToFront(QWidget& window)
+{
+    window.raise();
+    window.activateWindow();
+}
+
+} // namespace
+
+ExportCommand::ExportCommand(const PanelContext& context)
+    : m_context(context)
+{
+}
+
+ExportCommand::~ExportCommand() { delete m_dialog; }
+
+void ExportCommand::exportDeck()
+{
+    if (m_dialog)
+        return bringToFront(*m_dialog);
+    const auto parent = windowForSheet();
+    if (parent && !parent->isActiveWindow())
+        bringToFront(*parent);
+    ask(parent);
+    auto text = m_context.store.exportDeckAsMarkdown();
+    QObject::connect(m_dialog, &QFileDialog::fileSelected, m_dialog,
+        [this, text = std::move(text)](const QString& file) { write(file, text); });
+}
+
+void ExportCommand::ask(QWidget* parent)
+{
+    m_dialog = new ExportDialog(toQString(safeFileName(m_context.store.deckName()) + ".md"), parent);
+    m_dialog->setAttribute(Qt::WA_DeleteOnClose);
+    m_dialog->setWindowModality(parent ? Qt::WindowModal : Qt::ApplicationModal);
+    m_dialog->show();
+}
+
+void ExportCommand::write(const QString& file, const std::string& text)
+{
+    if (file.isEmpty())
+        return;
+    const QFileInfo target(file);
+    if (m_context.platform.fileSystem.writeFileAtomically(target.filesystemFilePath(), text))
+        return m_context.store.showFeedback("Export failed — check file permissions");
+    m_context.store.showFeedback("Exported to " + toUtf8(target.fileName()));
+}
+
+} // namespace cuebright

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "panel/PanelContext.h"
+
+#include <QFileDialog>
+#include <QPointer>
+
+#include <string>
+
+namespace cuebright {
+
+/// Writes the active deck into a Markdown file of the user's choice.
+class ExportCommand final {
+public:
+    explicit ExportCommand(const PanelContext& context);
+    ~ExportCommand();
+    ExportCommand(const ExportCommand&) = delete;
+    ExportCommand& operator=(const ExportCommand&) = delete;
+
+    /// Takes the deck's text as it is now and asks for the file, on a sheet of the active window, else of the first one
+    /// on the screen. A question that is open already comes to the front.
+    void exportDeck();
+
+    /// Null while none is open.
+    [[nodiscard]] QFileDialog* dialog() const { return m_dialog; }
+
+private:
+    void ask(QWidget* parent);
+    void write(const QString& file, const std::string& text);
+
+    const PanelContext& m_context;
+    QPointer<QFileDialog> m_dialog;
+};
+
+} // namespace cuebright

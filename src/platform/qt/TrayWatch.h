@@ -1,0 +1,18 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+namespace cuebright {
+
+/// Waits for a place where status items can be.
+class TrayWatch {
+public:
+    virtual ~TrayWatch() = default;
+};
+
+/// Looks at once, without waiting for another process. `arrived` runs once, from the event loop, as soon as there is a
+/// place, which may be never; not any more when the watch is gone, and it may let the watch go itself.
+[[nodiscard]] std::unique_ptr<TrayWatch> watchForTray(std::function<void()> arrived);
+
+} // namespace cuebright

@@ -1,0 +1,157 @@
+#include "app/ExportCommand.h"
+
+#include "app/SafeFileName.h"
+#include "panel/PanelFixture.h"
+#include "platform/qt/QtFileSystem.h"
+#include "support/EventLoop.h"
+
+#include <QAbstractButton>
+#include <QFile>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QTemporaryDir>
+
+namespace cuebright::test {
+
+TEST(SafeFileName, IsWhatFileSystemsTake)
+{
+    const std::string longName(300, 'x');
+    std::string longEmoji;
+    for (int i = 0; i < 100; ++i)
+        longEmoji += "👩‍🚀"; // 11 bytes each
+    const struct {
+        const char* name;
+        std::string deckName;
+        std::string expected;
+    } tests[] = {
+        {"a plain name", "Talk", "Talk"},
+        {"blanks inside and Unicode", "Q3 — Überblick: ja?", "Q3 — Überblick: ja?"},
+        {"slashes", "Q3/Q4\\Q5", "Q3-Q4-Q5"},
+        {"a path", "../../etc/passwd", "-..-etc-passwd"},
+        {"line breaks and controls",
+            "a\nb\tc\x01"
+            "d\x7f",
+            "a b c d"},
+        {"a hidden file", ".profile", "profile"},
+        {"nothing but dots", " .. ", "Untitled"},
+        {"nothing", "", "Untitled"},
+        {"too long", longName, std::string(200, 'x')},
+        {"too long, cut between characters", longEmoji, longEmoji.substr(0, 18 * 11)},
+    };
+    for (const auto& test : tests)
+        EXPECT_EQ(safeFileName(test.deckName), test.expected) << test.name;
+}
+
+class ExportCommandTest : public PanelFixture {
+protected:
+    QTemporaryDir folder;
+    QtFileSystem disk;
+    Platform surroundings {
+        fake.clock, fake.uuids, fake.mainQueue, disk, fake.preferences, fake.accessibility, fake.appearance, fake.log};
+    PanelContext onDisk {store, notifications, surroundings, fake.desktop()};
+    ExportCommand command {onDisk};
+
+    void SetUp() override { setCards({"A", "B"}); }
+    QString path(const char* name) const { return folder.filePath(QString::fromUtf8(name)); }
+    QByteArray content(const char* name) const
+    {
+        QFile file(path(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : "no file";
+    }
+    void answer(const QString& file)
+    {
+        command.exportDeck();
+        command.dialog()->fileSelected(file);
+        command.dialog()->reject();
+        processEvents();
+        EXPECT_FALSE(command.dialog());
+    }
+    void type(const char* name)
+    {
+        command.dialog()->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(path(name));
+    }
+    template <typename Dialog> void pressIn(const char* text)
+    {
+        for (const auto button : command.dialog()->findChildren<QAbstractButton*>()) {
+            if (button->text() == QLatin1String(text) && qobject_cast<Dialog*>(button->window()))
+                return button->click();
+        }
+        ADD_FAILURE() << "no button " << text;
+    }
+    std::string feedback() const { return store.feedbackMessage().value_or("none"); }
+};
+
+TEST_F(ExportCommandTest, ProposesTheDecksNameInADialogThatOnlyOurWindowsShow)
+{
+    command.exportDeck();
+    const auto dialog = command.dialog();
+    EXPECT_EQ(dialog->windowTitle(), QStringLiteral("Export Deck"));
+    EXPECT_EQ(dialog->labelText(QFileDialog::Accept), QStringLiteral("Export"));
+    EXPECT_EQ(dialog->selectedFiles().constFirst().section(QLatin1Char('/'), -1), QStringLiteral("Talk.md"));
+    EXPECT_TRUE(dialog->isModal());
+    EXPECT_TRUE(dialog->testOption(QFileDialog::DontUseNativeDialog));
+    command.exportDeck();
+    EXPECT_EQ(command.dialog(), dialog) << "one question at a time";
+    dialog->reject();
+    processEvents();
+    EXPECT_FALSE(command.dialog());
+    EXPECT_EQ(feedback(), "none");
+}
+
+TEST_F(ExportCommandTest, WritesTheTextAsItWasWhenTheDialogOpenedUnderTheNameThatWasTyped)
+{
+    command.exportDeck();
+    store.deleteCard();
+    type("Q3");
+    pressIn<QFileDialog>("Export");
+    EXPECT_EQ(content("Q3.md"), "A\n\n---\n\nB");
+    EXPECT_EQ(feedback(), "Exported to Q3.md");
+}
+
+TEST_F(ExportCommandTest, AsksBeforeItReplacesAFile)
+{
+    answer(path("old.md"));
+    command.exportDeck();
+    const auto dialog = command.dialog();
+    store.showFeedback("");
+    type("old");
+    pressIn<QFileDialog>("Export");
+    pressIn<QMessageBox>("Cancel");
+    processEvents();
+    EXPECT_EQ(feedback(), "");
+    EXPECT_TRUE(dialog->isVisible());
+    pressIn<QFileDialog>("Export");
+    pressIn<QMessageBox>("Replace");
+    processEvents();
+    EXPECT_EQ(feedback(), "Exported to old.md");
+    EXPECT_FALSE(command.dialog());
+}
+
+TEST_F(ExportCommandTest, SaysHowItEnded)
+{
+    QFile old(path("old.md"));
+    ASSERT_TRUE(old.open(QIODevice::WriteOnly) && old.write("a longer text than the new one") > 0);
+    old.close();
+    ASSERT_TRUE(old.link(path("link.md")));
+    const auto failed = "Export failed — check file permissions";
+    const struct {
+        const char* file;
+        const char* feedback;
+    } tests[] = {
+        {"new.txt", "Exported to new.txt"},
+        {"link.md", "Exported to link.md"},
+        {"no such folder/x.md", failed},
+        {"old.md/x.md", failed},
+        {".", failed},
+    };
+    for (const auto& test : tests) {
+        answer(path(test.file));
+        EXPECT_EQ(feedback(), test.feedback) << test.file;
+    }
+    EXPECT_EQ(content("new.txt"), "A\n\n---\n\nB");
+    EXPECT_EQ(content("old.md"), "A\n\n---\n\nB") << "through the link";
+    EXPECT_TRUE(QFileInfo(path("link.md")).isSymLink());
+}
+
+} // namespace cuebright::test

@@ -1,0 +1,153 @@
+#include "app/MenuFixture.h"
+
+#include <QLineEdit>
+
+namespace cuebright::test {
+
+namespace {
+
+/// What a screen reader reads of an element and all below it, separators left out.
+QString read(QAccessibleInterface* element)
+{
+    QStringList parts;
+    for (int i = 0; i < element->childCount(); ++i) {
+        const auto child = element->child(i);
+        if (child && child->role() != QAccessible::Separator && child->role() != QAccessible::Button)
+            parts << read(child);
+    }
+    const auto name = element->role() == QAccessible::PopupMenu ? QString() : element->text(QAccessible::Name);
+    return parts.isEmpty() ? name : name + QLatin1Char('[') + parts.join(QLatin1Char('|')) + QLatin1Char(']');
+}
+
+} // namespace
+
+class MainMenuTest : public MenuFixture { };
+
+TEST_F(MainMenuTest, AScreenReaderFindsItAllWithoutOpeningIt)
+{
+    const auto text = read(QAccessible::queryAccessibleInterface(&strip)).toStdString();
+    EXPECT_TRUE(text.starts_with("Menu bar[Cuebright[[About Cuebright|Settings…|Check for Updates…|Quit Cuebright]]|"
+                                 "File[[New Card|"))
+        << text;
+    EXPECT_NE(text.find("View[[Appearance[[System|Light|Dark]]|Increase Text Size|"), std::string::npos) << text;
+    EXPECT_TRUE(text.ends_with("Help[[Support & Compatibility|Email Support…]]]")) << text;
+}
+
+TEST_F(MainMenuTest, ItemsFollowTheStoreWithoutBeingOpened)
+{
+    EXPECT_FALSE(mainMenu.action(Command::SaveCard).isEnabled());
+    EXPECT_TRUE(mainMenu.action(Command::MoveCardDown).isEnabled());
+    store.beginEditing();
+    refresh();
+    EXPECT_TRUE(mainMenu.action(Command::SaveCard).isEnabled());
+    EXPECT_FALSE(mainMenu.action(Command::MoveCardDown).isEnabled());
+    store.setTheme("light");
+    refresh();
+    trigger(Command::SetThemeLight); // the toolkit turns its mark round, the store's theme stays
+    EXPECT_TRUE(mainMenu.action(Command::SetThemeLight).isChecked());
+    EXPECT_FALSE(mainMenu.action(Command::SetThemeSystem).isChecked());
+    EXPECT_EQ(performed, std::vector {Command::SetThemeLight});
+}
+
+TEST_F(MainMenuTest, KeysReachTheirCommandsFromEveryWindowThatHasThem)
+{
+    QWidget settings;
+    mainMenu.addActionsTo(settings);
+    key(Qt::Key_Down, Qt::ControlModifier | Qt::ShiftModifier);
+    key(Qt::Key_Down, Qt::ControlModifier | Qt::AltModifier);
+    key(Qt::Key_0, Qt::ControlModifier);
+    controller.hidePanel();
+    giveKeyboardTo(settings);
+    key(Qt::Key_N, Qt::ControlModifier, &settings);
+    key(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier, &settings);
+    EXPECT_EQ(performed,
+        (std::vector {Command::MoveCardDown, Command::MoveCardDown, Command::ResetTextSize, Command::NewCard,
+            Command::ShowPanel}));
+}
+
+TEST_F(MainMenuTest, AHeldKeyMakesOneCard)
+{
+    const auto repeat = [&](Qt::Key key) {
+        QKeyEvent held(QEvent::KeyPress, key, Qt::ControlModifier, QString(), true);
+        QApplication::sendEvent(panel.windowHandle(), &held);
+    };
+    key(Qt::Key_N, Qt::ControlModifier);
+    repeat(Qt::Key_N);
+    EXPECT_EQ(performed, std::vector {Command::NewCard});
+}
+
+TEST_F(MainMenuTest, ControlBackspaceDeletesAWordWhileEditingAndAsksForTheCardOtherwise)
+{
+    key(Qt::Key_Backspace, Qt::ControlModifier);
+    EXPECT_EQ(performed, std::vector {Command::DeleteCard});
+    performed.clear();
+    auto& text = editor();
+    text.setPlainText(QStringLiteral("two words"));
+    text.moveCursor(QTextCursor::End);
+    key(Qt::Key_Backspace, Qt::ControlModifier);
+    EXPECT_EQ(text.toPlainText(), QStringLiteral("two "));
+    EXPECT_TRUE(performed.empty());
+}
+
+TEST_F(MainMenuTest, UndoSaysWhatItUndoesAndPlainUndoWhileATextHasTheKeyboard)
+{
+    const auto titles = [&] {
+        return mainMenu.action(Command::Undo).text() + QLatin1Char('/') + mainMenu.action(Command::Redo).text();
+    };
+    EXPECT_EQ(titles(), QStringLiteral("Undo/Redo"));
+    EXPECT_FALSE(mainMenu.action(Command::Undo).isEnabled());
+    store.createNewDeck("Deck");
+    refresh();
+    EXPECT_EQ(titles(), QStringLiteral("Undo New Deck/Redo"));
+    editor();
+    EXPECT_EQ(titles(), QStringLiteral("Undo/Redo"));
+    store.cancelEdit();
+    refresh();
+    trigger(Command::Undo);
+    EXPECT_EQ(store.deckCount(), 1);
+    EXPECT_EQ(titles(), QStringLiteral("Undo/Redo New Deck"));
+    trigger(Command::Redo);
+    EXPECT_EQ(store.deckCount(), 2);
+    EXPECT_TRUE(performed.empty());
+}
+
+TEST_F(MainMenuTest, EditCommandsActOnTheTextThatHasTheKeyboard)
+{
+    store.createNewDeck("Deck");
+    auto& text = editor();
+    EXPECT_FALSE(mainMenu.action(Command::Undo).isEnabled());
+    trigger(Command::Undo);
+    EXPECT_EQ(store.deckCount(), 2) << "the store's stack is out of reach";
+    trigger(Command::SelectAll);
+    trigger(Command::Cut);
+    EXPECT_EQ(store.editText(), "");
+    EXPECT_TRUE(mainMenu.action(Command::Undo).isEnabled());
+    trigger(Command::Paste);
+    trigger(Command::Paste);
+    EXPECT_EQ(text.toPlainText().count(QStringLiteral("Start writing here.")), 2);
+    trigger(Command::Undo);
+    trigger(Command::Undo);
+    EXPECT_EQ(store.editText(), "");
+    trigger(Command::Redo);
+    EXPECT_EQ(text.toPlainText().count(QStringLiteral("Start writing here.")), 1);
+
+    QLineEdit other(QStringLiteral("name"));
+    other.setFocus();
+    giveKeyboardTo(other);
+    trigger(Command::SelectAll);
+    trigger(Command::Cut);
+    EXPECT_TRUE(other.text().isEmpty());
+}
+
+TEST_F(MainMenuTest, EditCommandsStillActOnTheTextWhileTheMenuBarHasTheKeyboard)
+{
+    auto& text = editor();
+    strip.takeKeyboard();
+    refresh();
+    ASSERT_EQ(QApplication::focusWidget(), &strip);
+    trigger(Command::SelectAll);
+    EXPECT_EQ(text.textCursor().selectedText(), QStringLiteral("one"));
+    EXPECT_EQ(mainMenu.action(Command::Undo).text(), QStringLiteral("Undo"));
+}
+
+} // namespace cuebright::test

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "app/EditCommands.h"
+#include "app/MainMenu.h"
+#include "app/MenuBarStrip.h"
+#include "panel/NotesPanel.h"
+#include "panel/PanelController.h"
+#include "panel/PanelFixture.h"
+#include "store/UndoManager.h"
+#include "support/EventLoop.h"
+
+#include <QApplication>
+#include <QPlainTextEdit>
+#include <QTest>
+#include <QWindow>
+
+namespace cuebright::test {
+
+/// The real panel with the main menu, on the screen and with the keyboard.
+class MenuFixture : public PanelFixture {
+protected:
+    MenuFixture()
+    {
+        fake.accessibility.motionReduced = true;
+        mainMenu.addMenusTo(strip);
+        mainMenu.addActionsTo(panel);
+        setCards({"one", "two", "three"});
+    }
+
+    void SetUp() override
+    {
+        controller.showPanel();
+        giveKeyboardTo(panel);
+    }
+
+    void giveKeyboardTo(QWidget& window)
+    {
+        window.show();
+        window.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+        refresh();
+    }
+    void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier, QWidget* window = nullptr)
+    {
+        QTest::keyClick((window ? window : &panel)->windowHandle(), static_cast<Qt::Key>(key), modifiers);
+        refresh();
+    }
+    void trigger(Command command)
+    {
+        mainMenu.action(command).trigger();
+        refresh();
+    }
+    /// The editor of a new edit of the active card.
+    QPlainTextEdit& editor()
+    {
+        store.beginEditing();
+        refresh();
+        const auto focused = qobject_cast<QPlainTextEdit*>(QApplication::focusWidget());
+        EXPECT_TRUE(focused);
+        return *focused;
+    }
+
+    std::vector<Command> performed;
+    PanelController controller {context};
+    NotesPanel& panel = controller.panelWindow();
+    EditCommands edit {panel.undoManager()};
+    MainMenu mainMenu {context, edit, *panel.undoManager(), [this](Command command) { performed.push_back(command); }};
+    MenuBarStrip& strip = *new MenuBarStrip(context, &panel);
+};
+
+} // namespace cuebright::test

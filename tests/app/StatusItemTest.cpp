@@ -1,0 +1,65 @@
+#include "app/StatusItem.h"
+
+#include "panel/PanelController.h"
+#include "panel/PanelFixture.h"
+
+namespace cuebright::test {
+
+class StatusItemTest : public PanelFixture {
+protected:
+    StatusItemTest() { fake.accessibility.motionReduced = true; }
+
+    /// The titles, with a rule for separators and a star before what is checked.
+    std::string shown()
+    {
+        std::string text;
+        for (const auto action : item.menu().actions())
+            text +=
+                (action->isSeparator() ? "—" : (action->isChecked() ? "*" : "") + action->text().toStdString()) + "\n";
+        return text;
+    }
+    void choose(qsizetype row)
+    {
+        item.menu().actions().at(row)->trigger();
+        refresh();
+    }
+
+    PanelController controller {context};
+    int quits = 0;
+    StatusItem item {context, controller, [this] { ++quits; }};
+};
+
+TEST_F(StatusItemTest, TheMenuFollowsPanelAndDecksWithoutBeingOpened)
+{
+    setCards({"card"});
+    EXPECT_EQ(shown(), "Show Cuebright\n—\n*Talk\n—\nQuit Cuebright\n");
+    controller.showPanel();
+    store.createNewDeck("Q & A\nlast");
+    refresh();
+    EXPECT_EQ(shown(), "Hide Cuebright\n—\nTalk\n*Q && A last\n—\nQuit Cuebright\n");
+    controller.hidePanel();
+    store.renameDeck("Talk");
+    refresh();
+    EXPECT_EQ(shown(), "Show Cuebright\n—\nTalk\n*Talk\n—\nQuit Cuebright\n");
+}
+
+TEST_F(StatusItemTest, ItemsActByTheirPlaceNotTheirName)
+{
+    setCards({"card"});
+    store.createNewDeck("Talk");
+    store.switchToDeck(0);
+    refresh();
+    choose(3);
+    EXPECT_EQ(store.activeDeckIndex(), 1);
+    choose(3);
+    EXPECT_EQ(shown(), "Show Cuebright\n—\nTalk\n*Talk\n—\nQuit Cuebright\n")
+        << "choosing the active deck keeps its mark";
+    choose(0);
+    EXPECT_TRUE(controller.isPanelVisible());
+    choose(0);
+    EXPECT_FALSE(controller.isPanelVisible());
+    choose(5);
+    EXPECT_EQ(quits, 1);
+}
+
+} // namespace cuebright::test
