@@ -60,10 +60,12 @@ TEST(DesktopNeighbours, KWinIsAskedInOrderAndWhatWasLostIsAppliedAgain)
     EXPECT_TRUE(kwin.wasAsked(" cuebright\n/Scripting/Script5 org.kde.kwin.Script.run()\n"));
 
     ASSERT_TRUE(portal.wasAsked("BindShortcuts"));
+    kwin.order("now refused");
+    ASSERT_TRUE(panel.shows("Visible in screen shares"));
     portal.order("activate toggle-panel");
     ASSERT_TRUE(panel.isOffScreen());
-    kwin.order("now refused");
     kwin.order("omitted");
+    ASSERT_TRUE(kwin.wasAsked("will report omitted"));
     portal.order("activate toggle-panel");
     EXPECT_TRUE(panel.shows("Protection re-applied"));
     EXPECT_EQ(panel.console(), "[Cuebright] WARNING: sharingType was reset — re-applied .none\n");

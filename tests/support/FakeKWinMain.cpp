@@ -17,6 +17,7 @@ int main(int argc, char* argv[])
         kwin.report = words.last();
         if (words.size() > 1)
             kwin.connection.asyncCall(kwin.reportOf(kwin.report));
+        say(QStringLiteral("will report ") + kwin.report);
     });
     say(QStringLiteral("ready"));
     return QCoreApplication::exec();
