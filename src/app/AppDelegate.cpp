@@ -31,11 +31,11 @@ void AppDelegate::applicationDidFinishLaunching()
 {
     m_panelController = std::make_unique<PanelController>(m_context);
     auto& panel = m_panelController->panelWindow();
-    m_editCommands = std::make_unique<EditCommands>(panel.undoManager());
+    m_editCommands = std::make_unique<EditCommands>(m_store, panel.undoManager());
     m_mainMenu = std::make_unique<MainMenu>(
         m_context, *m_editCommands, *panel.undoManager(), [this](Command command) { perform(command); });
     m_mainMenu->addActionsTo(panel);
-    m_exportCommand = std::make_unique<ExportCommand>(m_context);
+    m_exportCommand = std::make_unique<ExportCommand>(m_context, panel);
     showOnboarding();
     m_panelController->showPanel();
     m_deleteSubscription = m_notifications.observe(kDeleteCardNotification, [this] { askToDeleteCard(); });
@@ -64,6 +64,11 @@ QWidget* AppDelegate::panelWindow() const { return m_panelController ? &m_panelC
 void AppDelegate::applicationWillTerminate()
 {
     MarkdownEditor::commitComposition();
+    saveEverything();
+}
+
+void AppDelegate::saveEverything()
+{
     m_store.saveEdit();
     m_store.flushToDisk();
 }

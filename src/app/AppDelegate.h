@@ -37,8 +37,10 @@ public:
     void firstFrameIsThere();
     /// The user opens the application again: shows the panel, and says that this was done.
     bool applicationShouldHandleReopen();
-    /// Keeps an open edit and writes everything to disk.
+    /// Keeps an open edit, with what an input method still holds, and writes everything to disk.
     void applicationWillTerminate();
+    /// The same without asking the input method: needs no display.
+    void saveEverything();
     /// Saves and leaves the event loop with status 0, whatever windows are open.
     void quit();
 

@@ -68,7 +68,7 @@ void AppDelegate::perform(Command command)
     case Command::MoveCardDown:
         return m_store.moveCardDown();
     case Command::Minimize:
-        if (const auto window = QApplication::activeWindow())
+        if (const auto window = QApplication::activeWindow(); window == panelWindow())
             window->showMinimized();
         return;
     case Command::OpenSupport:
@@ -147,8 +147,10 @@ void AppDelegate::renameDeck()
 
 void AppDelegate::showAbout()
 {
-    if (!m_aboutWindow)
+    if (!m_aboutWindow) {
         m_aboutWindow = std::make_unique<AboutWindow>(m_context);
+        m_mainMenu->addActionsTo(*m_aboutWindow);
+    }
     m_aboutWindow->showBeside(*panelWindow());
 }
 

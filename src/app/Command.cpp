@@ -50,6 +50,21 @@ bool isCommandChecked(Command command, const CardStore& store)
     return theme && store.theme() == theme;
 }
 
+bool isTextCommand(Command command)
+{
+    switch (command) {
+    case Command::Undo:
+    case Command::Redo:
+    case Command::Cut:
+    case Command::Copy:
+    case Command::Paste:
+    case Command::SelectAll:
+        return true;
+    default:
+        return false;
+    }
+}
+
 bool isCommandRepeatable(Command command)
 {
     switch (command) {

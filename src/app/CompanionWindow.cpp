@@ -30,11 +30,12 @@ CompanionWindow::~CompanionWindow()
 void CompanionWindow::showBeside(const QWidget& panel)
 {
     if (!isVisible()) {
+        setWindowState(windowState() & ~Qt::WindowMinimized); // some window managers offer it all the same
         placeBesidePanel(panel);
         m_context.desktop.windowSystem.keepAboveFullScreen(winId());
         show();
     } else if (isMinimized()) {
-        showNormal(); // some window managers offer it all the same
+        showNormal();
     }
     raise();
     activateWindow();

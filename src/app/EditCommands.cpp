@@ -1,5 +1,6 @@
 #include "app/EditCommands.h"
 
+#include "store/CardStore.h"
 #include "store/UndoManager.h"
 
 #include <QApplication>
@@ -54,8 +55,9 @@ bool isAvailable(const QWidget* text, bool isUndo)
 
 } // namespace
 
-EditCommands::EditCommands(std::shared_ptr<UndoManager> undoManager)
-    : m_undoManager(std::move(undoManager))
+EditCommands::EditCommands(const CardStore& store, std::shared_ptr<UndoManager> undoManager)
+    : m_store(store)
+    , m_undoManager(std::move(undoManager))
 {
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget* old, QWidget* now) {
         if (qobject_cast<QMenuBar*>(now))
@@ -80,6 +82,8 @@ bool EditCommands::perform(Command command)
         return false;
     if (const auto text = focusedText())
         QMetaObject::invokeMethod(text, slot);
+    else if (m_store.isEditing())
+        return true;
     else if (command == Command::Undo)
         m_undoManager->undo();
     else if (command == Command::Redo)
@@ -92,7 +96,7 @@ std::string EditCommands::title(Command undoOrRedo) const
     const bool isUndo = undoOrRedo == Command::Undo;
     const std::string verb = isUndo ? "Undo" : "Redo";
     const auto name = isUndo ? m_undoManager->undoActionName() : m_undoManager->redoActionName();
-    return focusedText() || name.empty() ? verb : verb + ' ' + name;
+    return focusedText() || m_store.isEditing() || name.empty() ? verb : verb + ' ' + name;
 }
 
 bool EditCommands::isEnabled(Command undoOrRedo) const
@@ -100,6 +104,8 @@ bool EditCommands::isEnabled(Command undoOrRedo) const
     const bool isUndo = undoOrRedo == Command::Undo;
     if (const auto text = focusedText())
         return isAvailable(text, isUndo);
+    if (m_store.isEditing())
+        return false;
     return isUndo ? m_undoManager->canUndo() : m_undoManager->canRedo();
 }
 

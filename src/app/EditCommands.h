@@ -13,15 +13,17 @@ class QWidget;
 
 namespace cuebright {
 
+class CardStore;
 class UndoManager;
 
 /// Undo, Redo, Cut, Copy, Paste and Select All. They act on the text that has the keyboard; while none has, Undo and
 /// Redo act on the store's stack and the others do nothing.
 ///
-/// The two stacks never mix: with nothing left to undo in a text, Undo does nothing.
+/// The two stacks never mix: with nothing left to undo in a text, Undo does nothing; and while a card is being edited
+/// the store's stack rests, or the edit would be saved into the card that takes its place.
 class EditCommands final : public QObject {
 public:
-    explicit EditCommands(std::shared_ptr<UndoManager> undoManager);
+    EditCommands(const CardStore& store, std::shared_ptr<UndoManager> undoManager);
 
     /// False where the command is not one of the six.
     bool perform(Command command);
@@ -36,6 +38,7 @@ public:
 private:
     [[nodiscard]] QWidget* focusedText() const;
 
+    const CardStore& m_store;
     std::shared_ptr<UndoManager> m_undoManager;
     QPointer<QWidget> m_focusBeforeMenus; ///< had the keyboard before a menu bar took it
 };

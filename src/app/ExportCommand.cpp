@@ -9,8 +9,6 @@
 #include <QApplication>
 #include <QFileInfo>
 
-#include <algorithm>
-
 namespace cuebright {
 
 namespace {
@@ -19,17 +17,8 @@ namespace {
 bool canHaveSheets(const QWidget* window)
 {
     const auto type = window->windowType();
-    return window->isVisible() && (type == Qt::Window || type == Qt::Dialog)
+    return window->isVisible() && !window->isMinimized() && (type == Qt::Window || type == Qt::Dialog)
         && !window->windowFlags().testFlag(Qt::BypassWindowManagerHint);
-}
-
-QWidget* windowForSheet()
-{
-    if (const auto active = QApplication::activeWindow(); active && canHaveSheets(active))
-        return active;
-    const auto windows = QApplication::topLevelWidgets();
-    const auto found = std::find_if(windows.begin(), windows.end(), canHaveSheets);
-    return found == windows.end() ? nullptr : *found;
 }
 
 void bringToFront(QWidget& window)
@@ -40,8 +29,9 @@ void bringToFront(QWidget& window)
 
 } // namespace
 
-ExportCommand::ExportCommand(const PanelContext& context)
+ExportCommand::ExportCommand(const PanelContext& context, QWidget& panel)
     : m_context(context)
+    , m_panel(panel)
 {
 }
 
@@ -51,10 +41,11 @@ void ExportCommand::exportDeck()
 {
     if (m_dialog)
         return bringToFront(*m_dialog);
-    const auto parent = windowForSheet();
-    if (parent && !parent->isActiveWindow())
+    const auto active = QApplication::activeWindow();
+    const auto parent = active && canHaveSheets(active) ? active : &m_panel;
+    if (canHaveSheets(parent) && !parent->isActiveWindow())
         bringToFront(*parent);
-    ask(parent);
+    ask(canHaveSheets(parent) ? parent : nullptr);
     auto text = m_context.store.exportDeckAsMarkdown();
     QObject::connect(m_dialog, &QFileDialog::fileSelected, m_dialog,
         [this, text = std::move(text)](const QString& file) { write(file, text); });

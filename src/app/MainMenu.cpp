@@ -7,6 +7,7 @@
 #include "store/CardStore.h"
 #include "store/UndoManager.h"
 
+#include <QApplication>
 #include <QMenuBar>
 
 #include <utility>
@@ -83,6 +84,9 @@ void MainMenu::addCommand(QMenu& menu, const MenuItem& item)
 void MainMenu::trigger(Command command)
 {
     m_refresh.request(); // the toolkit has turned a check mark round by itself
+    // The toolkit keeps the keys away from the window that a sheet belongs to, and only from that one.
+    if (QApplication::activeModalWidget() && command != Command::Quit && !isTextCommand(command))
+        return;
     MarkdownEditor::commitComposition(); // the command may end the edit
     if (!m_edit.perform(command))
         m_perform(command);

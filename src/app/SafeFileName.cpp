@@ -16,6 +16,8 @@ QString withoutOddCharacters(QString name)
     for (auto& c : name) {
         if (c == QLatin1Char('/') || c == QLatin1Char('\\'))
             c = QLatin1Char('-');
+        else if (c == QLatin1Char('"'))
+            c = QLatin1Char('\''); // the file dialog would take what is between two of them for the name
         else if (c.isSpace() || c.category() == QChar::Other_Control)
             c = QLatin1Char(' ');
     }
@@ -40,7 +42,8 @@ std::string safeFileName(std::string_view deckName)
     // What is that far behind is cut off anyway.
     auto name = withoutOddCharacters(toQString(deckName).left(kLongestName));
     qsizetype start = 0;
-    while (start < name.size() && (name[start].isSpace() || name[start] == QLatin1Char('.')))
+    while (start < name.size()
+        && (name[start].isSpace() || name[start] == QLatin1Char('.') || name[start] == QLatin1Char('~')))
         ++start;
     name = shortened(name.mid(start)).trimmed();
     return name.isEmpty() ? "Untitled" : toUtf8(name);

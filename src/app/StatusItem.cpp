@@ -9,6 +9,7 @@
 #include "store/CardStore.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QSystemTrayIcon>
 
 #include <utility>
@@ -109,7 +110,8 @@ void StatusItem::switchDeckFromMenu(const QAction& item)
 {
     const auto index = item.data().toLongLong();
     MarkdownEditor::commitComposition(); // the switch ends an open edit
-    m_context.store.switchToDeck(index);
+    if (!QApplication::activeModalWidget()) // a question is about the card and the deck that it was asked about
+        m_context.store.switchToDeck(index);
     m_shown.clear(); // the toolkit has turned a check mark round by itself
     m_refresh.request();
 }

@@ -1,4 +1,5 @@
 #include "app/AppDelegate.h"
+#include "app/ExitSave.h"
 #include "app/FirstFrame.h"
 #include "platform/qt/OneInstance.h"
 #include "platform/qt/ProcessSetup.h"
@@ -26,6 +27,7 @@ int main(int, char* argv[])
 
     QtPlatform platform;
     AppDelegate delegate(platform.services(), platform.desktop());
+    const ExitSave exitSave([&] { delegate.saveEverything(); });
     delegate.applicationDidFinishLaunching();
     instance.deliver([&](const RemoteRequest& request) { delegate.perform(request); });
     const FirstFrame firstFrame(*delegate.panelWindow(), [&] {

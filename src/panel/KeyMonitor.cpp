@@ -12,9 +12,18 @@ namespace cuebright {
 
 namespace {
 
-bool isKeyboardElsewhere()
+bool isBlockedBy(const QWidget* modal, const QWidget& window)
 {
-    return QApplication::activePopupWidget() || QApplication::activeModalWidget()
+    if (modal && modal->windowModality() == Qt::ApplicationModal)
+        return true;
+    while (modal && modal != &window)
+        modal = modal->parentWidget();
+    return modal;
+}
+
+bool isKeyboardElsewhere(const QWidget& window)
+{
+    return QApplication::activePopupWidget() || isBlockedBy(QApplication::activeModalWidget(), window)
         || qobject_cast<QMenuBar*>(QApplication::focusWidget());
 }
 
@@ -32,7 +41,8 @@ KeyMonitor::KeyMonitor(const QWidget& window, std::function<Action(const QKeyEve
 bool KeyMonitor::eventFilter(QObject* watched, QEvent* event)
 {
     const bool isOffer = event->type() == QEvent::ShortcutOverride;
-    if ((!isOffer && event->type() != QEvent::KeyPress) || watched != m_window.windowHandle() || isKeyboardElsewhere())
+    if ((!isOffer && event->type() != QEvent::KeyPress) || watched != m_window.windowHandle()
+        || isKeyboardElsewhere(m_window))
         return false;
     const auto action = m_actionFor(*static_cast<QKeyEvent*>(event));
     if (!action)

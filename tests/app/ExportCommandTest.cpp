@@ -28,6 +28,8 @@ TEST(SafeFileName, IsWhatFileSystemsTake)
         {"a plain name", "Talk", "Talk"},
         {"blanks inside and Unicode", "Q3 — Überblick: ja?", "Q3 — Überblick: ja?"},
         {"slashes", "Q3/Q4\\Q5", "Q3-Q4-Q5"},
+        {"quotation marks, which the file dialog reads in its own way", "My \"great\" talk", "My 'great' talk"},
+        {"somebody's home", "~root", "root"},
         {"a path", "../../etc/passwd", "-..-etc-passwd"},
         {"line breaks and controls",
             "a\nb\tc\x01"
@@ -50,7 +52,8 @@ protected:
     Platform surroundings {
         fake.clock, fake.uuids, fake.mainQueue, disk, fake.preferences, fake.accessibility, fake.appearance, fake.log};
     PanelContext onDisk {store, notifications, surroundings, fake.desktop()};
-    ExportCommand command {onDisk};
+    QWidget panel;
+    ExportCommand command {onDisk, panel};
 
     void SetUp() override { setCards({"A", "B"}); }
     QString path(const char* name) const { return folder.filePath(QString::fromUtf8(name)); }

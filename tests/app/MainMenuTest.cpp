@@ -1,6 +1,7 @@
 #include "app/MenuFixture.h"
 
 #include <QLineEdit>
+#include <QMessageBox>
 
 namespace cuebright::test {
 
@@ -137,6 +138,31 @@ TEST_F(MainMenuTest, EditCommandsActOnTheTextThatHasTheKeyboard)
     trigger(Command::SelectAll);
     trigger(Command::Cut);
     EXPECT_TRUE(other.text().isEmpty());
+}
+
+TEST_F(MainMenuTest, UndoOutsideTheTextRestsWhileACardIsEdited)
+{
+    store.addCard();
+    QWidget other; // has no text
+    mainMenu.addActionsTo(other);
+    giveKeyboardTo(other);
+    key(Qt::Key_Z, Qt::ControlModifier, &other);
+    EXPECT_EQ(store.cardCount(), 4) << "or the edit would be saved into the card before";
+    EXPECT_FALSE(mainMenu.action(Command::Undo).isEnabled());
+}
+
+TEST_F(MainMenuTest, NothingHappensBehindAQuestion)
+{
+    QWidget other;
+    mainMenu.addActionsTo(other);
+    giveKeyboardTo(other);
+    QMessageBox sheet(&panel);
+    sheet.setWindowModality(Qt::WindowModal);
+    sheet.open();
+    trigger(Command::NewCard);
+    EXPECT_TRUE(performed.empty());
+    trigger(Command::Quit);
+    EXPECT_EQ(performed, std::vector {Command::Quit});
 }
 
 TEST_F(MainMenuTest, EditCommandsStillActOnTheTextWhileTheMenuBarHasTheKeyboard)

@@ -63,7 +63,7 @@ protected:
     std::vector<Command> performed;
     PanelController controller {context};
     NotesPanel& panel = controller.panelWindow();
-    EditCommands edit {panel.undoManager()};
+    EditCommands edit {store, panel.undoManager()};
     MainMenu mainMenu {context, edit, *panel.undoManager(), [this](Command command) { performed.push_back(command); }};
     MenuBarStrip& strip = *new MenuBarStrip(context, &panel);
 };

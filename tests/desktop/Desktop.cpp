@@ -328,6 +328,12 @@ void Desktop::minimise(WindowId window)
     XSync(m_display->connection, False);
 }
 
+void Desktop::cutOff(WindowId window)
+{
+    XKillClient(m_display->connection, window);
+    XSync(m_display->connection, False);
+}
+
 void Desktop::askToClose(WindowId window) { askWindowManager(window, "_NET_CLOSE_WINDOW", {0, 2, 0, 0, 0}); }
 
 std::shared_ptr<void> Desktop::grabHotKey()

@@ -67,6 +67,8 @@ public:
     void closeWindow(WindowId window);
     void leaveFullScreen(WindowId window);
     void minimise(WindowId window);
+    /// Breaks the connection of the window's program to the display.
+    void cutOff(WindowId window);
     /// Asks as a window's own close button does.
     void askToClose(WindowId window);
     /// Another program takes Ctrl+Shift+S for itself, as long as the result lives.

@@ -49,5 +49,20 @@ TEST(LeavingByTheKeyboard, KeepsWhatIsStillBeingTyped)
     EXPECT_NE(readFile(home.stateFile()).find("unfinished thought"), std::string::npos);
 }
 
+TEST(LeavingWithTheDisplay, KeepsWhatIsStillBeingTyped)
+{
+    const Home home;
+    RunningPanel panel(home);
+    panel.press("ctrl+e");
+    ASSERT_TRUE(panel.editorHolds("Cue cards"));
+    panel.type("unfinished thought");
+    ASSERT_TRUE(panel.editorHolds("unfinished thought"));
+
+    desktop().cutOff(panel.window());
+
+    EXPECT_TRUE(panel.exitStatus().has_value());
+    EXPECT_NE(readFile(home.stateFile()).find("unfinished thought"), std::string::npos);
+}
+
 } // namespace
 } // namespace cuebright::test

@@ -63,9 +63,11 @@ OneInstance::OneInstance()
     : m_system(std::make_unique<System>())
 {
     const auto data = launchData();
-    m_system->exitStatus = statusAfter(m_system->lock.claim(data.empty() ? std::string() : data.front().second));
-    if (!m_system->exitStatus)
-        m_system->exitStatus = statusAfter(m_system->name.claim(data));
+    const auto lock = m_system->lock.claim(data.empty() ? std::string() : data.front().second);
+    const bool isAnswered = lock == InstanceClaim::HandedOver || lock == InstanceClaim::Queued;
+    const auto name = isAnswered ? lock : m_system->name.claim(data);
+    const bool isHeldOutOfReach = lock == InstanceClaim::Unreachable && name != InstanceClaim::HandedOver;
+    m_system->exitStatus = statusAfter(isHeldOutOfReach ? lock : name);
 }
 
 OneInstance::~OneInstance() = default;
