@@ -1,15 +1,9 @@
 // A step to another card: from the store's operation to the end of the first paint, against a repaint of what rests.
-#include "panel/CardContentView.h"
-
-#include "foundation/NotificationCenter.h"
 #include "model/StateFile.h"
 #include "platform/FileSystem.h"
 #include "platform/UuidSource.h"
-#include "platform/qt/QtPlatform.h"
-#include "store/CardStore.h"
+#include "support/PanelContent.h"
 
-#include <QApplication>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <benchmark/benchmark.h>
@@ -31,7 +25,7 @@ std::string card(int lines)
 }
 
 /// The panel's content on two cards of so many lines.
-struct Bench {
+struct Bench : PanelContent {
     explicit Bench(int lines)
     {
         auto services = platform.services();
@@ -44,19 +38,15 @@ struct Bench {
         if (services.fileSystem.writeFileAtomically(store.stateUrl(), json))
             std::abort();
         store.loadFromDisk();
-        view.resize(720, 560);
         view.show();
         settle();
     }
     static void settle() { QTest::qWait(kTransitionTime); }
-
-    QTemporaryDir folder;
-    bool isIsolated = qputenv("XDG_DATA_HOME", folder.path().toUtf8());
-    QtPlatform platform {(folder.path() + QStringLiteral("/preferences.conf")).toStdString()};
-    NotificationCenter notifications;
-    CardStore store {platform.services()};
-    PanelContext context {store, notifications, platform.services(), platform.desktop()};
-    CardContentView view {context};
+};
+NotificationCenter notifications;
+CardStore store {platform.services()};
+PanelContext context {store, notifications, platform.services(), platform.desktop()};
+CardContentView view {context};
 };
 
 void stepReferenceRepaint(benchmark::State& state)
@@ -89,13 +79,3 @@ BENCHMARK(step)->Arg(6)->Arg(2000)->Iterations(20)->Unit(benchmark::kMillisecond
 } // namespace
 
 } // namespace cuebright::bench
-
-int main(int argc, char* argv[])
-{
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QT_LOGGING_RULES", "default.warning=false"); // the offscreen platform's
-    const QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

@@ -1,13 +1,7 @@
 // A key in the editor: delivered, in the store, counted in the footer, on the screen.
-#include "panel/CardContentView.h"
+#include "support/PanelContent.h"
 
-#include "foundation/NotificationCenter.h"
-#include "platform/qt/QtPlatform.h"
-#include "store/CardStore.h"
-
-#include <QApplication>
 #include <QPlainTextEdit>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <benchmark/benchmark.h>
@@ -22,10 +16,9 @@ namespace cuebright::bench {
 namespace {
 
 /// The panel's content with one card open in the editor.
-struct Bench {
+struct Bench : PanelContent {
     explicit Bench(const std::string& content)
     {
-        view.resize(720, 560);
         store.toggleWordCount();
         store.beginEditing();
         store.setEditText(content);
@@ -43,14 +36,11 @@ struct Bench {
         editor().setTextCursor(cursor);
         QCoreApplication::processEvents();
     }
-
-    QTemporaryDir folder;
-    bool isIsolated = qputenv("XDG_DATA_HOME", folder.path().toUtf8());
-    QtPlatform platform {(folder.path() + QStringLiteral("/preferences.conf")).toStdString()};
-    NotificationCenter notifications;
-    CardStore store {platform.services()};
-    PanelContext context {store, notifications, platform.services(), platform.desktop()};
-    CardContentView view {context};
+};
+NotificationCenter notifications;
+CardStore store {platform.services()};
+PanelContext context {store, notifications, platform.services(), platform.desktop()};
+CardContentView view {context};
 };
 
 std::string repeated(const std::string& piece, std::size_t size)
@@ -125,13 +115,3 @@ BENCHMARK_CAPTURE(openAnEdit, OfOneWord, oneWord)->Arg(1'000'000)->Unit(benchmar
 } // namespace
 
 } // namespace cuebright::bench
-
-int main(int argc, char* argv[])
-{
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QT_LOGGING_RULES", "default.warning=false"); // the offscreen platform's
-    const QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

@@ -1,4 +1,4 @@
-#include "desktop/Desktop.h"
+#include "desktop/DesktopDisplay.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -8,11 +8,7 @@
 
 #include <unistd.h>
 
-#include <X11/XKBlib.h>
-#include <X11/Xatom.h>
-#include <X11/Xlib.h>
 #include <X11/Xutil.h>
-#include <X11/extensions/XTest.h>
 
 namespace cuebright::test {
 
@@ -61,20 +57,6 @@ Environment detachedEnvironment(const std::filesystem::path& folder)
     return environment;
 }
 
-KeySym keyNamed(std::string_view name)
-{
-    if (name == "ctrl")
-        return XStringToKeysym("Control_L");
-    if (name == "alt")
-        return XStringToKeysym("Alt_L");
-    if (name == "shift")
-        return XStringToKeysym("Shift_L");
-    const KeySym key = XStringToKeysym(std::string(name).c_str());
-    if (key == NoSymbol)
-        throw std::runtime_error("no key is called " + std::string(name));
-    return key;
-}
-
 } // namespace
 
 TemporaryFolder::TemporaryFolder()
@@ -90,61 +72,6 @@ TemporaryFolder::~TemporaryFolder()
     std::error_code ignored;
     std::filesystem::remove_all(m_path, ignored);
 }
-
-struct Desktop::Display {
-    explicit Display(const std::string& name)
-        : connection(XOpenDisplay(name.c_str()))
-    {
-        if (!connection)
-            throw std::runtime_error("cannot reach the display " + name);
-        // A window may go away between two questions; that is no reason to end the tests.
-        XSetErrorHandler([](::Display*, XErrorEvent*) { return 0; });
-        root = DefaultRootWindow(connection);
-    }
-    ~Display() { XCloseDisplay(connection); }
-    Display(const Display&) = delete;
-    Display& operator=(const Display&) = delete;
-
-    template <typename Item> std::vector<Item> property(WindowId window, const char* name) const
-    {
-        Atom type = None;
-        int format = 0;
-        unsigned long count = 0;
-        unsigned long left = 0;
-        unsigned char* data = nullptr;
-        std::vector<Item> items;
-        if (XGetWindowProperty(connection, window, XInternAtom(connection, name, False), 0, 4096, False,
-                AnyPropertyType, &type, &format, &count, &left, &data)
-                == Success
-            && data) {
-            const auto* first = reinterpret_cast<const Item*>(data);
-            items.assign(first, first + count);
-        }
-        if (data)
-            XFree(data);
-        return items;
-    }
-
-    /// `delay` in milliseconds.
-    void move(KeyCode key, Bool down, unsigned long delay = 0) { XTestFakeKeyEvent(connection, key, down, delay); }
-
-    void tap(const std::vector<KeySym>& keys)
-    {
-        std::vector<KeyCode> codes;
-        for (const KeySym key : keys)
-            codes.push_back(XKeysymToKeycode(connection, key));
-        // A press at the moment of the last release would be taken for a key that repeats.
-        for (const KeyCode code : codes)
-            move(code, True, 1);
-        std::ranges::reverse(codes);
-        for (const KeyCode code : codes)
-            move(code, False);
-        XSync(connection, False);
-    }
-
-    ::Display* connection;
-    ::Window root = None;
-};
 
 Desktop::Desktop()
     : m_environment(detachedEnvironment(m_folder.path()))
@@ -278,73 +205,6 @@ int Desktop::brightness(WindowId window, int x, int y) const
     return static_cast<int>(colour >> 8 & 0xff);
 }
 
-void Desktop::askWindowManager(WindowId window, const char* request, const std::vector<long>& data)
-{
-    XEvent event {};
-    event.xclient.type = ClientMessage;
-    event.xclient.window = window;
-    event.xclient.message_type = XInternAtom(m_display->connection, request, False);
-    event.xclient.format = 32;
-    std::ranges::copy(data, event.xclient.data.l);
-    XSendEvent(
-        m_display->connection, m_display->root, False, SubstructureRedirectMask | SubstructureNotifyMask, &event);
-    XSync(m_display->connection, False);
-}
-
-Desktop::WindowId Desktop::openWindow(Size size)
-{
-    const WindowId window =
-        XCreateSimpleWindow(m_display->connection, m_display->root, 20, 20, 300, 200, 0, 0, 0x336699);
-    if (size == Size::FullScreen) {
-        const Atom fullScreen = XInternAtom(m_display->connection, "_NET_WM_STATE_FULLSCREEN", False);
-        XChangeProperty(m_display->connection, window, XInternAtom(m_display->connection, "_NET_WM_STATE", False),
-            XA_ATOM, 32, PropModeReplace, reinterpret_cast<const unsigned char*>(&fullScreen), 1);
-    }
-    XMapWindow(m_display->connection, window);
-    if (!waitUntil([&] { return isOnScreen(window); }))
-        throw std::runtime_error("the window does not come up");
-    askWindowManager(window, "_NET_ACTIVE_WINDOW", {2, 0, 0, 0, 0}); // 2: the user himself
-    if (!waitUntil([&] { return isActive(window); }))
-        throw std::runtime_error("the window does not get the keyboard");
-    return window;
-}
-
-void Desktop::closeWindow(WindowId window)
-{
-    XDestroyWindow(m_display->connection, window);
-    XSync(m_display->connection, False);
-    (void)waitUntil([&] { return !isActive(window); });
-}
-
-void Desktop::leaveFullScreen(WindowId window)
-{
-    const Atom fullScreen = XInternAtom(m_display->connection, "_NET_WM_STATE_FULLSCREEN", False);
-    askWindowManager(window, "_NET_WM_STATE", {0, static_cast<long>(fullScreen), 0, 2, 0}); // 0: remove
-}
-
-void Desktop::minimise(WindowId window)
-{
-    XIconifyWindow(m_display->connection, window, DefaultScreen(m_display->connection));
-    XSync(m_display->connection, False);
-}
-
-void Desktop::cutOff(WindowId window)
-{
-    XKillClient(m_display->connection, window);
-    XSync(m_display->connection, False);
-}
-
-void Desktop::askToClose(WindowId window) { askWindowManager(window, "_NET_CLOSE_WINDOW", {0, 2, 0, 0, 0}); }
-
-std::shared_ptr<void> Desktop::grabHotKey()
-{
-    auto other = std::make_shared<Display>(m_environment.at("DISPLAY"));
-    XGrabKey(other->connection, XKeysymToKeycode(other->connection, XStringToKeysym("s")), ControlMask | ShiftMask,
-        other->root, False, GrabModeAsync, GrabModeAsync);
-    XSync(other->connection, False);
-    return other;
-}
-
 void Desktop::resize(WindowId window, int width, int height)
 {
     XResizeWindow(m_display->connection, window, static_cast<unsigned>(width), static_cast<unsigned>(height));
@@ -375,48 +235,6 @@ void Desktop::takePicture(WindowId window, const std::filesystem::path& file) co
     });
     if (!taken)
         throw std::runtime_error("no picture could be taken: " + readFile(log));
-}
-
-void Desktop::click(int x, int y)
-{
-    XTestFakeMotionEvent(m_display->connection, -1, x, y, CurrentTime);
-    XTestFakeButtonEvent(m_display->connection, Button1, True, CurrentTime);
-    XTestFakeButtonEvent(m_display->connection, Button1, False, CurrentTime);
-    XSync(m_display->connection, False);
-}
-
-void Desktop::drag(int fromX, int fromY, int toX, int toY)
-{
-    constexpr int kSteps = 20;
-    XTestFakeMotionEvent(m_display->connection, -1, fromX, fromY, CurrentTime);
-    XTestFakeButtonEvent(m_display->connection, Button1, True, CurrentTime);
-    for (int step = 1; step <= kSteps; ++step) {
-        XTestFakeMotionEvent(m_display->connection, -1, fromX + (toX - fromX) * step / kSteps,
-            fromY + (toY - fromY) * step / kSteps, 10); // the pace of a hand, in milliseconds
-    }
-    XTestFakeButtonEvent(m_display->connection, Button1, False, 50);
-    XSync(m_display->connection, False);
-}
-
-void Desktop::press(std::string_view chord)
-{
-    std::vector<KeySym> keys;
-    for (auto plus = chord.find('+'); plus != std::string_view::npos; plus = chord.find('+')) {
-        keys.push_back(keyNamed(chord.substr(0, plus)));
-        chord.remove_prefix(plus + 1);
-    }
-    keys.push_back(keyNamed(chord));
-    m_display->tap(keys);
-}
-
-void Desktop::type(std::string_view text)
-{
-    for (const char letter : text) {
-        const KeySym key = letter == '\n' ? keyNamed("Return") : static_cast<unsigned char>(letter);
-        const KeyCode code = XKeysymToKeycode(m_display->connection, key);
-        const bool needsShift = XkbKeycodeToKeysym(m_display->connection, code, 0, 0) != key;
-        m_display->tap(needsShift ? std::vector<KeySym> {keyNamed("shift"), key} : std::vector<KeySym> {key});
-    }
 }
 
 } // namespace cuebright::test

@@ -8,7 +8,8 @@ namespace {
 
 struct WayOut {
     const char* name;
-    int signal;
+    void (*leave)(const RunningPanel&);
+    bool isOrderly = true; ///< ends with status 0
 
     friend void PrintTo(const WayOut& wayOut, std::ostream* out) { *out << wayOut.name; }
 };
@@ -24,45 +25,21 @@ TEST_P(Leaving, KeepsWhatIsStillBeingTyped)
     panel.type("unfinished thought");
     ASSERT_TRUE(panel.editorHolds("unfinished thought"));
 
-    panel.send(GetParam().signal);
+    GetParam().leave(panel);
 
-    EXPECT_EQ(panel.exitStatus(), 0) << panel.console();
+    const auto status = panel.exitStatus();
+    ASSERT_TRUE(status) << panel.console();
+    EXPECT_EQ(*status == 0, GetParam().isOrderly) << *status << panel.console();
     EXPECT_NE(readFile(home.stateFile()).find("unfinished thought"), std::string::npos);
 }
 
-INSTANTIATE_TEST_SUITE_P(Signals, Leaving,
-    testing::Values(WayOut {"Terminate", SIGTERM}, WayOut {"Interrupt", SIGINT}, WayOut {"HangUp", SIGHUP}),
+INSTANTIATE_TEST_SUITE_P(Ways, Leaving,
+    testing::Values(WayOut {"Terminate", [](const RunningPanel& panel) { panel.send(SIGTERM); }},
+        WayOut {"Interrupt", [](const RunningPanel& panel) { panel.send(SIGINT); }},
+        WayOut {"HangUp", [](const RunningPanel& panel) { panel.send(SIGHUP); }},
+        WayOut {"Keyboard", [](const RunningPanel& panel) { panel.press("ctrl+q"); }},
+        WayOut {"LostDisplay", [](const RunningPanel& panel) { desktop().cutOff(panel.window()); }, false}),
     [](const auto& wayOut) { return wayOut.param.name; });
-
-TEST(LeavingByTheKeyboard, KeepsWhatIsStillBeingTyped)
-{
-    const Home home;
-    RunningPanel panel(home);
-    panel.press("ctrl+e");
-    ASSERT_TRUE(panel.editorHolds("Cue cards"));
-    panel.type("unfinished thought");
-    ASSERT_TRUE(panel.editorHolds("unfinished thought"));
-
-    panel.press("ctrl+q");
-
-    EXPECT_EQ(panel.exitStatus(), 0) << panel.console();
-    EXPECT_NE(readFile(home.stateFile()).find("unfinished thought"), std::string::npos);
-}
-
-TEST(LeavingWithTheDisplay, KeepsWhatIsStillBeingTyped)
-{
-    const Home home;
-    RunningPanel panel(home);
-    panel.press("ctrl+e");
-    ASSERT_TRUE(panel.editorHolds("Cue cards"));
-    panel.type("unfinished thought");
-    ASSERT_TRUE(panel.editorHolds("unfinished thought"));
-
-    desktop().cutOff(panel.window());
-
-    EXPECT_TRUE(panel.exitStatus().has_value());
-    EXPECT_NE(readFile(home.stateFile()).find("unfinished thought"), std::string::npos);
-}
 
 } // namespace
 } // namespace cuebright::test
