@@ -43,11 +43,6 @@ struct Bench : PanelContent {
     }
     static void settle() { QTest::qWait(kTransitionTime); }
 };
-NotificationCenter notifications;
-CardStore store {platform.services()};
-PanelContext context {store, notifications, platform.services(), platform.desktop()};
-CardContentView view {context};
-};
 
 void stepReferenceRepaint(benchmark::State& state)
 {

@@ -37,11 +37,6 @@ struct Bench : PanelContent {
         QCoreApplication::processEvents();
     }
 };
-NotificationCenter notifications;
-CardStore store {platform.services()};
-PanelContext context {store, notifications, platform.services(), platform.desktop()};
-CardContentView view {context};
-};
 
 std::string repeated(const std::string& piece, std::size_t size)
 {
