@@ -47,6 +47,9 @@ FrameMemory::FrameMemory(const PanelContext& context, QWidget& window, const QSi
     , m_defaultSize(defaultSize)
 {
     window.installEventFilter(this);
+    // The screens are told one by one; the look comes after the last of them.
+    connect(
+        qGuiApp, &QGuiApplication::screenRemoved, this, [this] { fetchIfLost(); }, Qt::QueuedConnection);
 }
 
 FrameMemory::~FrameMemory()
@@ -64,12 +67,17 @@ void FrameMemory::restore()
 
 void FrameMemory::prepareToShow()
 {
+    if (!m_window.isVisible())
+        place(m_knownFrame);
+    fetchIfLost();
+}
+
+void FrameMemory::fetchIfLost()
+{
     const auto isSeen = [this](const QRect& screen) { return screen.intersects(m_knownFrame); };
     const auto screens = availableScreens();
     if (!screens.isEmpty() && std::ranges::none_of(screens, isSeen)) // none at all come back by themselves
         place(centred(m_defaultSize));
-    else if (!m_window.isVisible())
-        place(m_knownFrame);
 }
 
 void FrameMemory::place(const QRect& frame)

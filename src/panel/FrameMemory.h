@@ -14,7 +14,8 @@ namespace cuebright {
 struct PanelContext;
 
 /// Brings a window back to where the user left it, and keeps where that is under `cuebrightWindowFrame`: half a second
-/// after the last move or resize, or when this goes. What the program does to the window itself does not count.
+/// after the last move or resize, or when this goes. What the program does to the window itself does not count: as when
+/// the screen that it is on goes, and it comes to the middle of the primary one.
 class FrameMemory final : public QObject {
 public:
     /// `window` outlives this.
@@ -32,6 +33,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void fetchIfLost();
     void save();
     void place(const QRect& frame);
 

@@ -144,6 +144,17 @@ TEST_F(PanelControllerTest, ADragIsKeptOnceHalfASecondAfterItsEnd)
     EXPECT_EQ(savedFrame()["x"], 50) << "leaving within the half second keeps the frame too";
 }
 
+TEST_F(PanelControllerTest, WhereNoScreenShowsItAnyMoreItComesToTheMiddle)
+{
+    controller().showPanel();
+    const auto middle = panel().geometry();
+    moveTo({9000, 9000});
+    ASSERT_EQ(panel().geometry().topLeft(), QPoint(9000, 9000));
+    Q_EMIT qGuiApp->screenRemoved(QGuiApplication::primaryScreen()); // as if there had been another
+    processEvents();
+    EXPECT_EQ(panel().geometry(), middle);
+}
+
 TEST_F(PanelControllerTest, GlassIsBehindATranslucentPanelUnlessTransparencyIsUnwanted)
 {
     struct Case {
