@@ -42,10 +42,11 @@ public:
     {
         return m_real.readFile(path, spareCapacity);
     }
-    std::optional<FileError> writeFileAtomically(const std::filesystem::path& path, std::string_view content) override
+    std::optional<FileError> writeFileAtomically(
+        const std::filesystem::path& path, std::string_view content, Readers readers) override
     {
         ++writes;
-        return m_real.writeFileAtomically(path, content);
+        return m_real.writeFileAtomically(path, content, readers);
     }
 
     int writes = 0;

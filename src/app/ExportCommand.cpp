@@ -64,7 +64,8 @@ void ExportCommand::write(const QString& file, const std::string& text)
     if (file.isEmpty())
         return;
     const QFileInfo target(file);
-    if (m_context.platform.fileSystem.writeFileAtomically(target.filesystemFilePath(), text))
+    if (m_context.platform.fileSystem.writeFileAtomically(
+            target.filesystemFilePath(), text, FileSystem::Readers::AsUsual))
         return m_context.store.showFeedback("Export failed — check file permissions");
     m_context.store.showFeedback("Exported to " + toUtf8(target.fileName()));
 }

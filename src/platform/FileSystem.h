@@ -33,10 +33,13 @@ public:
     [[nodiscard]] virtual std::optional<std::string> readFile(
         const std::filesystem::path& path, std::size_t spareCapacity) = 0;
 
+    /// Who may read a file that was not there before; one that was keeps its permissions.
+    enum class Readers { Owner, AsUsual };
+
     /// Replaces the file's content as a whole: a reader sees the old content or the new, also after a power cut. On
-    /// failure the old content stays. Symbolic links are followed; a new file is for its owner only.
+    /// failure the old content stays. Symbolic links are followed.
     [[nodiscard]] virtual std::optional<FileError> writeFileAtomically(
-        const std::filesystem::path& path, std::string_view content) = 0;
+        const std::filesystem::path& path, std::string_view content, Readers readers) = 0;
 };
 
 } // namespace cuebright

@@ -78,7 +78,7 @@ void CardStore::writeToDisk()
     }
     m_platform.fileSystem.createDirectories(m_appSupportDir); // somebody may have removed it meanwhile
     m_writeBuffer = std::get<std::string>(std::move(encoded));
-    const auto error = m_platform.fileSystem.writeFileAtomically(stateUrl(), m_writeBuffer);
+    const auto error = m_platform.fileSystem.writeFileAtomically(stateUrl(), m_writeBuffer, FileSystem::Readers::Owner);
     if (error)
         reportSaveFailure(error->description);
     else

@@ -12,6 +12,7 @@ namespace cuebright::test {
 namespace {
 
 namespace fs = std::filesystem;
+using Readers = FileSystem::Readers;
 
 class QtFileSystemTest : public testing::Test {
 protected:
@@ -22,7 +23,7 @@ protected:
         std::optional<FileError> error;
         {
             const AsOrdinaryUser user;
-            error = files.writeFileAtomically(path, "new");
+            error = files.writeFileAtomically(path, "new", Readers::Owner);
         }
         fs::permissions(folder.path(), fs::perms::owner_all);
         return error;
@@ -52,14 +53,14 @@ TEST_P(QtFileSystemOnAFullDisk, AFailedWriteKeepsTheOldFileSaysWhyAndRecovers)
     std::optional<FileError> error;
     {
         const FileSizeLimit limit(GetParam().room);
-        error = files.writeFileAtomically(path, content);
+        error = files.writeFileAtomically(path, content, Readers::Owner);
     }
     ASSERT_TRUE(error);
     EXPECT_EQ(error->description, "File too large");
     EXPECT_EQ(TemporaryFolder::contentOf(path), "old content");
     EXPECT_EQ(folder.entryCount(), 1u) << "a temporary file was left behind";
 
-    EXPECT_FALSE(files.writeFileAtomically(path, content));
+    EXPECT_FALSE(files.writeFileAtomically(path, content, Readers::Owner));
     EXPECT_EQ(TemporaryFolder::contentOf(path), content);
 }
 
@@ -70,9 +71,13 @@ INSTANTIATE_TEST_SUITE_P(Sizes, QtFileSystemOnAFullDisk,
         FullDisk {"HalfOf1MB", 1'048'576, 524'288}, FullDisk {"AllButOneByteOf1MB", 1'048'576, 1'048'575}),
     [](const auto& test) { return test.param.name; });
 
-TEST_F(QtFileSystemTest, ANewFileIsForItsOwnerOnly)
+TEST_F(QtFileSystemTest, ANewFileIsForItsOwnerOnlyOrAsTheUserHasHisFiles)
 {
-    EXPECT_FALSE(files.writeFileAtomically(folder.file("new"), "text"));
+    const auto former = ::umask(027);
+    EXPECT_FALSE(files.writeFileAtomically(folder.file("shared"), "text", Readers::AsUsual));
+    ::umask(former);
+    EXPECT_EQ(TemporaryFolder::modeOf(folder.file("shared")), 0640u);
+    EXPECT_FALSE(files.writeFileAtomically(folder.file("new"), "text", Readers::Owner));
     EXPECT_EQ(TemporaryFolder::contentOf(folder.file("new")), "text");
     EXPECT_EQ(TemporaryFolder::modeOf(folder.file("new")), 0600u);
 }
@@ -81,7 +86,7 @@ TEST_F(QtFileSystemTest, PermissionsOfAnExistingFileAreKept)
 {
     const auto path = folder.write("shared", "old");
     fs::permissions(path, fs::perms(0640));
-    EXPECT_FALSE(files.writeFileAtomically(path, "new"));
+    EXPECT_FALSE(files.writeFileAtomically(path, "new", Readers::Owner));
     EXPECT_EQ(TemporaryFolder::contentOf(path), "new");
     EXPECT_EQ(TemporaryFolder::modeOf(path), 0640u);
 }
@@ -89,7 +94,7 @@ TEST_F(QtFileSystemTest, PermissionsOfAnExistingFileAreKept)
 TEST_F(QtFileSystemTest, AnEmptyContentReplacesTheFile)
 {
     const auto path = folder.write("file", "old");
-    EXPECT_FALSE(files.writeFileAtomically(path, ""));
+    EXPECT_FALSE(files.writeFileAtomically(path, "", Readers::Owner));
     EXPECT_EQ(fs::file_size(path), 0u);
 }
 
@@ -99,7 +104,7 @@ TEST_F(QtFileSystemTest, ASymbolicLinkStaysAndItsTargetIsReplaced)
     const auto target = folder.write("elsewhere/target", "old");
     fs::create_symlink("elsewhere/target", folder.file("link"));
     fs::create_symlink("link", folder.file("link to the link"));
-    EXPECT_FALSE(files.writeFileAtomically(folder.file("link to the link"), "new"));
+    EXPECT_FALSE(files.writeFileAtomically(folder.file("link to the link"), "new", Readers::Owner));
     EXPECT_TRUE(fs::is_symlink(folder.file("link to the link")));
     EXPECT_TRUE(fs::is_symlink(folder.file("link")));
     EXPECT_EQ(TemporaryFolder::contentOf(target), "new");
@@ -108,7 +113,7 @@ TEST_F(QtFileSystemTest, ASymbolicLinkStaysAndItsTargetIsReplaced)
 TEST_F(QtFileSystemTest, ADanglingLinkGetsItsTarget)
 {
     fs::create_symlink("target", folder.file("link"));
-    EXPECT_FALSE(files.writeFileAtomically(folder.file("link"), "new"));
+    EXPECT_FALSE(files.writeFileAtomically(folder.file("link"), "new", Readers::Owner));
     EXPECT_TRUE(fs::is_symlink(folder.file("link")));
     EXPECT_EQ(TemporaryFolder::contentOf(folder.file("target")), "new");
     EXPECT_EQ(TemporaryFolder::modeOf(folder.file("target")), 0600u);
@@ -117,7 +122,7 @@ TEST_F(QtFileSystemTest, ADanglingLinkGetsItsTarget)
 TEST_F(QtFileSystemTest, AFolderIsNoTargetForAWrite)
 {
     fs::create_directory(folder.file("taken"));
-    const auto error = files.writeFileAtomically(folder.file("taken"), "text");
+    const auto error = files.writeFileAtomically(folder.file("taken"), "text", Readers::Owner);
     ASSERT_TRUE(error);
     EXPECT_FALSE(error->description.empty());
     EXPECT_EQ(error->description.find('\n'), std::string::npos);
@@ -126,7 +131,7 @@ TEST_F(QtFileSystemTest, AFolderIsNoTargetForAWrite)
 
 TEST_F(QtFileSystemTest, AMissingFolderFailsTheWriteWithTheSystemsReason)
 {
-    const auto error = files.writeFileAtomically(folder.file("missing/file"), "text");
+    const auto error = files.writeFileAtomically(folder.file("missing/file"), "text", Readers::Owner);
     ASSERT_TRUE(error);
     EXPECT_EQ(error->description, "No such file or directory");
     EXPECT_FALSE(fs::exists(folder.file("missing")));
@@ -225,7 +230,7 @@ TEST_F(QtFileSystemTest, NamesOfAnyScriptWork)
 {
     const auto path = folder.path() / u8"Füße 日本 🙂";
     EXPECT_TRUE(files.createDirectories(path));
-    EXPECT_FALSE(files.writeFileAtomically(path / u8"naïve.md", "text"));
+    EXPECT_FALSE(files.writeFileAtomically(path / u8"naïve.md", "text", Readers::Owner));
     EXPECT_EQ(files.readFile(path / u8"naïve.md", 0), "text");
 }
 

@@ -81,7 +81,7 @@ std::optional<std::string> FakeFileSystem::readFile(const std::filesystem::path&
 }
 
 std::optional<FileError> FakeFileSystem::writeFileAtomically(
-    const std::filesystem::path& path, std::string_view content)
+    const std::filesystem::path& path, std::string_view content, Readers)
 {
     writes.push_back(path.string());
     if (writeError)

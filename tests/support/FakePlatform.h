@@ -96,7 +96,8 @@ public:
     bool exists(const std::filesystem::path& path) override { return files.contains(path.string()); }
     bool removeFile(const std::filesystem::path& path) override { return files.erase(path.string()) > 0; }
     std::optional<std::string> readFile(const std::filesystem::path& path, std::size_t spareCapacity) override;
-    std::optional<FileError> writeFileAtomically(const std::filesystem::path& path, std::string_view content) override;
+    std::optional<FileError> writeFileAtomically(
+        const std::filesystem::path& path, std::string_view content, Readers readers) override;
 
     std::optional<std::filesystem::path> supportDirectory = "/support";
     std::map<std::string, std::string> files;

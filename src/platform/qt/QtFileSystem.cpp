@@ -96,14 +96,15 @@ std::optional<std::string> QtFileSystem::readFile(const std::filesystem::path& p
     }
 }
 
-std::optional<FileError> QtFileSystem::writeFileAtomically(const std::filesystem::path& path, std::string_view content)
+std::optional<FileError> QtFileSystem::writeFileAtomically(
+    const std::filesystem::path& path, std::string_view content, Readers readers)
 {
     const bool isNew = !exists(path);
     QSaveFile file(toQString(path));
     // Without a buffer nothing is left for commit(), which ignores it when its last write fails (seen in Qt 6.4.2).
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         return lastError(file);
-    if (isNew)
+    if (isNew && readers == Readers::Owner)
         file.setPermissions(kOwnerOnly);
     std::optional<FileError> failure;
     if (!writeAll(file, content))

@@ -12,7 +12,8 @@ public:
     bool exists(const std::filesystem::path& path) override;
     bool removeFile(const std::filesystem::path& path) override;
     std::optional<std::string> readFile(const std::filesystem::path& path, std::size_t spareCapacity) override;
-    std::optional<FileError> writeFileAtomically(const std::filesystem::path& path, std::string_view content) override;
+    std::optional<FileError> writeFileAtomically(
+        const std::filesystem::path& path, std::string_view content, Readers readers) override;
 };
 
 } // namespace cuebright
