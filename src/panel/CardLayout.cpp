@@ -1,11 +1,10 @@
 #include "panel/CardLayout.h"
 
 #include "markdown/BlockMetrics.h"
-#include "panel/TextConversion.h"
+#include "panel/BlockText.h"
 #include "theme/Fonts.h"
 #include "theme/QtColors.h"
 
-#include <QFontMetricsF>
 #include <QPainter>
 
 #include <algorithm>
@@ -29,85 +28,6 @@ constexpr double kEmptyCardTop = 8;
 constexpr double kEmptyCardOpacity = 0.5;
 constexpr double kUnlimitedWidth = 1e6;
 constexpr int kLongestPiece = 4096; ///< UTF-16 units; longer texts cost more than their length to break
-
-QFont italic(QFont font)
-{
-    font.setItalic(true);
-    return font;
-}
-
-QFont fontOf(Block::Kind kind, double fontSize)
-{
-    switch (kind) {
-    case Block::Kind::Heading:
-        return serifFont(headingSize(fontSize), QFont::Bold);
-    case Block::Kind::Blockquote:
-        return italic(systemFont(fontSize));
-    case Block::Kind::Bullet:
-    case Block::Kind::NumberedItem:
-    case Block::Kind::Paragraph:
-        break;
-    }
-    return systemFont(fontSize);
-}
-
-QTextCharFormat formatOf(const StyledRun& run)
-{
-    QTextCharFormat format;
-    if (run.monospacedSize) {
-        const auto font = monospacedFont(*run.monospacedSize);
-        format.setFontFamilies(font.families());
-        format.setProperty(QTextFormat::FontPixelSize, font.pixelSize());
-        format.setFontStyleHint(QFont::Monospace);
-        format.setFontWeight(QFont::Normal); // not the heading's
-        format.setFontItalic(false); // nor the quote's
-    }
-    if (run.isBold)
-        format.setFontWeight(QFont::Bold);
-    if (run.isItalic)
-        format.setFontItalic(true);
-    if (run.isUnderlined)
-        format.setFontUnderline(true);
-    if (run.foreground)
-        format.setForeground(toQColor(*run.foreground));
-    if (run.background)
-        format.setBackground(toQColor(*run.background));
-    return format;
-}
-
-/// For the eye a carriage return is a blank; the number of units stays the same.
-QString displayText(const std::string& utf8) { return toQString(utf8).replace(QLatin1Char('\r'), QLatin1Char(' ')); }
-
-std::unique_ptr<QTextLayout> makeText(const QString& text, const QFont& font)
-{
-    auto layout = std::make_unique<QTextLayout>(text, font);
-    QTextOption option;
-    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    option.setTextDirection(Qt::LayoutDirectionAuto);
-    layout->setTextOption(option);
-    return layout;
-}
-
-/// Breaks the text into lines with so much extra space between them.
-void breakLines(QTextLayout& layout, double width, double spacing)
-{
-    double y = 0;
-    layout.beginLayout();
-    for (auto line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-        line.setLineWidth(std::max(width, 1.0));
-        if (line.lineNumber() > 0)
-            y += spacing;
-        line.setPosition({0, y});
-        y += line.height();
-    }
-    layout.endLayout();
-}
-
-double bottomOfLine(const QTextLayout& layout, int index)
-{
-    const auto line = layout.lineAt(index);
-    return line.y() + line.height();
-}
 
 /// Where a piece that starts at `start` may end, not between two halves of one character.
 int pieceEnd(const QString& text, int start)
@@ -161,7 +81,7 @@ void CardLayout::openBlock(const Block& block)
         const auto text = displayText(run.text);
         const auto start = static_cast<int>(m_open.text.size());
         const auto length = static_cast<int>(text.size());
-        m_open.formats.push_back({start, length, formatOf(run)});
+        m_open.formats.push_back({start, length, runFormat(run)});
         if (run.link)
             m_open.links.push_back({start, length, *run.link});
         m_open.text += text;
@@ -182,7 +102,7 @@ void CardLayout::layOutPiece()
     piece.block = m_nextBlock;
     piece.isFirst = isFirst;
     piece.top = m_bottom;
-    const auto font = m_isEmptyCard ? italic(systemFont(m_fontSize)) : fontOf(block.kind, m_fontSize);
+    const auto font = m_isEmptyCard ? italic(systemFont(m_fontSize)) : blockFont(block.kind, m_fontSize);
     piece.text = makeText(m_open.text.mid(start, end - start), font);
     QList<QTextLayout::FormatRange> formats;
     for (auto format : m_open.formats) {
