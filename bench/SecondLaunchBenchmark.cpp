@@ -1,6 +1,7 @@
 // Start to exit of a second launch, against a Qt program that only starts its toolkit, in turns.
 // Needs a display, and no Cuebright running: dbus-run-session xvfb-run build/bench/second_launch_benchmark [RUNS]
-#include <algorithm>
+#include "support/Median.h"
+
 #include <chrono>
 #include <csignal>
 #include <cstdio>
@@ -15,6 +16,7 @@
 
 namespace {
 
+using cuebright::bench::median;
 using Clock = std::chrono::steady_clock;
 using Milliseconds = std::chrono::duration<double, std::milli>;
 
@@ -35,12 +37,6 @@ std::optional<double> timeToExit(const std::string& program)
     if (!process || waitpid(*process, &status, 0) != *process || status != 0)
         return std::nullopt;
     return Milliseconds(Clock::now() - begin).count();
-}
-
-double median(std::vector<double> values)
-{
-    std::nth_element(values.begin(), values.begin() + std::ssize(values) / 2, values.end());
-    return values[values.size() / 2];
 }
 
 } // namespace

@@ -1,9 +1,10 @@
 // Start of a program until its window is mapped and until it has painted, against an empty Qt window, in turns.
 // Needs an X display without a window manager: xvfb-run build/bench/startup_benchmark [RUNS]
+#include "support/Median.h"
+
 #include <xcb/damage.h>
 #include <xcb/xcb.h>
 
-#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -12,6 +13,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <poll.h>
@@ -149,13 +151,12 @@ std::optional<Run> start(const std::string& program)
     return run;
 }
 
-template <typename Field> double median(const std::vector<Run>& runs, Field field)
+template <typename Field> double medianOf(const std::vector<Run>& runs, Field field)
 {
     std::vector<double> values;
     for (const auto& run : runs)
         values.push_back(field(run));
-    std::nth_element(values.begin(), values.begin() + std::ssize(values) / 2, values.end());
-    return values[values.size() / 2];
+    return cuebright::bench::median(std::move(values));
 }
 
 } // namespace
@@ -179,8 +180,8 @@ int main(int argc, char* argv[])
         }
     }
     const auto print = [&](const char* what, auto field) {
-        const double reference = median(runs[0], field);
-        const double ours = median(runs[1], field);
+        const double reference = medianOf(runs[0], field);
+        const double ours = medianOf(runs[1], field);
         std::printf("%-22s %10.1f %10.1f %8.2f\n", what, reference, ours, ours / reference);
     };
     std::printf("%-22s %10s %10s %8s\n", "median", "empty", "cuebright", "ratio");
