@@ -33,7 +33,8 @@ public:
     [[nodiscard]] virtual std::optional<std::string> readFile(
         const std::filesystem::path& path, std::size_t spareCapacity) = 0;
 
-    /// Who may read a file that was not there before; one that was keeps its permissions.
+    /// Who may read a file that was not there before; one that was keeps its permissions. A file for its owner alone is
+    /// the program's: it is replaced even where it may not be written.
     enum class Readers { Owner, AsUsual };
 
     /// Replaces the file's content as a whole: a reader sees the old content or the new, also after a power cut. On

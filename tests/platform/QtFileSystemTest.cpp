@@ -147,20 +147,18 @@ TEST_F(QtFileSystemTest, AFolderWithoutWritePermissionKeepsTheOldFile)
     EXPECT_EQ(TemporaryFolder::contentOf(path), "old");
 }
 
-TEST_F(QtFileSystemTest, AFileWithoutAnyPermissionIsNeitherReadNorReplaced)
+TEST_F(QtFileSystemTest, AFileThatMayNotBeWrittenIsReplacedOnlyWhereItIsTheProgramsOwn)
 {
-    const auto path = folder.write("file", "old");
-    fs::permissions(path, fs::perms::none);
-    EXPECT_TRUE(writeAsUser(path, fs::perms(0777)));
     fs::permissions(folder.path(), fs::perms(0777));
-    std::optional<std::string> content;
-    {
-        const AsOrdinaryUser user;
-        content = files.readFile(path, 0);
+    const AsOrdinaryUser user;
+    for (const auto mode : {fs::perms::none, fs::perms(0444)}) {
+        const auto path = folder.write("file" + std::to_string(static_cast<unsigned>(mode)), "old");
+        fs::permissions(path, mode);
+        EXPECT_EQ(files.readFile(path, 0).has_value(), mode != fs::perms::none);
+        EXPECT_TRUE(files.writeFileAtomically(path, "exported", FileSystem::Readers::AsUsual));
+        EXPECT_FALSE(files.writeFileAtomically(path, "new", FileSystem::Readers::Owner));
+        EXPECT_EQ(files.readFile(path, 0), "new");
     }
-    EXPECT_FALSE(content);
-    fs::permissions(path, fs::perms(0600));
-    EXPECT_EQ(TemporaryFolder::contentOf(path), "old");
 }
 
 TEST_F(QtFileSystemTest, AFileIsReadWholeWithRoomBehindIt)

@@ -100,6 +100,8 @@ std::optional<FileError> QtFileSystem::writeFileAtomically(
     const std::filesystem::path& path, std::string_view content, Readers readers)
 {
     const bool isNew = !exists(path);
+    if (!isNew && readers == Readers::Owner && !QFileInfo(path).isWritable())
+        QFile::setPermissions(toQString(path), kOwnerOnly);
     QSaveFile file(toQString(path));
     // Without a buffer nothing is left for commit(), which ignores it when its last write fails (seen in Qt 6.4.2).
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
