@@ -76,6 +76,14 @@ int topRowDigit(quint32 scanCode)
     return static_cast<int>((scanCode - first + 1) % 10);
 }
 
+/// The signs of the menus' keys: where a layout has one in the top row, it stays what it is there.
+bool isMenuSign(int key)
+{
+    constexpr std::array signs {Qt::Key_Minus, Qt::Key_Equal, Qt::Key_Plus, Qt::Key_BracketLeft, Qt::Key_BracketRight,
+        Qt::Key_Comma, Qt::Key_Period};
+    return std::ranges::find(signs, key) != signs.end();
+}
+
 } // namespace
 
 KeyStroke KeyStroke::of(const QKeyEvent& event)
@@ -83,7 +91,7 @@ KeyStroke KeyStroke::of(const QKeyEvent& event)
     KeyStroke stroke {event.modifiers() & kCountingModifiers, event.key()};
     if (event.key() >= Qt::Key_0 && event.key() <= Qt::Key_9)
         stroke.digit = event.key() - Qt::Key_0;
-    else
+    else if (!isMenuSign(event.key()))
         stroke.digit = topRowDigit(event.nativeScanCode());
     return stroke;
 }

@@ -76,6 +76,7 @@ TEST(PanelKeys, DigitsAreFoundOnKeypadsAndOnLayoutsThatShiftThem)
     EXPECT_EQ(digitOf(Qt::Key_Eacute, 11), 2) << "é on the 2 key of a French layout";
     EXPECT_EQ(digitOf(Qt::Key_Agrave, 19), 0);
     EXPECT_EQ(digitOf(Qt::Key_A, 38), -1);
+    EXPECT_EQ(digitOf(Qt::Key_Minus, 15), -1) << "- on the 6 key of a French layout makes the text smaller";
     EXPECT_EQ(KeyStroke::of(QKeyEvent(QEvent::KeyPress, Qt::Key_7, kCommand | Qt::KeypadModifier)).modifiers, kCommand)
         << "the keypad is no modifier";
 }
