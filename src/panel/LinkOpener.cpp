@@ -5,6 +5,9 @@
 #include <QDesktopServices>
 #include <QUrl>
 
+#include <algorithm>
+#include <array>
+
 namespace cuebright {
 
 namespace {
@@ -16,12 +19,14 @@ QUrl urlOf(std::string_view target) { return QUrl(toQString(target), QUrl::Toler
 bool isOpenableLink(std::string_view target)
 {
     const auto url = urlOf(target);
-    if (!url.isValid())
-        return false;
     const auto scheme = url.scheme(); // in lower case
-    if (scheme == QLatin1String("mailto"))
-        return !url.path().isEmpty();
-    return (scheme == QLatin1String("http") || scheme == QLatin1String("https")) && !url.host().isEmpty();
+    if (!url.isValid() || scheme.size() < 2) // one letter is a drive
+        return false;
+    if (scheme == QLatin1String("http") || scheme == QLatin1String("https"))
+        return !url.host().isEmpty();
+    constexpr std::array scripts {"javascript", "vbscript", "data"};
+    const bool isScript = std::ranges::any_of(scripts, [&](const char* name) { return scheme == QLatin1String(name); });
+    return !isScript && !(url.host().isEmpty() && url.path().isEmpty());
 }
 
 void openLink(std::string_view target)
