@@ -41,9 +41,10 @@ std::string safeFileName(std::string_view deckName)
 {
     // What is that far behind is cut off anyway.
     auto name = withoutOddCharacters(toQString(deckName).left(kLongestName));
+    // A hidden file, somebody's home, a resource of the toolkit's: signs that mean something at the front.
+    const auto isSkipped = [](QChar c) { return c.isSpace() || QLatin1String(".~:").contains(c); };
     qsizetype start = 0;
-    while (start < name.size()
-        && (name[start].isSpace() || name[start] == QLatin1Char('.') || name[start] == QLatin1Char('~')))
+    while (start < name.size() && isSkipped(name[start]))
         ++start;
     name = shortened(name.mid(start)).trimmed();
     return name.isEmpty() ? "Untitled" : toUtf8(name);

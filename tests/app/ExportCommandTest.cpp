@@ -36,6 +36,7 @@ TEST(SafeFileName, IsWhatFileSystemsTake)
             "d\x7f",
             "a b c d"},
         {"a hidden file", ".profile", "profile"},
+        {"a resource of the toolkit", ":) Talk", ") Talk"},
         {"nothing but dots", " .. ", "Untitled"},
         {"nothing", "", "Untitled"},
         {"too long", longName, std::string(200, 'x')},
