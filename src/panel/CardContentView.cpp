@@ -111,7 +111,7 @@ void CardContentView::makeEditView()
     m_column->insertWidget(m_column->indexOf(m_cardArea) + 1, m_editView, 1);
 }
 
-int CardContentView::columnPadding(int width) { return std::max((width - kColumnWidth) / 2, kMinSidePadding); }
+int CardContentView::columnPadding(int width) { return std::max((width - kColumnWidth + 1) / 2, kMinSidePadding); }
 
 void CardContentView::takeNotice(const Change& change)
 {

@@ -9,8 +9,6 @@
 #include <QScreen>
 #include <QWidget>
 
-#include <algorithm>
-
 namespace cuebright {
 
 namespace {
@@ -74,9 +72,8 @@ void FrameMemory::prepareToShow()
 
 void FrameMemory::fetchIfLost()
 {
-    const auto isSeen = [this](const QRect& screen) { return screen.intersects(m_knownFrame); };
     const auto screens = availableScreens();
-    if (!screens.isEmpty() && std::ranges::none_of(screens, isSeen)) // none at all come back by themselves
+    if (!screens.isEmpty() && !isSeen(m_knownFrame, screens)) // none at all come back by themselves
         place(centred(m_defaultSize));
 }
 

@@ -88,6 +88,7 @@ void PanelController::showPanel()
     reapplyCaptureExclusion();
     m_isMeantToShow = true;
     m_frameMemory.prepareToShow();
+    m_showHideAnimation.setOpacity(m_context.store.opacity()); // it may have changed a moment ago
     m_context.desktop.windowSystem.keepAboveFullScreen(m_panel->winId());
     m_showHideAnimation.show(motion(m_context));
     if (!m_panel->isOnScreen() && !m_isContentCovered)

@@ -11,6 +11,7 @@ namespace {
 
 /// No window system has larger coordinates.
 constexpr double kFarthest = 1 << 20;
+constexpr int kTitleBar = 20; // no window manager's is lower
 
 int bottom(const QRect& rect) { return rect.y() + rect.height(); }
 
@@ -20,6 +21,12 @@ Preferences::Numbers storedFrame(const QRect& frame, const QRect& primaryScreen)
 {
     return {{"x", frame.x() - primaryScreen.x()}, {"y", bottom(primaryScreen) - bottom(frame)}, {"w", frame.width()},
         {"h", frame.height()}};
+}
+
+bool isSeen(const QRect& frame, const QList<QRect>& screens)
+{
+    const auto withTitleBar = frame.adjusted(0, -kTitleBar, 0, 0);
+    return std::ranges::any_of(screens, [&](const QRect& screen) { return screen.intersects(withTitleBar); });
 }
 
 std::optional<QRect> restoredFrame(const Preferences::Numbers& stored, const QRect& primaryScreen,
@@ -35,8 +42,7 @@ std::optional<QRect> restoredFrame(const Preferences::Numbers& stored, const QRe
     const double x = primaryScreen.x() + stored.at("x");
     const double y = bottom(primaryScreen) - stored.at("y") - height;
     const QRect frame = QRectF(x, y, width, height).toRect();
-    const bool isSeen = std::ranges::any_of(screens, [&](const QRect& screen) { return screen.intersects(frame); });
-    return isSeen ? std::optional(frame) : std::nullopt;
+    return isSeen(frame, screens) ? std::optional(frame) : std::nullopt;
 }
 
 } // namespace cuebright

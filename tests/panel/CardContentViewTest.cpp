@@ -17,6 +17,7 @@ protected:
 TEST_F(CardContentViewTest, TheColumnIsCentredAndNeverTouchesTheEdges)
 {
     EXPECT_EQ(CardContentView::columnPadding(700), 50);
+    EXPECT_EQ(CardContentView::columnPadding(701), 51) << "the column is never wider than 600";
     EXPECT_EQ(CardContentView::columnPadding(1000), 200);
     EXPECT_EQ(CardContentView::columnPadding(500), 40);
 }

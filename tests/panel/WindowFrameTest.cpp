@@ -43,6 +43,8 @@ TEST(WindowFrame, IsRaisedToItsMinimumAndGivenUpWhereNobodySeesIt)
             QRect(10, 1080 - 20 - 360, 480, 360)},
         {"a corner on the screen is enough", {{"x", 1900}, {"y", -550}, {"w", 720}, {"h", 560}},
             QRect(1900, 1070, 720, 560)},
+        {"parked, its title bar on the screen", {{"x", 10}, {"y", -560}, {"w", 720}, {"h", 560}},
+            QRect(10, 1080, 720, 560)},
         {"only under the desktop's own panel", {{"x", 0}, {"y", 1060}, {"w", 720}, {"h", 560}}, std::nullopt},
         {"on a screen that has gone", {{"x", 4000}, {"y", 100}, {"w", 720}, {"h", 560}}, std::nullopt},
         {"beyond all numbers", {{"x", 1e300}, {"y", 0}, {"w", 720}, {"h", 560}}, std::nullopt},
