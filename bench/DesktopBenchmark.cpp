@@ -1,5 +1,5 @@
 // The running program on a private display: from the hot key to the window, and what it does while nothing happens.
-// bench/desktop_benchmark [SECONDS of idleness, 30 unless given]
+// bench/desktop_benchmark [SECONDS of idleness, 60 unless given]
 #include "desktop/RunningPanel.h"
 
 #include <algorithm>
@@ -15,6 +15,8 @@
 
 #include <X11/Xlib.h>
 #include <X11/extensions/XTest.h>
+#include <poll.h>
+#include <xcb/damage.h>
 
 using namespace cuebright::test;
 
@@ -61,6 +63,47 @@ private:
     Desktop::WindowId m_window;
 };
 
+/// Notes when a window paints.
+class PaintWatch final {
+public:
+    explicit PaintWatch(Desktop::WindowId window)
+        : m_connection(xcb_connect(desktop().environment().at("DISPLAY").c_str(), nullptr))
+    {
+        std::free(xcb_damage_query_version_reply(m_connection, xcb_damage_query_version(m_connection, 1, 1), nullptr));
+        m_paint = xcb_get_extension_data(m_connection, &xcb_damage_id)->first_event + XCB_DAMAGE_NOTIFY;
+        xcb_damage_create(m_connection, xcb_generate_id(m_connection), static_cast<xcb_drawable_t>(window),
+            XCB_DAMAGE_REPORT_LEVEL_RAW_RECTANGLES);
+        std::free(xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
+        while (const auto event = xcb_poll_for_event(m_connection)) // what is there already counts as painted
+            std::free(event);
+    }
+    ~PaintWatch() { xcb_disconnect(m_connection); }
+    PaintWatch(const PaintWatch&) = delete;
+    PaintWatch& operator=(const PaintWatch&) = delete;
+
+    /// The times of the paints in the next `seconds`; what follows within a tenth of a second is the same one.
+    std::vector<Milliseconds> watch(int seconds)
+    {
+        const auto start = Clock::now();
+        std::vector<Milliseconds> times;
+        while (Clock::now() - start < std::chrono::seconds(seconds)) {
+            pollfd waiting {xcb_get_file_descriptor(m_connection), POLLIN, 0};
+            ::poll(&waiting, 1, 20);
+            while (const auto event = xcb_poll_for_event(m_connection)) {
+                const Milliseconds now = Clock::now() - start;
+                if ((event->response_type & 0x7f) == m_paint && (times.empty() || (now - times.back()).count() > 100))
+                    times.push_back(now);
+                std::free(event);
+            }
+        }
+        return times;
+    }
+
+private:
+    xcb_connection_t* m_connection;
+    int m_paint;
+};
+
 /// How often each thread of a process has been given the processor.
 std::map<std::string, long> turns(pid_t process)
 {
@@ -76,17 +119,39 @@ std::map<std::string, long> turns(pid_t process)
     return counts;
 }
 
-void idle(const char* what, pid_t process, int seconds)
+/// The paints meanwhile.
+std::vector<Milliseconds> idle(const char* what, const RunningPanel& panel, int seconds)
 {
     // The toolkit's helper threads for painting go half a minute after they were last used.
     std::this_thread::sleep_for(std::chrono::seconds(35));
-    const auto before = turns(process);
-    std::this_thread::sleep_for(std::chrono::seconds(seconds));
+    PaintWatch paints(panel.window());
+    const auto before = turns(panel.process());
+    auto times = paints.watch(seconds);
+    std::printf("%-44s", what);
     long count = 0;
-    for (const auto& [thread, number] : turns(process))
-        count += number - (before.contains(thread) ? before.at(thread) : 0);
-    std::printf("%-44s %6ld in %d s\n", what, count, seconds);
+    std::string each;
+    for (const auto& [thread, number] : turns(panel.process())) {
+        const auto more = number - (before.contains(thread) ? before.at(thread) : 0);
+        count += more;
+        each += more > 0 ? " " + std::to_string(more) : "";
+    }
+    std::printf(" %6ld in %d s (by thread:%s), %zu paints\n", count, seconds, each.empty() ? " none" : each.c_str(),
+        times.size());
     std::fflush(stdout);
+    return times;
+}
+
+/// How far apart from a whole second the paints come, from the earliest to the latest.
+void printAlignment(const std::vector<Milliseconds>& paints)
+{
+    double earliest = 0;
+    double latest = 0;
+    for (std::size_t i = 0; i < paints.size(); ++i) {
+        const double late = (paints[i] - paints[0]).count() - 1000.0 * static_cast<double>(i);
+        earliest = std::min(earliest, late);
+        latest = std::max(latest, late);
+    }
+    std::printf("%-44s %6.1f ms over all of them\n", "  they keep to whole seconds within", latest - earliest);
 }
 
 } // namespace
@@ -94,9 +159,16 @@ void idle(const char* what, pid_t process, int seconds)
 int main(int argc, char* argv[])
 {
     constexpr int kPresses = 21;
-    const int seconds = argc > 1 ? std::atoi(argv[1]) : 30;
+    const int seconds = argc > 1 ? std::atoi(argv[1]) : 60;
     const Home home;
-    const RunningPanel panel(home, {{"QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "0"}}, RunningPanel::Keyboard::Left);
+    const RunningPanel panel(home, {{"QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "0"}});
+    idle("wake-ups, panel shown", panel, seconds);
+    panel.press("Tab"); // from the card to the timer
+    panel.press("space");
+    const auto ticks = idle("wake-ups, timer running", panel, seconds);
+    printAlignment(ticks);
+    panel.press("space");
+    idle("wake-ups, timer paused", panel, seconds);
     HotKeyWatch watch(panel.window());
     std::vector<Milliseconds> times;
     for (int i = 0; i < kPresses; ++i) {
@@ -108,8 +180,7 @@ int main(int argc, char* argv[])
     std::ranges::sort(times);
     std::printf("%-44s %6.1f ms (slowest %.1f), 3 ms of it the key's own pace\n", "hot key press to MapNotify, median",
         times[times.size() / 2].count(), times.back().count());
-    idle("wake-ups, panel shown", panel.process(), seconds);
     (void)watch.pressAndWaitFor(UnmapNotify);
-    idle("wake-ups, panel hidden", panel.process(), seconds);
-    return 0;
+    idle("wake-ups, panel hidden", panel, seconds);
+    return ticks.empty() ? 1 : 0; // the timer never ran
 }
