@@ -106,6 +106,8 @@ public:
 
     void show(Icon icon, Ink ink)
     {
+        if (m_icon == icon && m_ink == ink && !accessibleName().isEmpty())
+            return;
         m_icon = icon;
         m_ink = ink;
         setAccessibleName(icon == Icon::Pause ? QStringLiteral("Pause timer") : QStringLiteral("Start timer"));
