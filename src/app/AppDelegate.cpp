@@ -31,9 +31,9 @@ void AppDelegate::applicationDidFinishLaunching()
 {
     m_panelController = std::make_unique<PanelController>(m_context);
     auto& panel = m_panelController->panelWindow();
-    m_editCommands = std::make_unique<EditCommands>(m_store, panel.undoManager());
-    m_mainMenu = std::make_unique<MainMenu>(
-        m_context, *m_editCommands, *panel.undoManager(), [this](Command command) { perform(command); });
+    m_editCommands = std::make_unique<EditCommands>(m_store, panel);
+    m_mainMenu =
+        std::make_unique<MainMenu>(m_context, *m_editCommands, panel, [this](Command command) { perform(command); });
     m_mainMenu->addActionsTo(panel);
     m_exportCommand = std::make_unique<ExportCommand>(m_context, panel);
     showOnboarding();
@@ -75,7 +75,6 @@ void AppDelegate::saveEverything()
 
 void AppDelegate::quit()
 {
-    applicationWillTerminate();
     // Not QApplication::quit(): a window that stays visible after its close event would cancel that.
     QCoreApplication::exit(0);
 }

@@ -8,6 +8,7 @@
 #include "app/SettingsWindow.h"
 #include "panel/LinkOpener.h"
 #include "panel/NotesPanel.h"
+#include "panel/OpenSheets.h"
 #include "panel/PanelController.h"
 #include "platform/RemoteRequest.h"
 #include "platform/qt/WindowActivation.h"
@@ -88,11 +89,13 @@ void AppDelegate::perform(Command command)
 
 void AppDelegate::perform(const RemoteRequest& request)
 {
-    const auto question = QApplication::activeModalWidget();
+    const bool isWaiting = isWaitingForAnswer(*panelWindow());
     switch (request.action) {
     case RemoteRequest::Action::Activate:
         applicationShouldHandleReopen();
-        return activateForUser(question ? *question : *panelWindow(), request.token);
+        if (const auto question = QApplication::activeModalWidget())
+            return activateForUser(*question, request.token);
+        return activateForUser(*panelWindow(), request.token);
     case RemoteRequest::Action::ShowPanel:
         m_panelController->showPanel();
         break;
@@ -100,11 +103,11 @@ void AppDelegate::perform(const RemoteRequest& request)
         m_notifications.post(kTogglePanelNotification);
         break;
     case RemoteRequest::Action::NextCard:
-        if (!question)
+        if (!isWaiting)
             m_store.nextCard();
         break;
     case RemoteRequest::Action::PreviousCard:
-        if (!question)
+        if (!isWaiting)
             m_store.prevCard();
         break;
     }

@@ -50,15 +50,19 @@ bool isCommandChecked(Command command, const CardStore& store)
     return theme && store.theme() == theme;
 }
 
-bool isTextCommand(Command command)
+bool isCardCommand(Command command)
 {
     switch (command) {
-    case Command::Undo:
-    case Command::Redo:
-    case Command::Cut:
-    case Command::Copy:
-    case Command::Paste:
-    case Command::SelectAll:
+    case Command::NewCard:
+    case Command::DeleteCard:
+    case Command::NewDeck:
+    case Command::DeleteDeck:
+    case Command::RenameDeck:
+    case Command::ExportDeck:
+    case Command::SaveCard:
+    case Command::CancelEdit:
+    case Command::MoveCardUp:
+    case Command::MoveCardDown:
         return true;
     default:
         return false;

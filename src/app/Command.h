@@ -48,8 +48,8 @@ enum class Command {
 [[nodiscard]] bool isCommandCheckable(Command command);
 [[nodiscard]] bool isCommandChecked(Command command, const CardStore& store);
 
-/// Undo, Redo, Cut, Copy, Paste and Select All.
-[[nodiscard]] bool isTextCommand(Command command);
+/// Whether the command changes decks, cards or what is being edited, at once or after a question.
+[[nodiscard]] bool isCardCommand(Command command);
 
 /// Whether a held key may perform the command again and again.
 [[nodiscard]] bool isCommandRepeatable(Command command);

@@ -1,17 +1,19 @@
 #include "app/EditCommands.h"
 
+#include "panel/NotesPanel.h"
+#include "panel/OpenSheets.h"
 #include "store/CardStore.h"
 #include "store/UndoManager.h"
 
 #include <QApplication>
+#include <QClipboard>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QMetaObject>
 #include <QPlainTextEdit>
 #include <QTextDocument>
 #include <QTextEdit>
-
-#include <utility>
 
 namespace cuebright {
 
@@ -44,6 +46,15 @@ bool isText(const QWidget* widget)
         || qobject_cast<const QTextEdit*>(widget);
 }
 
+/// A label has no slots for these, and its own keys are the menus'.
+void performOn(QLabel& label, Command command)
+{
+    if (command == Command::Copy && label.hasSelectedText())
+        QGuiApplication::clipboard()->setText(label.selectedText());
+    else if (command == Command::SelectAll)
+        label.setSelection(0, static_cast<int>(label.text().size()));
+}
+
 bool isAvailable(const QWidget* text, bool isUndo)
 {
     if (const auto line = qobject_cast<const QLineEdit*>(text))
@@ -55,9 +66,10 @@ bool isAvailable(const QWidget* text, bool isUndo)
 
 } // namespace
 
-EditCommands::EditCommands(const CardStore& store, std::shared_ptr<UndoManager> undoManager)
+EditCommands::EditCommands(const CardStore& store, const NotesPanel& panel)
     : m_store(store)
-    , m_undoManager(std::move(undoManager))
+    , m_panel(panel)
+    , m_undoManager(panel.undoManager())
 {
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget* old, QWidget* now) {
         if (qobject_cast<QMenuBar*>(now))
@@ -81,15 +93,19 @@ bool EditCommands::perform(Command command)
     if (!slot)
         return false;
     if (const auto text = focusedText())
-        QMetaObject::invokeMethod(text, slot);
-    else if (m_store.isEditing())
+        return QMetaObject::invokeMethod(text, slot);
+    if (const auto label = qobject_cast<QLabel*>(QApplication::focusWidget()))
+        performOn(*label, command);
+    if (doesStackRest())
         return true;
-    else if (command == Command::Undo)
+    if (command == Command::Undo)
         m_undoManager->undo();
     else if (command == Command::Redo)
         m_undoManager->redo();
     return true;
 }
+
+bool EditCommands::doesStackRest() const { return m_store.isEditing() || isWaitingForAnswer(m_panel); }
 
 std::string EditCommands::title(Command undoOrRedo) const
 {
@@ -104,7 +120,7 @@ bool EditCommands::isEnabled(Command undoOrRedo) const
     const bool isUndo = undoOrRedo == Command::Undo;
     if (const auto text = focusedText())
         return isAvailable(text, isUndo);
-    if (m_store.isEditing())
+    if (doesStackRest())
         return false;
     return isUndo ? m_undoManager->canUndo() : m_undoManager->canRedo();
 }

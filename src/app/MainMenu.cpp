@@ -3,11 +3,12 @@
 #include "app/EditCommands.h"
 #include "app/MenuTree.h"
 #include "panel/MarkdownEditor.h"
+#include "panel/NotesPanel.h"
+#include "panel/OpenSheets.h"
 #include "panel/TextConversion.h"
 #include "store/CardStore.h"
 #include "store/UndoManager.h"
 
-#include <QApplication>
 #include <QMenuBar>
 
 #include <utility>
@@ -36,9 +37,10 @@ QAction::MenuRole roleOf(Command command)
 } // namespace
 
 MainMenu::MainMenu(
-    const PanelContext& context, EditCommands& edit, UndoManager& undoManager, std::function<void(Command)> perform)
+    const PanelContext& context, EditCommands& edit, const NotesPanel& panel, std::function<void(Command)> perform)
     : m_context(context)
     , m_edit(edit)
+    , m_panel(panel)
     , m_perform(std::move(perform))
     , m_refresh(context.platform.mainQueue, [this] { refresh(); })
 {
@@ -50,7 +52,7 @@ MainMenu::MainMenu(
     }
     refresh();
     m_storeSubscription = context.store.willChange.subscribe([this](const Change&) { m_refresh.request(); });
-    m_undoSubscription = undoManager.changed.subscribe([this] { m_refresh.request(); });
+    m_undoSubscription = panel.undoManager()->changed.subscribe([this] { m_refresh.request(); });
     edit.targetChanged = [this] { m_refresh.request(); };
 }
 
@@ -85,7 +87,7 @@ void MainMenu::trigger(Command command)
 {
     m_refresh.request(); // the toolkit has turned a check mark round by itself
     // The toolkit keeps the keys away from the window that a sheet belongs to, and only from that one.
-    if (QApplication::activeModalWidget() && command != Command::Quit && !isTextCommand(command))
+    if (isCardCommand(command) && isWaitingForAnswer(m_panel))
         return;
     MarkdownEditor::commitComposition(); // the command may end the edit
     if (!m_edit.perform(command))

@@ -18,7 +18,7 @@ class QMenuBar;
 namespace cuebright {
 
 class EditCommands;
-class UndoManager;
+class NotesPanel;
 struct MenuItem;
 
 /// The main menu's menus and actions, made once. What is enabled, what carries a check mark, and what Undo and Redo are
@@ -28,9 +28,10 @@ struct MenuItem;
 /// A key works in every window that has the actions.
 class MainMenu final {
 public:
-    /// `perform` gets every command but those that `edit` performs. All that is passed in must outlive this.
-    MainMenu(const PanelContext& context, EditCommands& edit, UndoManager& undoManager,
-        std::function<void(Command)> perform);
+    /// `perform` gets every command but those that `edit` performs, and none that changes cards while a sheet on the
+    /// panel waits for an answer. All that is passed in must outlive this.
+    MainMenu(
+        const PanelContext& context, EditCommands& edit, const NotesPanel& panel, std::function<void(Command)> perform);
     ~MainMenu();
     MainMenu(const MainMenu&) = delete;
     MainMenu& operator=(const MainMenu&) = delete;
@@ -49,6 +50,7 @@ private:
 
     const PanelContext& m_context;
     EditCommands& m_edit;
+    const NotesPanel& m_panel;
     std::function<void(Command)> m_perform;
     std::vector<std::unique_ptr<QMenu>> m_menus;
     std::map<Command, QAction*> m_actions; ///< owned by their menus

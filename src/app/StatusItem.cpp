@@ -3,13 +3,13 @@
 #include "app/ApplicationIcon.h"
 #include "panel/MarkdownEditor.h"
 #include "panel/NotesPanel.h"
+#include "panel/OpenSheets.h"
 #include "panel/PanelController.h"
 #include "panel/TextConversion.h"
 #include "platform/qt/TrayWatch.h"
 #include "store/CardStore.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QSystemTrayIcon>
 
 #include <utility>
@@ -110,7 +110,7 @@ void StatusItem::switchDeckFromMenu(const QAction& item)
 {
     const auto index = item.data().toLongLong();
     MarkdownEditor::commitComposition(); // the switch ends an open edit
-    if (!QApplication::activeModalWidget()) // a question is about the card and the deck that it was asked about
+    if (!isWaitingForAnswer(m_panelController.panelWindow()))
         m_context.store.switchToDeck(index);
     m_shown.clear(); // the toolkit has turned a check mark round by itself
     m_refresh.request();

@@ -36,6 +36,8 @@ int main(int, char* argv[])
     });
 
     const auto onRequest = process.terminationRequested.subscribe([&] { delegate.quit(); });
+    QObject::connect(
+        &application, &QCoreApplication::aboutToQuit, &application, [&] { delegate.applicationWillTerminate(); });
     // The session ends: the desktop may kill the program as soon as this returns.
     QObject::connect(
         &application, &QGuiApplication::commitDataRequest, &application, [&] { delegate.applicationWillTerminate(); },

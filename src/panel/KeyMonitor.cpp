@@ -1,5 +1,7 @@
 #include "panel/KeyMonitor.h"
 
+#include "panel/OpenSheets.h"
+
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMenuBar>
@@ -12,18 +14,9 @@ namespace cuebright {
 
 namespace {
 
-bool isBlockedBy(const QWidget* modal, const QWidget& window)
-{
-    if (modal && modal->windowModality() == Qt::ApplicationModal)
-        return true;
-    while (modal && modal != &window)
-        modal = modal->parentWidget();
-    return modal;
-}
-
 bool isKeyboardElsewhere(const QWidget& window)
 {
-    return QApplication::activePopupWidget() || isBlockedBy(QApplication::activeModalWidget(), window)
+    return QApplication::activePopupWidget() || isWaitingForAnswer(window)
         || qobject_cast<QMenuBar*>(QApplication::focusWidget());
 }
 

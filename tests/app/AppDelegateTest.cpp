@@ -35,7 +35,7 @@ TEST_F(AppDelegateTest, LeavingKeepsAnOpenEditAndWritesTheFile)
 {
     key(Qt::Key_E, Qt::ControlModifier);
     QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("Kept"));
-    delegate->quit();
+    delegate->applicationWillTerminate();
     ASSERT_TRUE(saved());
     EXPECT_TRUE(saved()->decks[0].cards[0].content.starts_with("# Kept\n"));
 }

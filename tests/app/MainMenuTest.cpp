@@ -1,6 +1,8 @@
 #include "app/MenuFixture.h"
 
 #include <QLineEdit>
+#include <QClipboard>
+#include <QLabel>
 #include <QMessageBox>
 
 namespace cuebright::test {
@@ -151,8 +153,10 @@ TEST_F(MainMenuTest, UndoOutsideTheTextRestsWhileACardIsEdited)
     EXPECT_FALSE(mainMenu.action(Command::Undo).isEnabled());
 }
 
-TEST_F(MainMenuTest, NothingHappensBehindAQuestion)
+TEST_F(MainMenuTest, CardsStayAsTheyAreBehindAQuestion)
 {
+    store.addCard();
+    store.saveEdit();
     QWidget other;
     mainMenu.addActionsTo(other);
     giveKeyboardTo(other);
@@ -160,9 +164,23 @@ TEST_F(MainMenuTest, NothingHappensBehindAQuestion)
     sheet.setWindowModality(Qt::WindowModal);
     sheet.open();
     trigger(Command::NewCard);
+    trigger(Command::Undo);
+    EXPECT_EQ(store.activeDeck()->cards.size(), 4U);
     EXPECT_TRUE(performed.empty());
-    trigger(Command::Quit);
-    EXPECT_EQ(performed, std::vector {Command::Quit});
+    trigger(Command::IncreaseOpacity);
+    EXPECT_EQ(performed, std::vector {Command::IncreaseOpacity}) << "what leaves the cards alone works";
+}
+
+TEST_F(MainMenuTest, ALabelThatCanBeSelectedIsCopied)
+{
+    QLabel label(QStringLiteral("me@example.org"));
+    label.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    mainMenu.addActionsTo(label);
+    giveKeyboardTo(label);
+    label.setFocus();
+    trigger(Command::SelectAll);
+    trigger(Command::Copy);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("me@example.org"));
 }
 
 TEST_F(MainMenuTest, EditCommandsStillActOnTheTextWhileTheMenuBarHasTheKeyboard)

@@ -63,8 +63,8 @@ protected:
     std::vector<Command> performed;
     PanelController controller {context};
     NotesPanel& panel = controller.panelWindow();
-    EditCommands edit {store, panel.undoManager()};
-    MainMenu mainMenu {context, edit, *panel.undoManager(), [this](Command command) { performed.push_back(command); }};
+    EditCommands edit {store, panel};
+    MainMenu mainMenu {context, edit, panel, [this](Command command) { performed.push_back(command); }};
     MenuBarStrip& strip = *new MenuBarStrip(context, &panel);
 };
 
