@@ -1,5 +1,6 @@
 #include "app/ApplicationIcon.h"
 
+#include <QIconEngine>
 #include <QPainter>
 #include <QPixmap>
 #include <QSvgRenderer>
@@ -8,28 +9,42 @@ namespace cuebright {
 
 namespace {
 
-/// Drawn here, so that it needs none of Qt's image plug-ins, which some systems install separately.
-QIcon builtInIcon()
-{
-    QSvgRenderer renderer(QStringLiteral(":/icons/app.cuebright.Cuebright.svg"));
-    QIcon icon;
-    for (const int side : {16, 18, 22, 24, 32, 36, 48, 64, 128, 256}) {
-        QPixmap pixmap(side, side);
-        pixmap.fill(Qt::transparent);
-        QPainter painter(&pixmap);
-        renderer.render(&painter);
-        painter.end();
-        icon.addPixmap(pixmap);
+/// Drawn here, so that it needs none of Qt's image plug-ins, which some systems install separately; and each time
+/// anew, because whoever asks keeps a copy.
+class BuiltInIcon final : public QIconEngine {
+public:
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode, QIcon::State) override
+    {
+        QSvgRenderer(QStringLiteral(":/icons/app.cuebright.Cuebright.svg")).render(painter, rect);
     }
-    return icon;
-}
+
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
+    {
+        QPixmap drawn(size);
+        drawn.fill(Qt::transparent);
+        QPainter painter(&drawn);
+        paint(&painter, drawn.rect(), mode, state);
+        return drawn;
+    }
+
+    [[nodiscard]] QIconEngine* clone() const override { return new BuiltInIcon; }
+
+    /// Those that the window system is given.
+    QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override
+    {
+        QList<QSize> sizes;
+        for (const int side : {16, 22, 24, 32, 48, 64, 128})
+            sizes << QSize(side, side);
+        return sizes;
+    }
+};
 
 } // namespace
 
 QIcon applicationIcon()
 {
     const QIcon installed = QIcon::fromTheme(QStringLiteral("app.cuebright.Cuebright"));
-    return installed.isNull() ? builtInIcon() : installed;
+    return installed.isNull() ? QIcon(new BuiltInIcon) : installed;
 }
 
 } // namespace cuebright
