@@ -208,6 +208,17 @@ TEST_F(QtPreferencesTest, AFullDiskCostsOnlyTheChangeAndTheNextOneMakesUpForIt)
     EXPECT_EQ(content(), "[General]\nother=x\ntheme=light\n");
 }
 
+TEST_F(QtPreferencesTest, WhatAKilledRunLeftBehindIsNotInTheWay)
+{
+    openWith("[General]\na=1\n");
+    for (const auto* const name : {"Cuebright.conf.new", "Cuebright.conf.new1"})
+        std::ofstream(path.parent_path() / name) << "[General]\na=";
+    auto preferences = open();
+    preferences.setInteger("a", 2);
+    queue.runPosted();
+    EXPECT_EQ(content(), "[General]\na=2\n");
+}
+
 TEST_F(QtPreferencesTest, ALinkToTheFileStaysALink)
 {
     openWith("[General]\na=1\n");

@@ -176,6 +176,7 @@ void QtPreferences::write()
     }
     // QSettings remembers files by their names: only under a fresh one is it read from the disk.
     const auto check = scratch + QString::number(++m_writeCount);
+    QFile::remove(check); // a killed run may have left it
     if (!QFile::rename(scratch, check))
         return;
     std::error_code error;
