@@ -13,6 +13,8 @@
 
 #include <optional>
 
+#include <malloc.h>
+
 namespace cuebright {
 
 namespace {
@@ -44,10 +46,21 @@ QDBusConnection connectForHotKeys()
     return QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("hot keys"));
 }
 
+constexpr Seconds kSettled {0.5}; // after the first frame
+
+/// Starting needs more than running does; what it left free goes back to the system.
+void giveBackMemory()
+{
+#ifdef __GLIBC__
+    ::malloc_trim(0);
+#endif
+}
+
 class LinuxServices final : public SystemServices {
 public:
     LinuxServices(QtAppearance& appearance, MainQueue& mainQueue)
-        : m_x11(connectToX11(mainQueue))
+        : m_mainQueue(mainQueue)
+        , m_x11(connectToX11(mainQueue))
         , m_accessibility(
               mainQueue, [this] { return hasCompositor(); },
               [&appearance](std::optional<bool> isDark) { appearance.setSystemIsDark(isDark); })
@@ -69,6 +82,7 @@ public:
         m_accessibility.start(QDBusConnection::sessionBus());
         if (m_portalHotKeys)
             m_portalHotKeys->start();
+        m_trim = m_mainQueue.after(kSettled, giveBackMemory);
     }
 
 private:
@@ -92,6 +106,8 @@ private:
         return m_noWindowSystem;
     }
 
+    MainQueue& m_mainQueue;
+    PendingTask m_trim;
     const Session m_session = Session::fromEnvironment();
     const std::unique_ptr<X11Services> m_x11;
     SystemClock m_clock;
