@@ -22,6 +22,7 @@ constexpr int kTop = 6;
 constexpr int kSide = 8;
 constexpr int kTitlePadding = 8;
 constexpr double kFontSize = 12;
+constexpr double kChosenFill = 0.6; // in high contrast too: the ink on it stays readable
 constexpr double kCornerRadius = 5;
 constexpr Seconds kFadeTime {0.2};
 
@@ -151,7 +152,7 @@ void MenuBarStrip::paintEvent(QPaintEvent*)
         const bool isChosen = action == activeAction();
         if (isChosen) {
             painter.setPen(Qt::NoPen);
-            painter.setBrush(toQColor(colors.sep().withAlpha(colors.highContrast() ? 1 : 0.6)));
+            painter.setBrush(toQColor(colors.sep().withAlpha(kChosenFill)));
             painter.drawRoundedRect(area, kCornerRadius, kCornerRadius);
         }
         painter.setPen(toQColor(isChosen ? colors.text() : colors.muted()));

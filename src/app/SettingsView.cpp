@@ -53,7 +53,10 @@ SettingsView::SettingsView(const PanelContext& context, std::function<void()> re
     advice->addWidget(m_shareAdvice);
     column->addLayout(advice);
 
-    m_accessibilitySubscription = context.platform.accessibility.changed.subscribe([this] { update(); });
+    m_accessibilitySubscription = context.platform.accessibility.changed.subscribe([this] {
+        for (const auto part : findChildren<QWidget*>()) // an update of this would stop at the first opaque one
+            part->update();
+    });
     m_exclusionSubscription = context.desktop.captureExclusion.changed.subscribe([this] { tellWhatTheAudienceSees(); });
     tellWhatTheAudienceSees();
 }
