@@ -45,6 +45,8 @@ AboutWindow::AboutWindow(const PanelContext& context)
     const auto credits =
         add(product::tagline() + QStringLiteral("\n\n") + product::supportMail(), systemFont(kTextSize));
     credits->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    credits->setFocusPolicy(Qt::StrongFocus);
+    credits->setFocus();
     column->addStretch(1);
     setFixedSize(kSize);
 }

@@ -88,7 +88,7 @@ void AppDelegate::showOnboarding()
     m_panelController->setContentCovered(true);
     overlay->finished = [this, overlay, &content] {
         overlay->deleteLater();
-        content.setFocus();
+        content.takeFocus();
         m_panelController->setContentCovered(false);
     };
 }

@@ -51,6 +51,7 @@ QWidget* AppearanceTab::makeThemeSection()
     const auto section = new SettingsSection(m_context, QStringLiteral("Theme"), page());
     m_theme = new QComboBox(section);
     m_theme->setAccessibleName(QStringLiteral("Theme"));
+    m_theme->setAccessibleDescription(QStringLiteral("Theme")); // Qt 6.4 gives what is chosen for the name
     m_theme->addItem(QStringLiteral("System"), QStringLiteral("system"));
     m_theme->addItem(QStringLiteral("Light"), QStringLiteral("light"));
     m_theme->addItem(QStringLiteral("Dark"), QStringLiteral("dark"));

@@ -153,6 +153,8 @@ void OnboardingOverlay::buildPages()
     m_pages.clear();
     for (const auto& page : onboardingPages(currentShareAdvice(m_context.desktop.captureExclusion)))
         m_pages.push_back(new OnboardingPageView(m_context, page, this));
+    m_dots->raise(); // read after the page
+    m_advance->raise();
     showPage();
 }
 
@@ -164,6 +166,7 @@ void OnboardingOverlay::showPage()
     const bool isLast = m_currentPage == count - 1;
     m_advance->setText(isLast ? QStringLiteral("GET STARTED") : QStringLiteral("NEXT"));
     m_advance->setAccessibleName(isLast ? QStringLiteral("Get started") : QStringLiteral("Next page"));
+    m_advance->setAccessibleDescription(m_pages[static_cast<std::size_t>(m_currentPage)]->spokenText());
     m_dots->setAccessibleName(QStringLiteral("Page %1 of %2").arg(m_currentPage + 1).arg(count));
     layOut();
     update();

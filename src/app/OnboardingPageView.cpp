@@ -82,6 +82,7 @@ OnboardingPageView::OnboardingPageView(const PanelContext& context, const Onboar
 
 PanelLabel* OnboardingPageView::makeText(const QString& text, const QFont& font, Ink ink)
 {
+    m_spokenText += (m_spokenText.isEmpty() ? QString() : QStringLiteral(" ")) + text;
     const auto label = new PanelLabel(m_context, font, ink, PanelLabel::WhenNarrow::Wrap, this);
     label->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     label->setText(text);

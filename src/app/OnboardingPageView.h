@@ -21,6 +21,8 @@ public:
     [[nodiscard]] int heightFor(int width, double gapScale) const;
     void layOut(double gapScale);
 
+    /// Title and texts, one after the other.
+    [[nodiscard]] QString spokenText() const { return m_spokenText; }
     /// Has a screen reader read the page now.
     void announce();
 
@@ -39,6 +41,7 @@ private:
     const PanelContext& m_context;
     Icon m_icon;
     std::vector<Item> m_items;
+    QString m_spokenText;
     PanelLabel* m_title;
 };
 

@@ -30,6 +30,7 @@ SettingsSection::SettingsSection(const PanelContext& context, const QString& tit
     const auto heading = new PanelLabel(
         context, systemFont(kSettingsTextSize, QFont::DemiBold), Ink::Text, PanelLabel::WhenNarrow::Keep, this);
     heading->setText(title);
+    heading->stackUnder(m_frame); // read before it
     m_rows->setContentsMargins(kHorizontalPadding, kVerticalPadding, kHorizontalPadding, kVerticalPadding);
     m_rows->setSpacing(kRowGap);
     const auto column = new QVBoxLayout(this);

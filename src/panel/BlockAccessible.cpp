@@ -48,6 +48,9 @@ public:
     {
         QAccessible::State state;
         state.linked = true;
+        state.focusable = true;
+        const auto focused = m_area.focusedLink();
+        state.focused = focused && focused->block == m_link.block && focused->rect == m_link.rect;
         state.disabled = !isOpenableLink(m_link.target);
         state.invisible = !m_area.isVisible();
         return state;

@@ -37,6 +37,28 @@ void CardAccessible::contentChanged(CardArea& area)
     QAccessible::updateAccessibility(&event);
 }
 
+void CardAccessible::focusMoved(CardArea& area)
+{
+    if (!QAccessible::isActive())
+        return;
+    const auto card = QAccessible::queryAccessibleInterface(&area);
+    if (const auto link = card ? card->focusChild() : nullptr) {
+        QAccessibleEvent event(link, QAccessible::Focus);
+        QAccessible::updateAccessibility(&event);
+    }
+}
+
+QAccessibleInterface* CardAccessible::focusChild() const
+{
+    const auto focused = m_area.focusedLink();
+    const auto block = focused ? child(static_cast<int>(focused->block)) : nullptr;
+    for (int i = 0; block && i < block->childCount(); ++i) {
+        if (const auto link = block->child(i); link->state().focused)
+            return link;
+    }
+    return QAccessibleWidget::focusChild();
+}
+
 void CardAccessible::forgetChildren()
 {
     for (const auto id : m_children) {

@@ -20,11 +20,14 @@ public:
     static void install();
     /// Another card, or another text, is on show.
     static void contentChanged(CardArea& area);
+    /// The keyboard has come to a link of the card.
+    static void focusMoved(CardArea& area);
 
     [[nodiscard]] int childCount() const override;
     [[nodiscard]] QAccessibleInterface* child(int index) const override;
     [[nodiscard]] int indexOfChild(const QAccessibleInterface* child) const override;
     [[nodiscard]] QAccessibleInterface* childAt(int x, int y) const override;
+    [[nodiscard]] QAccessibleInterface* focusChild() const override;
 
 private:
     void forgetChildren();

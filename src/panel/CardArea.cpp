@@ -154,16 +154,24 @@ void CardArea::drawFrame(QPainter& painter)
     m_transition.draw(painter, area, [&] { drawCard(painter, area); });
 }
 
+std::optional<CardLayout::Link> CardArea::focusedLink() const
+{
+    if (!hasFocus() || !m_focusedLink || !m_layout)
+        return std::nullopt;
+    const auto links = m_layout->links();
+    return *m_focusedLink < links.size() ? std::optional(links[*m_focusedLink]) : std::nullopt;
+}
+
+/// The link that has the keyboard, or the whole card where Tab has led to it.
 void CardArea::drawFocus(QPainter& painter)
 {
-    if (!hasFocus() || !m_focusedLink)
-        return;
-    const auto links = m_layout->links();
-    if (*m_focusedLink >= links.size())
+    const auto link = focusedLink();
+    if (!link && !m_isReachedByTab)
         return;
     painter.setPen(QPen(toQColor(m_context.colors().accent()), kFocusWidth));
     painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(links[*m_focusedLink].rect.adjusted(-2, 0, 2, 0), 3, 3);
+    const auto card = QRectF(viewport()->rect()).translated(0, verticalScrollBar()->value());
+    painter.drawRoundedRect(link ? link->rect.adjusted(-2, 0, 2, 0) : card.adjusted(1, 1, -1, -1), 3, 3);
 }
 
 QPixmap CardArea::pictureOfFrame()
@@ -235,12 +243,21 @@ bool CardArea::focusNextPrevChild(bool next)
     const auto bar = verticalScrollBar();
     bar->setValue(std::clamp(bar->value(), static_cast<int>(std::ceil(rect.bottom())) - viewport()->height(),
         std::max(static_cast<int>(rect.top()), static_cast<int>(std::ceil(rect.bottom())) - viewport()->height())));
+    CardAccessible::focusMoved(*this);
     return true;
+}
+
+void CardArea::focusInEvent(QFocusEvent* event)
+{
+    QAbstractScrollArea::focusInEvent(event);
+    m_isReachedByTab = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    viewport()->update();
 }
 
 void CardArea::focusOutEvent(QFocusEvent* event)
 {
     m_focusedLink.reset();
+    m_isReachedByTab = false;
     QAbstractScrollArea::focusOutEvent(event);
     viewport()->update();
 }

@@ -33,6 +33,8 @@ public:
     [[nodiscard]] CardLayout* cardLayout() { return m_layout ? &*m_layout : nullptr; }
     /// A rectangle of the card on the viewport.
     [[nodiscard]] QRect toViewport(const QRectF& rect) const;
+    /// The link that Return opens.
+    [[nodiscard]] std::optional<CardLayout::Link> focusedLink() const;
     [[nodiscard]] QSize minimumSizeHint() const override { return {0, 0}; }
 
 protected:
@@ -45,6 +47,7 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     bool focusNextPrevChild(bool next) override;
+    void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
 
@@ -75,6 +78,7 @@ private:
     CardTransition m_transition;
     std::optional<std::size_t> m_focusedLink; ///< among the layout's links
     std::optional<std::string> m_pressedLink;
+    bool m_isReachedByTab = false;
     bool m_isSized = false; ///< before it is, laying out would be for nothing
     bool m_goesOnLayingOut = false;
     WeakTarget m_weakTarget;

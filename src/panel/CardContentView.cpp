@@ -13,6 +13,7 @@
 #include "store/CardStore.h"
 #include "theme/QtColors.h"
 
+#include <QAbstractButton>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QVBoxLayout>
@@ -83,7 +84,7 @@ CardContentView::CardContentView(const PanelContext& context, QWidget* parent)
     m_column->addWidget(m_rule);
     m_column->addSpacing(kGap);
     m_column->addWidget(m_footer);
-    setFocusProxy(m_cardArea);
+    m_footer->keyboardIsLeft = [this] { takeFocus(); };
     refresh();
 
     m_storeSubscription = context.store.willChange.subscribe([this](const Change& change) { takeNotice(change); });
@@ -101,14 +102,24 @@ void CardContentView::makeEditView()
 {
     m_editView = new QWidget(this);
     m_editView->hide();
+    const auto toolbar = new MarkdownToolbar(m_context, *m_editorManager, m_editView);
     m_editor = new MarkdownEditor(m_context, m_editView);
     m_editor->setManager(*m_editorManager);
     const auto editColumn = new QVBoxLayout(m_editView);
     editColumn->setContentsMargins(0, 0, 0, 0);
     editColumn->setSpacing(kToolbarGap);
-    editColumn->addWidget(new MarkdownToolbar(m_context, *m_editorManager, m_editView));
+    editColumn->addWidget(toolbar);
     editColumn->addWidget(m_editor, 1);
     m_column->insertWidget(m_column->indexOf(m_cardArea) + 1, m_editView, 1);
+
+    // Screen readers and Tab come to it before the footer.
+    m_editView->stackUnder(m_rule);
+    QWidget* before = m_cardArea;
+    for (const auto button : toolbar->findChildren<QAbstractButton*>()) {
+        setTabOrder(before, button);
+        before = button;
+    }
+    setTabOrder(before, m_editor);
 }
 
 int CardContentView::columnPadding(int width) { return std::max((width - kColumnWidth + 1) / 2, kMinSidePadding); }
@@ -168,8 +179,15 @@ void CardContentView::showEditor(bool isEditing, const std::optional<Animation>&
     m_showsEditor = isEditing;
     leaving->hide();
     arriving->show();
-    setFocusProxy(isEditing ? static_cast<QWidget*>(m_editor) : m_cardArea);
-    setFocus();
+    takeFocus();
+}
+
+void CardContentView::takeFocus()
+{
+    if (m_showsEditor)
+        m_editor->setFocus();
+    else
+        m_cardArea->setFocus();
 }
 
 /// What presentation remotes send: what nothing else takes scrolls the card, then steps through the deck.

@@ -45,6 +45,9 @@ public:
     }
     [[nodiscard]] static double bottomPadding(const Block& block) { return cuebright::bottomPadding(block.kind); }
 
+    /// Gives the keyboard to the card, or to its editor while that is open.
+    void takeFocus();
+
 protected:
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;

@@ -43,7 +43,6 @@ DeckNameDialog::DeckNameDialog(
     const Texts& texts, std::function<void(const std::string& name)> confirmed, QWidget* parent)
     : QDialog(parent)
     , m_confirmed(std::move(confirmed))
-    , m_name(new QLineEdit(this))
 {
     setWindowTitle(texts.title);
     setAccessibleDescription(texts.message);
@@ -52,6 +51,8 @@ DeckNameDialog::DeckNameDialog(
     auto titleFont = title->font();
     titleFont.setBold(true);
     title->setFont(titleFont);
+    const auto message = new QLabel(texts.message, this);
+    m_name = new QLineEdit(this);
     m_name->setPlaceholderText(QStringLiteral("Deck name"));
     m_name->setAccessibleName(QStringLiteral("Deck name"));
     m_name->setAccessibleDescription(texts.message);
@@ -71,7 +72,7 @@ DeckNameDialog::DeckNameDialog(
     column->setContentsMargins(20, 16, 20, 16);
     column->setSpacing(10);
     column->addWidget(title);
-    column->addWidget(new QLabel(texts.message, this));
+    column->addWidget(message);
     column->addWidget(m_name);
     column->addLayout(buttons);
     column->setSizeConstraint(QLayout::SetFixedSize);

@@ -75,7 +75,8 @@ void DeckPicker::refresh()
 {
     const auto deckName = m_context.store.deckName();
     const auto name = shownName(deckName).toUpper();
-    setAccessibleName(QStringLiteral("Active deck: ") + toQString(deckName));
+    if (const auto spoken = QStringLiteral("Active deck: ") + toQString(deckName); spoken != accessibleName())
+        setAccessibleName(spoken);
     if (name == m_name)
         return;
     m_name = name;

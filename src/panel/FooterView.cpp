@@ -74,8 +74,12 @@ ChromeButton* FooterView::addButton(const QString& text, const char* accessibleN
 void FooterView::refresh()
 {
     const auto former = std::exchange(m_content, footerContent(m_context.store));
-    m_position->setText(toQString(m_content.position));
-    m_position->setAccessibleName(toQString(m_content.positionAccessibleName));
+    if (former.positionAccessibleName != m_content.positionAccessibleName) {
+        m_position->setText(toQString(m_content.position));
+        m_position->setAccessibleName(toQString(m_content.positionAccessibleName));
+        if (!former.positionAccessibleName.empty())
+            m_position->announce();
+    }
     // What leaves keeps its text while it fades.
     if (m_content.wordCount)
         static_cast<PanelLabel*>(m_wordCount.widget)->setText(toQString(*m_content.wordCount));
@@ -83,6 +87,9 @@ void FooterView::refresh()
         m_errorNotice->setText(toQString(*m_content.error));
     if (m_content.feedback)
         m_feedbackLabel->setText(toQString(*m_content.feedback));
+    // The toolkit would hand the keyboard to the other one, and the next press would go back.
+    if ((m_previous->hasFocus() && !m_content.canGoPrev) || (m_next->hasFocus() && !m_content.canGoNext))
+        keyboardIsLeft();
     m_previous->setEnabled(m_content.canGoPrev);
     m_next->setEnabled(m_content.canGoNext);
     for (const auto button : {m_edit, m_previous, m_next})

@@ -24,6 +24,9 @@ public:
 
     void refresh();
 
+    /// Called when the button that has the keyboard can do nothing any more.
+    std::function<void()> keyboardIsLeft;
+
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return {0, sizeHint().height()}; }
 

@@ -2,6 +2,7 @@
 
 #include "foundation/NotificationCenter.h"
 #include "panel/MarkdownEditor.h"
+#include "panel/WindowAccessible.h"
 #include "store/CardStore.h"
 #include "store/UndoManager.h"
 #include "theme/QtColors.h"
@@ -23,6 +24,7 @@ NotesPanel::NotesPanel(const PanelContext& context)
     , m_undoManager(std::make_shared<UndoManager>())
     , m_keyMonitor(*this, [this](const QKeyEvent& event) { return actionFor(event); })
 {
+    presentWindowsToScreenReaders();
     setAttribute(Qt::WA_ShowWithoutActivating);
     qApp->installEventFilter(this);
 }

@@ -69,7 +69,7 @@ void PanelController::configureContent()
     const auto layout = new QVBoxLayout(m_panel.get());
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_content);
-    m_content->setFocus();
+    m_content->takeFocus();
     applyOpacity();
 }
 
@@ -92,7 +92,7 @@ void PanelController::showPanel()
     m_context.desktop.windowSystem.keepAboveFullScreen(m_panel->winId());
     m_showHideAnimation.show(motion(m_context));
     if (!m_panel->isOnScreen() && !m_isContentCovered)
-        m_content->setFocus();
+        m_content->takeFocus();
     m_panel->orderFront();
     tellWhatTheAudienceSees();
     endAbsence();
