@@ -4,18 +4,14 @@
 
 namespace cuebright::test {
 
-namespace {
-
 using AboutWindowTest = PanelFixture;
-
-} // namespace
 
 TEST_F(AboutWindowTest, ItTellsNameVersionAndCredits)
 {
     AboutWindow window(context);
     for (const auto text :
         {"Cuebright", "Version 1.0.0 (1)", "Cue cards your audience can’t see.\n\nsupport@cuebright.example.org"})
-        EXPECT_TRUE(isShown(window, QString::fromUtf8(text))) << text;
+        EXPECT_TRUE(isShown(window, text)) << text;
 }
 
 } // namespace cuebright::test

@@ -6,8 +6,8 @@
 #include <QSlider>
 #include <QTest>
 
-#include <array>
-#include <stdexcept>
+#include <algorithm>
+#include <tuple>
 
 namespace cuebright::test {
 
@@ -26,42 +26,33 @@ protected:
         tab = std::make_unique<AppearanceTab>(*contextShown, nullptr);
         fake.preferences.writes.clear();
     }
-    QSlider& slider(const char* name) { return control<QSlider>(name); }
-    QComboBox& theme() { return control<QComboBox>("Theme"); }
-    bool shows(const char* text) { return isShown(*tab, QLatin1String(text)); }
-
-private:
-    template <typename Control> Control& control(const char* name)
+    QSlider& slider(const char* name)
     {
-        for (const auto candidate : tab->findChildren<Control*>()) {
-            if (candidate->accessibleName() == QLatin1String(name))
-                return *candidate;
-        }
-        throw std::runtime_error(std::string("there is no control ") + name);
+        const auto sliders = tab->findChildren<QSlider*>();
+        return **std::ranges::find(sliders, QLatin1String(name), &QWidget::accessibleName);
+    }
+    QComboBox& theme() { return *tab->findChild<QComboBox*>(); }
+    void expectShown(const std::vector<const char*>& texts)
+    {
+        for (const auto text : texts)
+            EXPECT_TRUE(isShown(*tab, text)) << text;
     }
 };
 
 TEST_F(AppearanceTabTest, ValuesAreShownAsWholeNumbersAndNotWritten)
 {
-    struct Case {
-        double fontSize;
-        std::int64_t pace;
-        double opacity;
-        std::array<const char*, 3> texts;
-    };
-    const Case cases[] = {
+    const std::tuple<double, std::int64_t, double, std::vector<const char*>> cases[] = {
         {17, 140, 0.85, {"17", "140 wpm", "85%"}},
         {20.5, 133, 0.7000000000000001, {"21", "133 wpm", "70%"}},
         {2, 1, 0.7999999999999999, {"2", "1 wpm", "80%"}},
         {400, 9999, 3, {"400", "9999 wpm", "300%"}},
     };
-    for (const auto& c : cases) {
-        fake.preferences.setNumber(preferenceKeys::kFontSize, c.fontSize);
-        fake.preferences.setInteger(preferenceKeys::kSpeakingPace, c.pace);
-        fake.preferences.setNumber(preferenceKeys::kOpacity, c.opacity);
+    for (const auto& [fontSize, pace, opacity, texts] : cases) {
+        fake.preferences.setNumber(preferenceKeys::kFontSize, fontSize);
+        fake.preferences.setInteger(preferenceKeys::kSpeakingPace, pace);
+        fake.preferences.setNumber(preferenceKeys::kOpacity, opacity);
         open();
-        for (const auto text : c.texts)
-            EXPECT_TRUE(shows(text)) << text;
+        expectShown(texts);
         refresh();
         EXPECT_TRUE(fake.preferences.writes.empty());
     }
@@ -76,12 +67,11 @@ TEST_F(AppearanceTabTest, ItFollowsWhatOthersChange)
     storeShown->setOpacity(0.5);
     const auto writes = fake.preferences.writes;
     refresh();
-    EXPECT_EQ(theme().currentText(), QStringLiteral("Dark"));
+    EXPECT_EQ(theme().currentText(), u"Dark"_s);
     EXPECT_EQ(slider("Font Size").value(), 20);
     EXPECT_EQ(slider("Speaking Pace").value(), 90);
     EXPECT_EQ(slider("Opacity").value(), 50);
-    for (const auto text : {"20", "90 wpm", "50%"})
-        EXPECT_TRUE(shows(text)) << text;
+    expectShown({"20", "90 wpm", "50%"});
     EXPECT_EQ(fake.preferences.writes, writes);
 }
 
@@ -94,8 +84,7 @@ TEST_F(AppearanceTabTest, SlidersChangeTheirOwnValueAtOnce)
     EXPECT_EQ(storeShown->fontSize(), 16);
     EXPECT_EQ(storeShown->speakingPace(), 180);
     EXPECT_EQ(storeShown->opacity(), 0.99);
-    for (const auto text : {"16", "180 wpm", "99%"})
-        EXPECT_TRUE(shows(text)) << text;
+    expectShown({"16", "180 wpm", "99%"});
     QTest::keyClick(&slider("Opacity"), Qt::Key_Home);
     EXPECT_EQ(storeShown->opacity(), 0.4);
 }
@@ -104,7 +93,7 @@ TEST_F(AppearanceTabTest, AnUnknownThemeShowsAsSystemAndStaysUntilAnotherIsPicke
 {
     fake.preferences.setText(preferenceKeys::kTheme, "Dark");
     open();
-    EXPECT_EQ(theme().currentText(), QStringLiteral("System"));
+    EXPECT_EQ(theme().currentText(), u"System"_s);
     EXPECT_EQ(storeShown->theme(), "Dark");
     for (const auto expected : {"light", "dark"}) {
         QTest::keyClick(&theme(), Qt::Key_Down);
@@ -116,12 +105,11 @@ TEST_F(AppearanceTabTest, ReducedTransparencyIsExplainedWhileItIsOn)
 {
     const auto note = "Frosted glass is disabled because Reduce Transparency is on in System Settings.";
     open();
-    EXPECT_FALSE(shows(note));
-    for (const bool isReduced : {true, false}) {
+    for (const bool isReduced : {false, true, false}) {
         fake.accessibility.transparencyReduced = isReduced;
         fake.accessibility.changed.notify();
         refresh();
-        EXPECT_EQ(shows(note), isReduced);
+        EXPECT_EQ(isShown(*tab, note), isReduced);
     }
 }
 

@@ -1,42 +1,30 @@
 #include "app/ApplicationIcon.h"
 
+#include "platform/TemporaryFolder.h"
+
 #include <QColor>
-#include <QDir>
-#include <QFile>
 #include <QImage>
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
 namespace cuebright::test {
 
+/// An icon theme of our own, empty at first.
 class ApplicationIcon : public testing::Test {
 protected:
-    const QTemporaryDir folder;
+    const TemporaryFolder folder;
     const QStringList searchPaths = QIcon::themeSearchPaths();
     const QString themeName = QIcon::themeName();
 
     void SetUp() override
     {
-        QIcon::setThemeSearchPaths({folder.path()});
+        QIcon::setThemeSearchPaths({QString::fromStdString(folder.path().string())});
         QIcon::setThemeName(QStringLiteral("test"));
     }
     void TearDown() override
     {
         QIcon::setThemeSearchPaths(searchPaths);
         QIcon::setThemeName(themeName);
-    }
-
-    void installIcon(const QColor& color) const
-    {
-        const QDir theme(folder.filePath(QStringLiteral("test")));
-        ASSERT_TRUE(theme.mkpath(QStringLiteral("32x32/apps")));
-        QFile index(theme.filePath(QStringLiteral("index.theme")));
-        ASSERT_TRUE(index.open(QIODevice::WriteOnly));
-        index.write("[Icon Theme]\nName=test\nDirectories=32x32/apps\n\n[32x32/apps]\nSize=32\n");
-        QImage image(32, 32, QImage::Format_RGB32);
-        image.fill(color);
-        ASSERT_TRUE(image.save(theme.filePath(QStringLiteral("32x32/apps/app.cuebright.Cuebright.png"))));
     }
 };
 
@@ -57,7 +45,12 @@ TEST_F(ApplicationIcon, IsACardOnATileWhereTheProgramIsNotInstalled)
 
 TEST_F(ApplicationIcon, IsTheOneOfTheIconThemeWhereThatHasOne)
 {
-    installIcon(Qt::green);
+    const auto icons = folder.file("test/apps");
+    ASSERT_TRUE(std::filesystem::create_directories(icons));
+    folder.write("test/index.theme", "[Icon Theme]\nName=test\nDirectories=apps\n\n[apps]\nSize=32\n");
+    QImage image(32, 32, QImage::Format_RGB32);
+    image.fill(Qt::green);
+    ASSERT_TRUE(image.save(QString::fromStdString((icons / "app.cuebright.Cuebright.png").string())));
     QIcon::setThemeName(QStringLiteral("another")); // what was looked up in a theme is remembered
     QIcon::setThemeName(QStringLiteral("test"));
     EXPECT_EQ(applicationIcon().pixmap(32, 32).toImage().pixelColor(16, 16), QColor(Qt::green));

@@ -1,20 +1,13 @@
 #include "app/Command.h"
 
-#include "model/StateFile.h"
 #include "panel/PanelFixture.h"
+
+#include <tuple>
 
 namespace cuebright::test {
 
 class CommandTest : public PanelFixture {
 protected:
-    void load(int cards, std::int64_t activeCard)
-    {
-        setCards(std::vector<std::string>(static_cast<std::size_t>(cards), "text"));
-        auto state = *decodeState(fake.fileSystem.files[store.stateUrl().string()]);
-        const auto json = encodeState({state.decks, state.activeDeckId, activeCard, 1, 17});
-        fake.fileSystem.files[store.stateUrl().string()] = std::get<std::string>(json);
-        store.loadFromDisk();
-    }
     /// The commands of the store that are on.
     std::string enabled()
     {
@@ -32,13 +25,7 @@ protected:
 
 TEST_F(CommandTest, WhatWouldDoNothingIsOff)
 {
-    const struct {
-        const char* name;
-        int cards;
-        std::int64_t activeCard;
-        const char* resting;
-        const char* editing;
-    } tests[] = {
+    const std::tuple<const char*, std::size_t, std::int64_t, const char*, const char*> tests[] = {
         {"the only card", 1, 0, "", "save cancel "},
         {"the first", 3, 0, "delete down ", "save cancel delete "},
         {"one between", 3, 1, "delete up down ", "save cancel delete "},
@@ -46,11 +33,11 @@ TEST_F(CommandTest, WhatWouldDoNothingIsOff)
         {"a negative index is kept, never used", 3, -2, "", ""},
         {"no card at all", 0, 0, "", ""},
     };
-    for (const auto& test : tests) {
-        load(test.cards, test.activeCard);
-        EXPECT_EQ(enabled(), test.resting) << test.name;
+    for (const auto& [name, cards, activeCard, resting, editing] : tests) {
+        setCards(std::vector<std::string>(cards, "text"), activeCard);
+        EXPECT_EQ(enabled(), resting) << name;
         store.beginEditing();
-        EXPECT_EQ(enabled(), test.editing) << test.name << ", editing";
+        EXPECT_EQ(enabled(), editing) << name << ", editing";
         store.cancelEdit();
     }
     store.createNewDeck("second");
@@ -59,21 +46,15 @@ TEST_F(CommandTest, WhatWouldDoNothingIsOff)
 
 TEST_F(CommandTest, AtMostTheOneThemeIsChecked)
 {
-    const struct {
-        const char* theme;
-        std::vector<bool> systemLightDark;
-    } tests[] = {
-        {"system", {true, false, false}},
-        {"light", {false, true, false}},
-        {"dark", {false, false, true}},
-        {"Dark", {false, false, false}},
-        {"", {false, false, false}},
-    };
-    for (const auto& test : tests) {
-        store.setTheme(test.theme);
-        EXPECT_EQ(isCommandChecked(Command::SetThemeSystem, store), test.systemLightDark[0]) << test.theme;
-        EXPECT_EQ(isCommandChecked(Command::SetThemeLight, store), test.systemLightDark[1]) << test.theme;
-        EXPECT_EQ(isCommandChecked(Command::SetThemeDark, store), test.systemLightDark[2]) << test.theme;
+    const std::pair<const char*, std::vector<bool>> tests[] = {{"system", {true, false, false}},
+        {"light", {false, true, false}}, {"dark", {false, false, true}}, {"Dark", {false, false, false}},
+        {"", {false, false, false}}};
+    for (const auto& [theme, systemLightDark] : tests) {
+        store.setTheme(theme);
+        std::vector<bool> checked;
+        for (const auto command : {Command::SetThemeSystem, Command::SetThemeLight, Command::SetThemeDark})
+            checked.push_back(isCommandChecked(command, store));
+        EXPECT_EQ(checked, systemLightDark) << theme;
     }
 }
 

@@ -12,19 +12,15 @@
 #include <QMessageBox>
 #include <QTemporaryDir>
 
+#include <tuple>
+
 namespace cuebright::test {
 
 TEST(SafeFileName, IsWhatFileSystemsTake)
 {
     const std::string longName(300, 'x');
-    std::string longEmoji;
-    for (int i = 0; i < 100; ++i)
-        longEmoji += "👩‍🚀"; // 11 bytes each
-    const struct {
-        const char* name;
-        std::string deckName;
-        std::string expected;
-    } tests[] = {
+    const auto longEmoji = u"👩‍🚀"_s.repeated(100).toStdString(); // 11 bytes each
+    const std::tuple<const char*, std::string, std::string> tests[] = {
         {"a plain name", "Talk", "Talk"},
         {"blanks inside and Unicode", "Q3 — Überblick: ja?", "Q3 — Überblick: ja?"},
         {"slashes", "Q3/Q4\\Q5", "Q3-Q4-Q5"},
@@ -42,8 +38,8 @@ TEST(SafeFileName, IsWhatFileSystemsTake)
         {"too long", longName, std::string(200, 'x')},
         {"too long, cut between characters", longEmoji, longEmoji.substr(0, 18 * 11)},
     };
-    for (const auto& test : tests)
-        EXPECT_EQ(safeFileName(test.deckName), test.expected) << test.name;
+    for (const auto& [name, deckName, expected] : tests)
+        EXPECT_EQ(safeFileName(deckName), expected) << name;
 }
 
 class ExportCommandTest : public PanelFixture {
@@ -71,10 +67,7 @@ protected:
         processEvents();
         EXPECT_FALSE(command.dialog());
     }
-    void type(const char* name)
-    {
-        command.dialog()->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(path(name));
-    }
+    void type(const char* name) { command.dialog()->findChild<QLineEdit*>(u"fileNameEdit"_s)->setText(path(name)); }
     template <typename Dialog> void pressIn(const char* text)
     {
         for (const auto button : command.dialog()->findChildren<QAbstractButton*>()) {
@@ -90,9 +83,9 @@ TEST_F(ExportCommandTest, ProposesTheDecksNameInADialogThatOnlyOurWindowsShow)
 {
     command.exportDeck();
     const auto dialog = command.dialog();
-    EXPECT_EQ(dialog->windowTitle(), QStringLiteral("Export Deck"));
-    EXPECT_EQ(dialog->labelText(QFileDialog::Accept), QStringLiteral("Export"));
-    EXPECT_EQ(dialog->selectedFiles().constFirst().section(QLatin1Char('/'), -1), QStringLiteral("Talk.md"));
+    EXPECT_EQ(dialog->windowTitle(), u"Export Deck"_s);
+    EXPECT_EQ(dialog->labelText(QFileDialog::Accept), u"Export"_s);
+    EXPECT_EQ(dialog->selectedFiles().constFirst().section(QLatin1Char('/'), -1), u"Talk.md"_s);
     EXPECT_TRUE(dialog->isModal());
     EXPECT_TRUE(dialog->testOption(QFileDialog::DontUseNativeDialog));
     command.exportDeck();
@@ -139,19 +132,11 @@ TEST_F(ExportCommandTest, SaysHowItEnded)
     old.close();
     ASSERT_TRUE(old.link(path("link.md")));
     const auto failed = "Export failed — check file permissions";
-    const struct {
-        const char* file;
-        const char* feedback;
-    } tests[] = {
-        {"new.txt", "Exported to new.txt"},
-        {"link.md", "Exported to link.md"},
-        {"no such folder/x.md", failed},
-        {"old.md/x.md", failed},
-        {".", failed},
-    };
-    for (const auto& test : tests) {
-        answer(path(test.file));
-        EXPECT_EQ(feedback(), test.feedback) << test.file;
+    const std::pair<const char*, const char*> tests[] = {{"new.txt", "Exported to new.txt"},
+        {"link.md", "Exported to link.md"}, {"no such folder/x.md", failed}, {"old.md/x.md", failed}, {".", failed}};
+    for (const auto& [file, expected] : tests) {
+        answer(path(file));
+        EXPECT_EQ(feedback(), expected) << file;
     }
     EXPECT_EQ(content("new.txt"), "A\n\n---\n\nB");
     EXPECT_EQ(content("old.md"), "A\n\n---\n\nB") << "through the link";

@@ -35,9 +35,7 @@ protected:
 
     void giveKeyboardTo(QWidget& window)
     {
-        window.show();
-        window.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+        activate(window);
         refresh();
     }
     void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier, QWidget* window = nullptr)

@@ -71,13 +71,10 @@ TEST(MenuTree, TitlesOpenWithAltAndLettersOfTheirOwn)
 
 TEST(MenuTree, SeparatorsStandBetweenItems)
 {
+    const auto areSeparators = [](const MenuItem& a, const MenuItem& b) { return !a.title && !b.title; };
     for (const auto& menu : mainMenuTree()) {
         EXPECT_TRUE(menu.items.front().title && menu.items.back().title) << menu.title;
-        const auto isSeparator = [](const MenuItem& item) { return !item.title; };
-        EXPECT_EQ(std::adjacent_find(menu.items.begin(), menu.items.end(),
-                      [&](const auto& a, const auto& b) { return isSeparator(a) && isSeparator(b); }),
-            menu.items.end())
-            << menu.title;
+        EXPECT_EQ(std::ranges::adjacent_find(menu.items, areSeparators), menu.items.end()) << menu.title;
     }
 }
 

@@ -29,66 +29,35 @@ protected:
     {
         fake.captureExclusion.known = state;
         panel.resize(480, 360);
-        below.setAccessibleName(QStringLiteral("below"));
+        below.setAccessibleName(u"below"_s);
         overlay = new OnboardingOverlay(context, &panel);
         overlay->finished = [this] { ++finishes; };
-        panel.show();
-        panel.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&panel));
+        activate(panel);
     }
-    QWidget& button() { return *find(*overlay, buttonName()); }
-    QString buttonName()
-    {
-        return overlay->currentPage() < 3 ? QStringLiteral("Next page") : QStringLiteral("Get started");
-    }
-    bool isDone() { return fake.preferences.boolean(preferenceKeys::kOnboardingDone).value_or(false); }
+    QWidget& button() { return *find(*overlay, overlay->currentPage() < 3 ? "Next page" : "Get started"); }
 };
 
-TEST_F(OnboardingOverlayTest, ItLeadsThroughFourPagesAndIsDoneOnlyAtTheEnd)
+TEST_F(OnboardingOverlayTest, ReturnAndSpaceAdvanceOnePageEach)
 {
     open();
-    const char* titles[] = {
-        "Cue cards your audience can't see", "Invisible to screen share", "Quick shortcuts", "Write in markdown"};
-    for (int page = 0; page < 4; ++page) {
-        EXPECT_EQ(overlay->currentPage(), page);
-        EXPECT_TRUE(isShown(*overlay, QLatin1String(titles[page])));
-        EXPECT_TRUE(isShown(*overlay, QStringLiteral("Page %1 of 4").arg(page + 1)));
-        EXPECT_TRUE(OnboardingOverlay::isDue(context));
-        EXPECT_EQ(finishes, 0);
-        press(*overlay, page < 3 ? QStringLiteral("Next page") : QStringLiteral("Get started"));
-    }
-    EXPECT_FALSE(OnboardingOverlay::isDue(context));
-    EXPECT_TRUE(isDone());
-    EXPECT_EQ(finishes, 1);
-    EXPECT_TRUE(overlay->isHidden());
-}
-
-TEST_F(OnboardingOverlayTest, ReturnAndSpaceAdvance)
-{
-    open();
-    EXPECT_EQ(QApplication::focusWidget(), &button());
-    QTest::keyClick(&button(), Qt::Key_Return);
-    EXPECT_EQ(overlay->currentPage(), 1);
-    QTest::keyClick(&button(), Qt::Key_Space);
-    EXPECT_EQ(overlay->currentPage(), 2);
-    QTest::keyClick(&button(), Qt::Key_Enter);
-    QTest::keyClick(&button(), Qt::Key_Return);
-    EXPECT_TRUE(isDone());
-}
-
-TEST_F(OnboardingOverlayTest, AHeldKeyDoesNotRunThroughThePages)
-{
-    open();
-    for (int i = 0; i < 5; ++i) {
-        QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"), true);
-        QApplication::sendEvent(&button(), &repeated);
+    for (QWidget* const target : {&button(), static_cast<QWidget*>(overlay)}) {
+        QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, u"\r"_s, true);
+        QApplication::sendEvent(target, &held);
     }
     EXPECT_EQ(overlay->currentPage(), 0);
+    for (const auto key : {Qt::Key_Return, Qt::Key_Space, Qt::Key_Enter, Qt::Key_Return}) {
+        EXPECT_TRUE(OnboardingOverlay::isDue(context) && finishes == 0);
+        QTest::keyClick(&button(), key);
+    }
+    EXPECT_FALSE(OnboardingOverlay::isDue(context));
+    EXPECT_EQ(finishes, 1);
+    EXPECT_TRUE(overlay->isHidden());
 }
 
 TEST_F(OnboardingOverlayTest, TheFocusStaysOnIt)
 {
     open();
+    EXPECT_EQ(QApplication::focusWidget(), &button());
     for (const auto key : {Qt::Key_Tab, Qt::Key_Backtab})
         QTest::keyClick(QApplication::focusWidget(), key);
     EXPECT_EQ(QApplication::focusWidget(), &button());
@@ -107,17 +76,17 @@ TEST_F(OnboardingOverlayTest, AScreenReaderSeesNothingElseUntilItIsFinished)
     for (int page = 0; page < 4; ++page)
         overlay->advance();
     EXPECT_TRUE(waitUntil([&] { return root()->childCount() == 2; }));
-    EXPECT_EQ(root()->child(0)->text(QAccessible::Name), QStringLiteral("below"));
+    EXPECT_EQ(root()->child(0)->text(QAccessible::Name), u"below"_s);
 }
 
 TEST_F(OnboardingOverlayTest, WhereThePanelCanBeSeenTheSecondPageSaysSo)
 {
     using enum CaptureExclusion::State;
     for (const auto state : {Blackout, Visible, Unknown, Excluded}) {
-        const auto pages = onboardingPages(shareAdvice(state));
-        EXPECT_EQ(pages[1].advice, state == Excluded ? QString() : kAdvice);
-        for (const int other : {0, 2, 3})
-            EXPECT_TRUE(pages[static_cast<std::size_t>(other)].advice.isEmpty());
+        QStringList advice;
+        for (const auto& page : onboardingPages(shareAdvice(state)))
+            advice << page.advice;
+        EXPECT_EQ(advice, (QStringList {{}, state == Excluded ? QString() : kAdvice, {}, {}}));
     }
     open(Visible);
     overlay->advance();
@@ -146,7 +115,7 @@ TEST_F(OnboardingOverlayTest, EveryPageFitsIntoTheSmallestPanel)
             EXPECT_GE(label->height(), needed) << label->text().toStdString();
             bottom = std::max(bottom, place.bottom());
         }
-        const auto dots = find(*overlay, QStringLiteral("Page %1 of 4").arg(page + 1))->geometry();
+        const auto dots = find(*overlay, u"Page %1 of 4"_s.arg(page + 1))->geometry();
         EXPECT_LT(bottom, dots.top());
         EXPECT_LT(dots.bottom(), button().geometry().top());
         EXPECT_LE(button().geometry().bottom(), 360 - 12);

@@ -5,6 +5,8 @@
 #include <QSlider>
 #include <QTest>
 
+#include <tuple>
+
 namespace cuebright::test {
 
 namespace {
@@ -16,25 +18,11 @@ constexpr SliderScale kHundredths {40, 100, 1, 10, 100};
 
 TEST(SliderScale, AnyValueHasANearestPosition)
 {
-    struct Case {
-        SliderScale scale;
-        double value;
-        int position;
-    };
-    const Case cases[] = {
-        {kTens, 130, 130},
-        {kTens, 134, 130},
-        {kTens, 135, 140},
-        {kTens, 249, 250},
-        {kTens, 1, 80},
-        {kTens, 9e18, 250},
-        {kHundredths, 0.7000000000000001, 70},
-        {kHundredths, 0.7999999999999999, 80},
-        {kHundredths, 0.05, 40},
-        {kHundredths, 1e300, 100},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(c.scale.nearest(c.value), c.position) << c.value;
+    const std::tuple<SliderScale, double, int> cases[] = {{kTens, 130, 130}, {kTens, 134, 130}, {kTens, 135, 140},
+        {kTens, 249, 250}, {kTens, 1, 80}, {kTens, 9e18, 250}, {kHundredths, 0.7000000000000001, 70},
+        {kHundredths, 0.7999999999999999, 80}, {kHundredths, 0.05, 40}, {kHundredths, 1e300, 100}};
+    for (const auto& [scale, value, position] : cases)
+        EXPECT_EQ(scale.nearest(value), position) << value;
 }
 
 class SettingSliderTest : public PanelFixture {
@@ -49,7 +37,7 @@ protected:
         value = stored;
         writes.clear();
         row = std::make_unique<SettingSlider>(context,
-            SettingSlider::Setting {QStringLiteral("Pace"), kTens, [](double v) { return QString::number(v); },
+            SettingSlider::Setting {u"Pace"_s, kTens, [](double v) { return QString::number(v); },
                 [this] { return value; }, [this](double v) { writes.push_back(value = v); }},
             nullptr);
         slider = row->findChild<QSlider*>();
@@ -58,15 +46,12 @@ protected:
 
 TEST_F(SettingSliderTest, KeysMoveItInStepsPagesAndToTheEnds)
 {
-    const struct {
-        Qt::Key key;
-        double expected;
-    } cases[] = {{Qt::Key_Right, 140}, {Qt::Key_Left, 120}, {Qt::Key_Up, 140}, {Qt::Key_Down, 120},
-        {Qt::Key_PageUp, 180}, {Qt::Key_PageDown, 80}, {Qt::Key_Home, 80}, {Qt::Key_End, 250}};
-    for (const auto& c : cases) {
+    const std::pair<Qt::Key, double> cases[] = {{Qt::Key_Right, 140}, {Qt::Key_Left, 120}, {Qt::Key_Up, 140},
+        {Qt::Key_Down, 120}, {Qt::Key_PageUp, 180}, {Qt::Key_PageDown, 80}, {Qt::Key_Home, 80}, {Qt::Key_End, 250}};
+    for (const auto& [key, expected] : cases) {
         open(130);
-        QTest::keyClick(slider, c.key);
-        EXPECT_EQ(writes, std::vector {c.expected}) << c.key;
+        QTest::keyClick(slider, key);
+        EXPECT_EQ(writes, std::vector {expected}) << key;
     }
 }
 
@@ -95,11 +80,11 @@ TEST_F(SettingSliderTest, TheMouseAndTheScreenReaderLandOnSteps)
     EXPECT_EQ(writes, std::vector {150.0});
 
     const auto interface = QAccessible::queryAccessibleInterface(slider);
-    EXPECT_EQ(interface->text(QAccessible::Name), QStringLiteral("Pace"));
+    EXPECT_EQ(interface->text(QAccessible::Name), u"Pace"_s);
     interface->valueInterface()->setCurrentValue(92);
     EXPECT_EQ(slider->value(), 90);
     EXPECT_EQ(writes, (std::vector {150.0, 90.0}));
-    EXPECT_EQ(interface->text(QAccessible::Description), QStringLiteral("90"));
+    EXPECT_EQ(interface->text(QAccessible::Description), u"90"_s);
 }
 
 } // namespace cuebright::test

@@ -11,6 +11,8 @@
 #include <QTabWidget>
 #include <QTest>
 
+#include <functional>
+
 namespace cuebright::test {
 
 class SettingsWindowTest : public PanelFixture {
@@ -32,14 +34,6 @@ protected:
         processEvents();
         return window.findChild<QMessageBox*>();
     }
-    void answer(const char* text)
-    {
-        press(window, QStringLiteral("Reset All Data…"));
-        ASSERT_TRUE(alert());
-        EXPECT_TRUE(alert()->isModal());
-        press(*alert(), QLatin1String(text));
-        EXPECT_FALSE(alert());
-    }
 };
 
 TEST_F(SettingsWindowTest, ItFloatsBesideThePanelWithoutBeingItsChild)
@@ -57,58 +51,50 @@ TEST_F(SettingsWindowTest, EscapeAndCtrlWPutItAwayAndOpeningBringsItBackAsItWas)
 {
     open();
     const auto handle = window.winId();
+    window.move(77, 88);
+    open();
+    EXPECT_EQ(window.pos(), QPoint(77, 88)) << "where the user has moved it";
     QTest::keyClick(window.windowHandle(), Qt::Key_PageDown, Qt::ControlModifier);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
     EXPECT_FALSE(window.isVisible());
     open();
-    EXPECT_EQ(tab(), QStringLiteral("Appearance"));
+    EXPECT_EQ(tab(), u"Appearance"_s);
     QTest::keyClick(window.windowHandle(), Qt::Key_W, Qt::ControlModifier);
     EXPECT_FALSE(window.isVisible());
     EXPECT_EQ(window.winId(), handle);
-}
-
-TEST_F(SettingsWindowTest, OneThatTheUserHasMovedStaysThereWhenOpenedAgain)
-{
-    open();
-    window.move(77, 88);
-    window.showBeside(panel);
-    EXPECT_EQ(window.pos(), QPoint(77, 88));
 }
 
 TEST_F(SettingsWindowTest, TabsTurnByKeysInBothDirectionsAndRound)
 {
     open();
     EXPECT_EQ(QApplication::focusWidget(), tabs().tabBar());
-    const struct {
-        Qt::Key key;
-        const char* expected;
-    } cases[] = {{Qt::Key_PageDown, "Appearance"}, {Qt::Key_PageDown, "About"}, {Qt::Key_PageDown, "General"},
-        {Qt::Key_PageUp, "About"}, {Qt::Key_Tab, "General"}};
-    for (const auto& c : cases) {
-        QTest::keyClick(window.windowHandle(), c.key, Qt::ControlModifier);
-        EXPECT_EQ(tab(), QLatin1String(c.expected));
+    const std::pair<Qt::Key, QString> cases[] = {{Qt::Key_PageDown, u"Appearance"_s}, {Qt::Key_PageDown, u"About"_s},
+        {Qt::Key_PageDown, u"General"_s}, {Qt::Key_PageUp, u"About"_s}, {Qt::Key_Tab, u"General"_s}};
+    for (const auto& [key, expected] : cases) {
+        QTest::keyClick(window.windowHandle(), key, Qt::ControlModifier);
+        EXPECT_EQ(tab(), expected);
     }
 }
 
 TEST_F(SettingsWindowTest, EverythingIsResetOnlyWhenTheUserConfirmsIt)
 {
+    const auto pressing = [this](Qt::Key key) {
+        return [this, key] {
+            activate(*alert());
+            QTest::keyClick(alert()->windowHandle(), key);
+        };
+    };
+    const std::pair<std::function<void()>, int> answers[] = {{[this] { press(*alert(), "Cancel"); }, 0},
+        {pressing(Qt::Key_Return), 0}, {pressing(Qt::Key_Escape), 0},
+        {[this] { press(*alert(), "Reset Everything"); }, 1}};
     open();
-    answer("Cancel");
-    EXPECT_EQ(resets, 0);
-    answer("Reset Everything");
-    EXPECT_EQ(resets, 1);
-}
-
-TEST_F(SettingsWindowTest, ReturnAndEscapeResetNothing)
-{
-    open();
-    for (const auto key : {Qt::Key_Return, Qt::Key_Escape}) {
-        press(window, QStringLiteral("Reset All Data…"));
-        ASSERT_TRUE(QTest::qWaitForWindowActive(alert()));
-        QTest::keyClick(alert()->windowHandle(), key);
+    for (const auto& [answer, expected] : answers) {
+        press(window, "Reset All Data…");
+        ASSERT_TRUE(alert() && alert()->isModal());
+        answer();
         EXPECT_FALSE(alert());
+        EXPECT_EQ(resets, expected);
     }
-    EXPECT_EQ(resets, 0);
 }
 
 TEST_F(SettingsWindowTest, AllTextFitsAndTheWholeGeneralTabCanBeScrolledTo)
@@ -128,7 +114,7 @@ TEST_F(SettingsWindowTest, AllTextFitsAndTheWholeGeneralTabCanBeScrolledTo)
         }
     }
     tabs().setCurrentIndex(0);
-    const auto button = find(window, QStringLiteral("Reset All Data…"));
+    const auto button = find(window, "Reset All Data…");
     QTest::keyClick(tabs().currentWidget(), Qt::Key_PageDown);
     QTest::keyClick(tabs().currentWidget(), Qt::Key_PageDown);
     EXPECT_EQ(button->visibleRegion().boundingRect(), button->rect());

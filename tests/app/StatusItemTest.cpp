@@ -9,13 +9,12 @@ class StatusItemTest : public PanelFixture {
 protected:
     StatusItemTest() { fake.accessibility.motionReduced = true; }
 
-    /// The titles, with a rule for separators and a star before what is checked.
+    /// The titles, with a star before what is checked; separators have none.
     std::string shown()
     {
         std::string text;
         for (const auto action : item.menu().actions())
-            text +=
-                (action->isSeparator() ? "—" : (action->isChecked() ? "*" : "") + action->text().toStdString()) + "\n";
+            text += (action->isChecked() ? "*" : "") + action->text().toStdString() + "|";
         return text;
     }
     void choose(qsizetype row)
@@ -32,15 +31,15 @@ protected:
 TEST_F(StatusItemTest, TheMenuFollowsPanelAndDecksWithoutBeingOpened)
 {
     setCards({"card"});
-    EXPECT_EQ(shown(), "Show Cuebright\n—\n*Talk\n—\nQuit Cuebright\n");
+    EXPECT_EQ(shown(), "Show Cuebright||*Talk||Quit Cuebright|");
     controller.showPanel();
     store.createNewDeck("Q & A\nlast");
     refresh();
-    EXPECT_EQ(shown(), "Hide Cuebright\n—\nTalk\n*Q && A last\n—\nQuit Cuebright\n");
+    EXPECT_EQ(shown(), "Hide Cuebright||Talk|*Q && A last||Quit Cuebright|");
     controller.hidePanel();
     store.renameDeck("Talk");
     refresh();
-    EXPECT_EQ(shown(), "Show Cuebright\n—\nTalk\n*Talk\n—\nQuit Cuebright\n");
+    EXPECT_EQ(shown(), "Show Cuebright||Talk|*Talk||Quit Cuebright|");
 }
 
 TEST_F(StatusItemTest, ItemsActByTheirPlaceNotTheirName)
@@ -52,8 +51,7 @@ TEST_F(StatusItemTest, ItemsActByTheirPlaceNotTheirName)
     choose(3);
     EXPECT_EQ(store.activeDeckIndex(), 1);
     choose(3);
-    EXPECT_EQ(shown(), "Show Cuebright\n—\nTalk\n*Talk\n—\nQuit Cuebright\n")
-        << "choosing the active deck keeps its mark";
+    EXPECT_EQ(shown(), "Show Cuebright||Talk|*Talk||Quit Cuebright|") << "choosing the active deck keeps its mark";
     choose(0);
     EXPECT_TRUE(controller.isPanelVisible());
     choose(0);

@@ -37,7 +37,10 @@ void Desktop::closeWindow(WindowId window)
 {
     XDestroyWindow(m_display->connection, window);
     XSync(m_display->connection, False);
-    (void)waitUntil([&] { return !isActive(window); });
+    (void)waitUntil([&] {
+        const auto managed = m_display->property<WindowId>(m_display->root, "_NET_CLIENT_LIST");
+        return std::ranges::find(managed, window) == managed.end();
+    });
 }
 
 void Desktop::leaveFullScreen(WindowId window)

@@ -28,6 +28,21 @@ private:
     Desktop::WindowId m_window;
 };
 
+/// Whether the panel is raised over a slide show.
+testing::AssertionResult isLifted(const RunningPanel& panel, bool wanted = true)
+{
+    const bool isSo = waitUntil([&] { return desktop().hasProperty(panel.window(), "WM_TRANSIENT_FOR") == wanted; });
+    return isSo ? testing::AssertionSuccess() : testing::AssertionFailure() << (wanted ? "it is not" : "it is");
+}
+
+void hideAndShow(const RunningPanel& panel)
+{
+    panel.press("ctrl+shift+s");
+    ASSERT_TRUE(panel.isOffScreen());
+    panel.press("ctrl+shift+s");
+    ASSERT_TRUE(panel.isOnScreen());
+}
+
 testing::AssertionResult isAbove(Desktop::WindowId upper, Desktop::WindowId lower)
 {
     return waitUntil([&] { return desktop().isAbove(upper, lower); }) ? testing::AssertionSuccess()
@@ -45,10 +60,8 @@ TEST(DesktopFloating, TheHotKeyShowsAndHidesFromAnotherProgramThatKeepsTheKeyboa
         std::vector<std::vector<const char*>> {{}, {"Num_Lock"}, {"Num_Lock", "Caps_Lock"}, {"Caps_Lock"}}) {
         for (const auto* const lock : locks)
             panel.press(lock);
-        panel.press("ctrl+shift+s");
-        EXPECT_TRUE(panel.isOffScreen()) << locks.size();
-        panel.press("ctrl+shift+s");
-        EXPECT_TRUE(panel.isOnScreen()) << locks.size();
+        SCOPED_TRACE(testing::PrintToString(locks));
+        hideAndShow(panel);
         for (const auto* const lock : locks)
             panel.press(lock);
     }
@@ -76,10 +89,7 @@ TEST(DesktopFloating, ItStaysAboveARunningSlideShow)
     EXPECT_TRUE(isAbove(panel.window(), slides.id()));
     EXPECT_TRUE(slides.hasKeyboard());
 
-    panel.press("ctrl+shift+s");
-    ASSERT_TRUE(panel.isOffScreen());
-    panel.press("ctrl+shift+s");
-    ASSERT_TRUE(panel.isOnScreen());
+    hideAndShow(panel);
     EXPECT_TRUE(isAbove(panel.window(), slides.id())) << "after hiding and showing";
     EXPECT_TRUE(slides.hasKeyboard());
 
@@ -87,37 +97,30 @@ TEST(DesktopFloating, ItStaysAboveARunningSlideShow)
     EXPECT_TRUE(isAbove(panel.window(), slides.id())) << "after the window manager came back";
 
     desktop().leaveFullScreen(slides.id());
-    EXPECT_TRUE(waitUntil([&] { return !desktop().hasProperty(panel.window(), "WM_TRANSIENT_FOR"); }));
+    EXPECT_TRUE(isLifted(panel, false));
     EXPECT_TRUE(isAbove(panel.window(), slides.id())) << "above a window of the usual kind";
     slides.close();
     const OtherWindow more(Desktop::Size::FullScreen);
     EXPECT_TRUE(isAbove(panel.window(), more.id())) << "above the next slide show";
 }
 
-TEST(DesktopFloating, ASlideShowThatIsMinimisedLeavesThePanelOnTheScreen)
-{
-    const Home home;
-    const RunningPanel panel(home, {}, kLeft);
-    const OtherWindow slides(Desktop::Size::FullScreen);
-    ASSERT_TRUE(waitUntil([&] { return desktop().hasProperty(panel.window(), "WM_TRANSIENT_FOR"); }));
-    desktop().minimise(slides.id());
-    ASSERT_TRUE(waitUntil([&] { return !desktop().isOnScreen(slides.id()); }));
-    EXPECT_TRUE(waitUntil([&] { return !desktop().hasProperty(panel.window(), "WM_TRANSIENT_FOR"); }));
-    EXPECT_TRUE(panel.isOnScreen());
-}
-
-TEST(DesktopFloating, ASlideShowThatEndsLeavesThePanelWhereItWas)
+TEST(DesktopFloating, ASlideShowThatIsMinimisedOrEndsLeavesThePanelWhereItWas)
 {
     const Home home;
     const RunningPanel panel(home, {}, kLeft);
     const auto place = panel.area();
-    {
-        const OtherWindow slides(Desktop::Size::FullScreen);
-        ASSERT_TRUE(waitUntil([&] { return desktop().hasProperty(panel.window(), "WM_TRANSIENT_FOR"); }));
+    for (const bool isMinimised : {true, false}) {
+        OtherWindow slides(Desktop::Size::FullScreen);
+        ASSERT_TRUE(isLifted(panel));
+        if (isMinimised) {
+            desktop().minimise(slides.id());
+            ASSERT_TRUE(waitUntil([&] { return !desktop().isOnScreen(slides.id()); }));
+        } else
+            slides.close();
+        EXPECT_TRUE(isLifted(panel, false));
+        EXPECT_TRUE(panel.isOnScreen());
+        EXPECT_EQ(panel.area(), place);
     }
-    EXPECT_TRUE(waitUntil([&] { return !desktop().hasProperty(panel.window(), "WM_TRANSIENT_FOR"); }));
-    EXPECT_TRUE(panel.isOnScreen());
-    EXPECT_EQ(panel.area(), place);
 }
 
 TEST(DesktopFloating, ClickingTakesTheKeyboardAndDraggingMovesOnce)
@@ -138,12 +141,8 @@ TEST(DesktopFloating, ClickingTakesTheKeyboardAndDraggingMovesOnce)
         moved = panel.area();
         EXPECT_TRUE(kept("x=" + std::to_string(moved.x)));
         EXPECT_TRUE(kept("y=" + std::to_string(1800 - moved.y - moved.height)));
-        for (int i = 0; i < 10; ++i) {
-            panel.press("ctrl+shift+s");
-            ASSERT_TRUE(panel.isOffScreen());
-            panel.press("ctrl+shift+s");
-            ASSERT_TRUE(panel.isOnScreen());
-        }
+        for (int i = 0; i < 10; ++i)
+            hideAndShow(panel);
         EXPECT_EQ(panel.area(), moved) << "ten times hidden and shown";
         panel.send(SIGTERM);
         EXPECT_EQ(panel.exitStatus(), 0);

@@ -9,13 +9,6 @@ namespace cuebright::test {
 
 namespace {
 
-Environment with(Environment environment, const Environment& more)
-{
-    for (const auto& [name, value] : more)
-        environment[name] = value;
-    return environment;
-}
-
 const ScreenReader& screenReader()
 {
     static const ScreenReader shared(desktop().environment());
@@ -42,16 +35,17 @@ void Home::prefer(std::string_view key, std::string_view value) const
     std::ofstream(preferencesFile(), std::ios::app) << key << '=' << value << '\n';
 }
 
-void Home::keepDeck(std::string_view name, const std::vector<std::string_view>& cards) const
+void Home::keepDeck(std::string_view name, const std::vector<std::string_view>& cards, int activeCard) const
 {
     constexpr std::string_view kDates = R"("createdAt":"2026-11-16T01:21:19Z","updatedAt":"2026-11-16T01:21:19Z")";
+    constexpr std::string_view kIds = R"("id":"6b0f5c1e-3d0a-4e8b-9d55-2f7a1c9e4b)";
     std::ostringstream text;
-    text << R"({"opacity":1,"fontSize":17,"activeCardIndex":0,"decks":[{"id":"6B0F5C1E-3D0A-4E8B-9D55-2F7A1C9E4B21",)"
-         << R"("name":")" << name << "\"," << kDates << R"(,"cards":[)";
+    text << R"({"opacity":1,"fontSize":17,"activeCardIndex":)" << activeCard << R"(,"decks":[{)" << kIds
+         << R"(10","name":")" << name << "\"," << kDates << R"(,"cards":[)";
     int number = 10;
     for (const auto card : cards) {
-        text << (number == 10 ? "" : ",") << R"({"id":"0C8E6A52-9B1F-4C7D-8E2A-5D3B7F1A6C)" << number
-             << R"(","content":")" << card << "\"," << kDates << "}";
+        text << (number == 10 ? "{" : ",{") << kIds << number + 1 << R"(","content":")" << card << "\"," << kDates
+             << "}";
         ++number;
     }
     text << "]}]}";
@@ -63,13 +57,19 @@ std::filesystem::path Home::preferencesFile() const
     return m_folder.path() / "config" / "Cuebright" / "Cuebright.conf";
 }
 
-Environment Home::environment(Environment desktop) const
+Environment Home::environment(const Environment& more) const
 {
-    desktop["HOME"] = m_folder.path();
-    desktop["XDG_DATA_HOME"] = m_folder.path() / "data";
-    desktop["XDG_CONFIG_HOME"] = m_folder.path() / "config";
-    desktop["XDG_CACHE_HOME"] = m_folder.path() / "cache";
-    return desktop;
+    Environment result = more;
+    result.insert({{"HOME", m_folder.path()}, {"XDG_DATA_HOME", m_folder.path() / "data"},
+        {"XDG_CONFIG_HOME", m_folder.path() / "config"}, {"XDG_CACHE_HOME", m_folder.path() / "cache"}});
+    const auto& desktops = desktop().environment();
+    result.insert(desktops.begin(), desktops.end());
+    return result;
+}
+
+Process::Start Home::program(const Environment& more) const
+{
+    return {{CUEBRIGHT_PROGRAM}, environment(more), console(), {}, SIGKILL};
 }
 
 void Home::write(const std::filesystem::path& path, std::string_view text)
@@ -79,13 +79,12 @@ void Home::write(const std::filesystem::path& path, std::string_view text)
 }
 
 RunningPanel::RunningPanel(const Home& home, const Environment& more, Keyboard keyboard)
-    : m_program(
-        {{CUEBRIGHT_PROGRAM}, with(home.environment(desktop().environment()), more), home.console(), {}, SIGKILL})
+    : m_program(home.program(more))
 {
     bool up = false;
     (void)waitUntil([&] {
         m_window = desktop().windowOf(m_program.pid()).value_or(0);
-        up = m_window != 0 && screenReader().finds(m_program.pid(), title());
+        up = m_window != 0 && !find(title()).empty();
         return up || m_program.hasEnded();
     });
     if (!up)
@@ -99,9 +98,10 @@ RunningPanel::RunningPanel(const Home& home, const Environment& more, Keyboard k
         throw std::runtime_error("a click does not give the panel the keyboard");
 }
 
-std::string RunningPanel::title() const { return desktop().title(m_window); }
-
-Desktop::Area RunningPanel::area() const { return desktop().clientArea(m_window); }
+std::vector<ScreenReader::Element> RunningPanel::find(std::string_view name) const
+{
+    return screenReader().find(m_program.pid(), name);
+}
 
 testing::AssertionResult RunningPanel::isOnScreen() const
 {
@@ -121,41 +121,32 @@ testing::AssertionResult RunningPanel::hasTitle(std::string_view wanted) const
 
 testing::AssertionResult RunningPanel::shows(std::string_view name) const
 {
-    return outcome(waitUntil([&] { return screenReader().finds(m_program.pid(), name); }), name);
+    return outcome(waitUntil([&] { return !find(name).empty(); }), name);
 }
 
 testing::AssertionResult RunningPanel::showsNoLonger(std::string_view name) const
 {
-    return outcome(waitUntil([&] { return !screenReader().finds(m_program.pid(), name); }), name);
+    return outcome(waitUntil([&] { return find(name).empty(); }), name);
 }
 
 testing::AssertionResult RunningPanel::showsButton(std::string_view name) const { return hasRole(name, "push button"); }
 
 testing::AssertionResult RunningPanel::hasDisabled(std::string_view name) const
 {
-    return outcome(waitUntil([&] {
-        return screenReader().finds(m_program.pid(), name) && !screenReader().isEnabled(m_program.pid(), name);
-    }),
-        name);
+    const auto isOff = [](const ScreenReader::Element& element) { return !element.isEnabled; };
+    return outcome(waitUntil([&] { return std::ranges::any_of(find(name), isOff); }), name);
 }
 
 testing::AssertionResult RunningPanel::hints(std::string_view name, std::string_view hint) const
 {
-    std::string heard;
-    const bool seen = waitUntil([&] {
-        heard = screenReader().hint(m_program.pid(), name);
-        return heard == hint;
-    });
-    return outcome(seen, hint) << "\nthe hint of " << name << " is: " << heard;
+    const auto hints = [&](const ScreenReader::Element& element) { return element.hint == hint; };
+    return outcome(waitUntil([&] { return std::ranges::any_of(find(name), hints); }), hint);
 }
 
 testing::AssertionResult RunningPanel::hasRole(std::string_view name, std::string_view role) const
 {
-    return outcome(waitUntil([&] {
-        const auto roles = screenReader().roles(m_program.pid(), name);
-        return std::ranges::find(roles, role) != roles.end();
-    }),
-        std::string(role) + " " + std::string(name));
+    const auto hasRole = [&](const ScreenReader::Element& element) { return element.role == role; };
+    return outcome(waitUntil([&] { return std::ranges::any_of(find(name), hasRole); }), name) << " as " << role;
 }
 
 testing::AssertionResult RunningPanel::editorHolds(std::string_view part) const
@@ -168,18 +159,20 @@ testing::AssertionResult RunningPanel::editorHolds(std::string_view part) const
     return outcome(seen, part) << "\nthe editor holds: " << text;
 }
 
-void RunningPanel::press(std::string_view chord) const { desktop().press(chord); }
-
-void RunningPanel::type(std::string_view text) const { desktop().type(text); }
+testing::AssertionResult RunningPanel::hasBrightness(int least, int most) const
+{
+    int seen = -1;
+    const bool isSo = waitUntil([&] {
+        seen = desktop().brightness(m_window, 20, 200);
+        return least <= seen && seen <= most;
+    });
+    return isSo ? testing::AssertionSuccess() : testing::AssertionFailure() << "its brightness is " << seen;
+}
 
 testing::AssertionResult RunningPanel::pressButton(std::string_view name) const
 {
     return outcome(waitUntil([&] { return screenReader().press(m_program.pid(), name); }), name);
 }
-
-void RunningPanel::resize(int width, int height) const { desktop().resize(m_window, width, height); }
-
-void RunningPanel::takePicture(const std::filesystem::path& file) const { desktop().takePicture(m_window, file); }
 
 testing::AssertionResult RunningPanel::outcome(bool seen, std::string_view what) const
 {

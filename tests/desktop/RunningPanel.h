@@ -23,11 +23,14 @@ public:
     [[nodiscard]] std::filesystem::path stateFile() const { return stateFolder() / "state.json"; }
     [[nodiscard]] std::filesystem::path preferencesFile() const;
     [[nodiscard]] std::filesystem::path console() const { return m_folder.path() / "console"; }
-    [[nodiscard]] Environment environment(Environment desktop) const;
+    /// With these folders on our desktop; `more` comes before either.
+    [[nodiscard]] Environment environment(const Environment& more = {}) const;
+    /// How the program is started with them.
+    [[nodiscard]] Process::Start program(const Environment& more = {}) const;
 
     void prefer(std::string_view key, std::string_view value) const;
     /// The state file has one deck with these cards, written as JSON has them: \n for a line feed.
-    void keepDeck(std::string_view name, const std::vector<std::string_view>& cards) const;
+    void keepDeck(std::string_view name, const std::vector<std::string_view>& cards, int activeCard = 0) const;
 
     /// Writes a file, with the folders that lead to it.
     static void write(const std::filesystem::path& path, std::string_view text);
@@ -49,8 +52,8 @@ public:
     /// `more` is added to the environment of the desktop.
     explicit RunningPanel(const Home& home, const Environment& more = {}, Keyboard keyboard = Keyboard::Taken);
 
-    [[nodiscard]] std::string title() const;
-    [[nodiscard]] Desktop::Area area() const;
+    [[nodiscard]] std::string title() const { return desktop().title(m_window); }
+    [[nodiscard]] Desktop::Area area() const { return desktop().clientArea(m_window); }
     [[nodiscard]] Desktop::WindowId window() const { return m_window; }
     [[nodiscard]] pid_t process() const { return m_program.pid(); }
     [[nodiscard]] testing::AssertionResult isOnScreen() const;
@@ -65,15 +68,14 @@ public:
     [[nodiscard]] testing::AssertionResult hints(std::string_view name, std::string_view hint) const;
     [[nodiscard]] testing::AssertionResult hasRole(std::string_view name, std::string_view role) const;
     [[nodiscard]] testing::AssertionResult editorHolds(std::string_view part) const;
+    /// In the empty margin on its left, from 0 to 255.
+    [[nodiscard]] testing::AssertionResult hasBrightness(int least, int most) const;
 
     /// The keys go to the panel, as long as it has the keyboard.
-    void press(std::string_view chord) const;
-    void type(std::string_view text) const;
+    void press(std::string_view chord) const { desktop().press(chord); }
+    void type(std::string_view text) const { desktop().type(text); }
     /// The way of a screen reader; waits for the button.
     [[nodiscard]] testing::AssertionResult pressButton(std::string_view name) const;
-
-    void resize(int width, int height) const;
-    void takePicture(const std::filesystem::path& file) const;
 
     void send(int signal) const { m_program.send(signal); }
     /// Waits for the end of the program.
@@ -82,6 +84,7 @@ public:
     [[nodiscard]] std::string console() const { return m_program.output(); }
 
 private:
+    [[nodiscard]] std::vector<ScreenReader::Element> find(std::string_view name) const;
     testing::AssertionResult outcome(bool seen, std::string_view what) const;
 
     Process m_program;

@@ -1,6 +1,8 @@
 #include "desktop/ScreenReader.h"
 
 #include <cstdlib>
+#include <functional>
+#include <memory>
 #include <stdexcept>
 
 #include <atspi/atspi.h>
@@ -27,38 +29,57 @@ bool hasState(AtspiAccessible* accessible, AtspiStateType state)
     return states && atspi_state_set_contains(states.get(), state);
 }
 
-} // namespace
+std::string nameOf(AtspiAccessible* accessible) { return taken(atspi_accessible_get_name(accessible, nullptr)); }
 
-struct ScreenReader::Element {
-    AtspiAccessible* accessible;
-    int depth;
+std::string roleOf(AtspiAccessible* accessible) { return taken(atspi_accessible_get_role_name(accessible, nullptr)); }
 
-    std::string name() const { return taken(atspi_accessible_get_name(accessible, nullptr)); }
-    std::string hint() const { return taken(atspi_accessible_get_description(accessible, nullptr)); }
-    std::string role() const { return taken(atspi_accessible_get_role_name(accessible, nullptr)); }
-    bool is(AtspiStateType state) const { return hasState(accessible, state); }
+bool doPress(AtspiAccessible* accessible)
+{
+    const Owned<AtspiAction> action(atspi_accessible_get_action_iface(accessible));
+    const int count = action ? atspi_action_get_n_actions(action.get(), nullptr) : 0;
+    for (int i = 0; i < count; ++i)
+        if (taken(atspi_action_get_action_name(action.get(), i, nullptr)) == "Press")
+            return atspi_action_do_action(action.get(), i, nullptr);
+    return false;
+}
 
-    bool press() const
-    {
-        const Owned<AtspiAction> action(atspi_accessible_get_action_iface(accessible));
-        if (!action)
+std::string textOf(AtspiAccessible* accessible)
+{
+    const Owned<AtspiText> text(atspi_accessible_get_text_iface(accessible));
+    const int length = text ? atspi_text_get_character_count(text.get(), nullptr) : 0;
+    return text ? taken(atspi_text_get_text(text.get(), 0, length, nullptr)) : std::string();
+}
+
+/// Gets each element with its depth; its answer says whether to go on.
+using Visitor = std::function<bool(AtspiAccessible*, std::size_t)>;
+
+bool visitBelow(AtspiAccessible* parent, std::size_t depth, const Visitor& goesOn)
+{
+    constexpr std::size_t kDeepest = 40;
+    const int count = depth < kDeepest ? atspi_accessible_get_child_count(parent, nullptr) : 0;
+    for (int i = 0; i < count; ++i) {
+        const Owned<AtspiAccessible> child(atspi_accessible_get_child_at_index(parent, i, nullptr));
+        if (!child || !hasState(child.get(), ATSPI_STATE_SHOWING))
+            continue;
+        if (!goesOn(child.get(), depth + 1) || !visitBelow(child.get(), depth + 1, goesOn))
             return false;
-        const int count = atspi_action_get_n_actions(action.get(), nullptr);
-        for (int i = 0; i < count; ++i)
-            if (taken(atspi_action_get_action_name(action.get(), i, nullptr)) == "Press")
-                return atspi_action_do_action(action.get(), i, nullptr);
-        return false;
     }
+    return true;
+}
 
-    std::string text() const
-    {
-        const Owned<AtspiText> text(atspi_accessible_get_text_iface(accessible));
-        if (!text)
-            return {};
-        const int length = atspi_text_get_character_count(text.get(), nullptr);
-        return taken(atspi_text_get_text(text.get(), 0, length, nullptr));
+void visit(pid_t program, const Visitor& goesOn)
+{
+    while (g_main_context_iteration(nullptr, FALSE)) { }
+    const Owned<AtspiAccessible> root(atspi_get_desktop(0));
+    const int count = atspi_accessible_get_child_count(root.get(), nullptr);
+    for (int i = 0; i < count; ++i) {
+        const Owned<AtspiAccessible> application(atspi_accessible_get_child_at_index(root.get(), i, nullptr));
+        if (application && atspi_accessible_get_process_id(application.get(), nullptr) == static_cast<guint>(program))
+            visitBelow(application.get(), 0, goesOn);
     }
-};
+}
+
+} // namespace
 
 ScreenReader::ScreenReader(const Environment& desktop)
 {
@@ -71,48 +92,23 @@ ScreenReader::ScreenReader(const Environment& desktop)
     atspi_accessible_set_cache_mask(root.get(), ATSPI_CACHE_NONE);
 }
 
-bool ScreenReader::finds(pid_t program, std::string_view name) const { return !roles(program, name).empty(); }
-
-std::vector<std::string> ScreenReader::roles(pid_t program, std::string_view name) const
+std::vector<ScreenReader::Element> ScreenReader::find(pid_t program, std::string_view name) const
 {
-    std::vector<std::string> found;
-    visit(program, [&](const Element& element) {
-        if (element.name() == name)
-            found.push_back(element.role());
+    std::vector<Element> found;
+    visit(program, [&](AtspiAccessible* one, std::size_t) {
+        if (nameOf(one) == name)
+            found.push_back({roleOf(one), taken(atspi_accessible_get_description(one, nullptr)),
+                hasState(one, ATSPI_STATE_ENABLED)});
         return true;
     });
     return found;
 }
 
-std::string ScreenReader::hint(pid_t program, std::string_view name) const
-{
-    std::string hint;
-    visit(program, [&](const Element& element) {
-        if (element.name() != name)
-            return true;
-        hint = element.hint();
-        return false;
-    });
-    return hint;
-}
-
-bool ScreenReader::isEnabled(pid_t program, std::string_view name) const
-{
-    bool enabled = false;
-    visit(program, [&](const Element& element) {
-        if (element.name() != name)
-            return true;
-        enabled = element.is(ATSPI_STATE_ENABLED);
-        return false;
-    });
-    return enabled;
-}
-
 bool ScreenReader::press(pid_t program, std::string_view name) const
 {
     bool pressed = false;
-    visit(program, [&](const Element& element) {
-        pressed = element.name() == name && element.press();
+    visit(program, [&](AtspiAccessible* one, std::size_t) {
+        pressed = nameOf(one) == name && doPress(one);
         return !pressed;
     });
     return pressed;
@@ -121,11 +117,11 @@ bool ScreenReader::press(pid_t program, std::string_view name) const
 std::string ScreenReader::editableText(pid_t program) const
 {
     std::string text;
-    visit(program, [&](const Element& element) {
-        if (!element.is(ATSPI_STATE_EDITABLE))
-            return true;
-        text = element.text();
-        return false;
+    visit(program, [&](AtspiAccessible* one, std::size_t) {
+        const bool isField = hasState(one, ATSPI_STATE_EDITABLE);
+        if (isField)
+            text = textOf(one);
+        return !isField;
     });
     return text;
 }
@@ -133,39 +129,12 @@ std::string ScreenReader::editableText(pid_t program) const
 std::string ScreenReader::describe(pid_t program) const
 {
     std::string lines;
-    visit(program, [&](const Element& element) {
-        lines += std::string(static_cast<std::size_t>(element.depth) * 2, ' ') + element.role() + ": " + element.name()
-            + (element.is(ATSPI_STATE_ENABLED) ? "\n" : " (off)\n");
+    visit(program, [&](AtspiAccessible* one, std::size_t depth) {
+        lines += std::string(depth * 2, ' ') + roleOf(one) + ": " + nameOf(one)
+            + (hasState(one, ATSPI_STATE_ENABLED) ? "\n" : " (off)\n");
         return true;
     });
     return lines.empty() ? "the program shows nothing to a screen reader" : lines;
-}
-
-void ScreenReader::visit(pid_t program, const Visitor& goesOn)
-{
-    while (g_main_context_iteration(nullptr, FALSE)) { }
-    const Owned<AtspiAccessible> root(atspi_get_desktop(0));
-    const int count = atspi_accessible_get_child_count(root.get(), nullptr);
-    for (int i = 0; i < count; ++i) {
-        const Owned<AtspiAccessible> application(atspi_accessible_get_child_at_index(root.get(), i, nullptr));
-        if (application && atspi_accessible_get_process_id(application.get(), nullptr) == static_cast<guint>(program))
-            visitBelow({application.get(), 0}, 0, goesOn);
-    }
-}
-
-bool ScreenReader::visitBelow(const Element& element, int depth, const Visitor& goesOn)
-{
-    constexpr int kDeepest = 40;
-    const int count = depth < kDeepest ? atspi_accessible_get_child_count(element.accessible, nullptr) : 0;
-    for (int i = 0; i < count; ++i) {
-        const Owned<AtspiAccessible> child(atspi_accessible_get_child_at_index(element.accessible, i, nullptr));
-        if (!child || !hasState(child.get(), ATSPI_STATE_SHOWING))
-            continue;
-        const Element next {child.get(), depth + 1};
-        if (!goesOn(next) || !visitBelow(next, depth + 1, goesOn))
-            return false;
-    }
-    return true;
 }
 
 } // namespace cuebright::test

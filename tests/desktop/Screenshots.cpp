@@ -14,7 +14,7 @@ const std::vector<std::string_view> kCards = {
 };
 
 struct PreparedHome final : Home {
-    explicit PreparedHome(std::string_view theme)
+    explicit PreparedHome(std::string_view theme = "light")
     {
         keepDeck("Release talk", kCards);
         prefer("cuebrightTheme", theme);
@@ -37,7 +37,26 @@ public:
     {
     }
 
-    void look(const char* theme) const
+    void takeAll() const
+    {
+        for (const auto* const theme : {"light", "dark"})
+            takeLook(theme);
+        takeEditing();
+        takeCriticalCountdown();
+        takeError();
+        takeOnboarding();
+        takeSizes();
+    }
+
+private:
+    void take(const std::string& name, const RunningPanel& panel) const
+    {
+        const auto file = name + (m_scale == 1 ? "" : "@" + std::to_string(m_scale) + "x") + ".png";
+        desktop().takePicture(panel.window(), m_folder / file);
+        std::cout << file << std::endl;
+    }
+
+    void takeLook(const char* theme) const
     {
         const PreparedHome home(theme);
         home.prefer("cuebrightWordCount", "true");
@@ -46,22 +65,21 @@ public:
         take(theme, panel);
     }
 
-    void editing() const
+    void takeEditing() const
     {
-        const PreparedHome home("light");
+        const PreparedHome home;
         const RunningPanel panel(home, m_environment);
         require(panel.pressButton("Edit card"));
         require(panel.editorHolds("Why we ship"));
         take("editing", panel);
     }
 
-    void countdownCritical() const
+    void takeCriticalCountdown() const
     {
-        const PreparedHome home("light");
+        const PreparedHome home;
         const auto time = home.stateFolder() / "time";
         auto environment = m_environment;
-        environment["LD_PRELOAD"] = STILL_CLOCK;
-        environment["STILL_CLOCK"] = time;
+        environment.insert({{"LD_PRELOAD", STILL_CLOCK}, {"STILL_CLOCK", time}});
         const RunningPanel panel(home, environment);
         require(panel.pressButton("Timer: 00:00"));
         require(panel.pressButton("5 minutes"));
@@ -73,9 +91,9 @@ public:
         take("countdown-critical", panel);
     }
 
-    void error() const
+    void takeError() const
     {
-        const PreparedHome home("light");
+        const PreparedHome home;
         const RunningPanel panel(home, m_environment);
         require(panel.shows("Edit card"));
         std::filesystem::remove_all(home.stateFolder());
@@ -86,58 +104,35 @@ public:
         take("error", panel);
     }
 
-    void onboarding() const
+    void takeOnboarding() const
     {
         const Home home(Home::Introduction::NotSeen);
         home.prefer("cuebrightTheme", "light");
         const RunningPanel panel(home, m_environment);
-        require(panel.showsButton("Next page"));
-        take("onboarding-1", panel);
-        const char* titles[] = {"Invisible to screen share", "Quick shortcuts", "Write in markdown"};
-        for (int page = 0; page < 3; ++page) {
-            require(panel.pressButton("Next page"));
-            require(panel.shows(titles[page]));
-            take("onboarding-" + std::to_string(page + 2), panel);
+        int page = 0;
+        for (const auto* const title : {"Cue cards your audience can't see", "Invisible to screen share",
+                 "Quick shortcuts", "Write in markdown"}) {
+            if (page > 0)
+                require(panel.pressButton("Next page"));
+            require(panel.shows(title));
+            take("onboarding-" + std::to_string(++page), panel);
         }
     }
 
-    void sizes() const
+    void takeSizes() const
     {
-        const PreparedHome home("light");
+        const PreparedHome home;
         const RunningPanel panel(home, m_environment);
-        panel.resize(480 * m_scale, 360 * m_scale);
+        desktop().resize(panel.window(), 480 * m_scale, 360 * m_scale);
         take("narrow", panel);
-        panel.resize(1400 * m_scale, 700 * m_scale);
+        desktop().resize(panel.window(), 1400 * m_scale, 700 * m_scale);
         take("wide", panel);
-    }
-
-private:
-    void take(const std::string& name, const RunningPanel& panel) const
-    {
-        const auto file = name + (m_scale == 1 ? "" : "@" + std::to_string(m_scale) + "x") + ".png";
-        panel.takePicture(m_folder / file);
-        std::cout << file << std::endl;
     }
 
     std::filesystem::path m_folder;
     int m_scale;
     Environment m_environment;
 };
-
-void takeAll(const std::filesystem::path& folder)
-{
-    std::filesystem::create_directories(folder);
-    for (const int scale : {1, 2}) {
-        const Photographer photographer(folder, scale);
-        photographer.look("light");
-        photographer.look("dark");
-        photographer.editing();
-        photographer.countdownCritical();
-        photographer.error();
-        photographer.onboarding();
-        photographer.sizes();
-    }
-}
 
 } // namespace
 } // namespace cuebright::test
@@ -149,7 +144,9 @@ int main(int argc, char** argv)
         return EXIT_FAILURE;
     }
     try {
-        cuebright::test::takeAll(argv[1]);
+        std::filesystem::create_directories(argv[1]);
+        for (const int scale : {1, 2})
+            cuebright::test::Photographer(argv[1], scale).takeAll();
     } catch (const std::exception& error) {
         std::cerr << "screenshots: " << error.what() << '\n';
         return EXIT_FAILURE;

@@ -27,35 +27,33 @@ TEST(DesktopStateFile, DamagedOneGivesWayToTheSampleDecksWithoutAWord)
 TEST(DesktopStateFile, OfAnotherMachineOpensWhereItWasLeft)
 {
     const Home home;
-    Home::write(home.stateFile(), R"({"opacity":1,"fontSize":17,"activeCardIndex":1,"decks":[{
-        "id":"6b0f5c1e-3d0a-4e8b-9d55-2f7a1c9e4b21","name":"Talk","createdAt":"2026-11-16T01:21:19Z",
-        "updatedAt":"2026-11-16T01:21:19Z","cards":[
-            {"id":"0C8E6A52-9B1F-4C7D-8E2A-5D3B7F1A6C90","content":"# One","createdAt":"2026-11-16T01:21:19Z",
-             "updatedAt":"2026-11-16T01:21:19Z"},
-            {"id":"0C8E6A52-9B1F-4C7D-8E2A-5D3B7F1A6C91","content":"# Two \u2014 \ud83c\udfa4","createdAt":
-             "2026-11-16T01:21:19Z","updatedAt":"2026-11-16T01:21:19Z"}]}]})");
+    home.keepDeck("Talk", {"# One", R"(# Two \u2014 \ud83c\udfa4)"}, 1);
     const RunningPanel panel(home);
-
     EXPECT_TRUE(panel.hasTitle("Cuebright — Talk"));
     EXPECT_TRUE(panel.shows("Card 2 of 2"));
     panel.press("ctrl+e");
     EXPECT_TRUE(panel.editorHolds("# Two — 🎤"));
 }
 
-TEST(DesktopStateFile, FolderThatCannotBeWrittenShowsTheErrorUntilItCan)
+TEST(DesktopStateFile, FolderThatCannotBeWrittenShowsTheErrorUntilItIsDismissedOrItCan)
 {
     const Home home;
     // A file in the place of the folder stops even a user who may write everywhere.
     Home::write(home.stateFolder(), "in the way");
     const RunningPanel panel(home);
-
+    constexpr const char* kError = "Not saved — check disk space";
     newCard(panel);
-    EXPECT_TRUE(panel.shows("Not saved — check disk space"));
+    EXPECT_TRUE(panel.shows(kError));
     EXPECT_TRUE(panel.console().starts_with("[Cuebright] ERROR: Save failed (1x): ")) << panel.console();
+    EXPECT_TRUE(panel.pressButton("Dismiss error"));
+    EXPECT_TRUE(panel.showsNoLonger(kError));
+    EXPECT_TRUE(panel.showsNoLonger("Dismiss error"));
+    newCard(panel);
+    EXPECT_TRUE(panel.shows(kError));
 
     std::filesystem::remove(home.stateFolder());
     newCard(panel);
-    EXPECT_TRUE(panel.showsNoLonger("Not saved — check disk space"));
+    EXPECT_TRUE(panel.showsNoLonger(kError));
     EXPECT_NE(readFile(home.stateFile()).find("New Card"), std::string::npos);
 }
 

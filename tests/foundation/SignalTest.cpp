@@ -23,14 +23,6 @@ using Calls = std::vector<std::string>;
 
 } // namespace
 
-TEST_F(SignalTest, ListenersAreCalledInTheOrderOfSubscribing)
-{
-    const auto first = signal->subscribe(recorder("first"));
-    const auto second = signal->subscribe(recorder("second"));
-    signal->notify();
-    EXPECT_EQ(calls, (Calls {"first", "second"}));
-}
-
 TEST_F(SignalTest, AListenerEndsWithItsSubscription)
 {
     {

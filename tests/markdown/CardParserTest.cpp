@@ -22,15 +22,10 @@ Block quote(std::string text) { return {Block::Kind::Blockquote, std::move(text)
 Block paragraph(std::string text) { return {Block::Kind::Paragraph, std::move(text)}; }
 Block item(std::int64_t number, std::string text) { return {Block::Kind::NumberedItem, std::move(text), number}; }
 
-struct Case {
-    std::string_view content;
-    Blocks expected;
-};
-
-void expectBlocks(const std::vector<Case>& cases)
+void expectBlocks(const std::vector<std::pair<std::string_view, Blocks>>& cases)
 {
-    for (const auto& c : cases)
-        EXPECT_EQ(parseMarkdown(c.content), c.expected) << testing::PrintToString(c.content);
+    for (const auto& [content, expected] : cases)
+        EXPECT_EQ(parseMarkdown(content), expected) << testing::PrintToString(content);
 }
 
 } // namespace
@@ -38,11 +33,6 @@ void expectBlocks(const std::vector<Case>& cases)
 TEST(CardParser, EachMarkerMakesItsKindOfBlock)
 {
     expectBlocks({
-        {"# Title", {heading("Title")}},
-        {"- item", {bullet("item")}},
-        {"> quote", {quote("quote")}},
-        {"1. First", {item(1, "First")}},
-        {"plain", {paragraph("plain")}},
         {"line one\nline two", {paragraph("line one"), paragraph("line two")}},
         {"# T\n\n- a\n> b\n3. c\n7. d\ne",
             {heading("T"), bullet("a"), quote("b"), item(3, "c"), item(7, "d"), paragraph("e")}},
@@ -104,20 +94,12 @@ TEST(CardParser, OnlyTheLineFeedSeparatesLines)
     });
 }
 
-TEST(CardParser, NumbersAreTakenAsWritten)
+TEST(CardParser, NumbersAreTakenAsWrittenAndAreOneWhereTheyDoNotFit)
 {
     expectBlocks({
-        {"007. x", {item(7, "x")}},
-        {"0. x", {item(0, "x")}},
-        {"9223372036854775807. x", {item(9223372036854775807, "x")}},
-    });
-}
-
-TEST(CardParser, ANumberThatDoesNotFitIsOne)
-{
-    expectBlocks({
-        {"9223372036854775808. x", {item(1, "x")}}, {"99999999999999999999. big", {item(1, "big")}},
-        {"\xd9\xa3. x", {item(1, "x")}}, // arabic-indic three
+        {"007. x", {item(7, "x")}}, {"0. x", {item(0, "x")}},
+        {"9223372036854775807. x", {item(9223372036854775807, "x")}}, {"9223372036854775808. x", {item(1, "x")}},
+        {"99999999999999999999. big", {item(1, "big")}}, {"\xd9\xa3. x", {item(1, "x")}}, // arabic-indic three
         {"3\xef\xbc\x92. x", {item(1, "x")}}, // a fullwidth two behind the three
     });
 }
@@ -134,18 +116,12 @@ TEST(CardParser, AnyOneWhiteSpaceCharacterEndsAMarkerOfDigits)
     });
 }
 
-TEST(CardParser, InlineMarkersAndOtherScriptsStayAsTheyAre)
+TEST(CardParser, InlineMarkersOtherScriptsAndBytesThatAreNoTextStayAsTheyAre)
 {
     expectBlocks({
         {"- **bold** `code` [a](b)", {bullet("**bold** `code` [a](b)")}},
         {"# \xd7\xa9\xd7\x9c\xd7\x95\xd7\x9d", {heading("\xd7\xa9\xd7\x9c\xd7\x95\xd7\x9d")}},
         {"\xf0\x9f\x98\x80 # x", {paragraph("\xf0\x9f\x98\x80 # x")}},
-    });
-}
-
-TEST(CardParser, BytesThatAreNoTextAreKept)
-{
-    expectBlocks({
         {"- \xff\xfe", {bullet("\xff\xfe")}},
         {"1\xff. x", {paragraph("1\xff. x")}},
         {std::string_view("a\0b\nc", 5), {paragraph(std::string("a\0b", 3)), paragraph("c")}},

@@ -15,50 +15,30 @@ protected:
     Colors m_colors {GetParam(), m_accessibility};
 };
 
-TEST_P(StyledText, StrongTextKeepsTheColourOfItsBlock)
+TEST_P(StyledText, EachMarkerGivesItsLooksAndTheyAddUp)
 {
-    const Runs expected {{.text = "a", .isBold = true}, {.text = " b"}};
-    EXPECT_EQ(renderInline("**a** b", 20, m_colors), expected);
-}
-
-TEST_P(StyledText, EmphasisedTextIsItalicAndAccented)
-{
-    const Runs expected {{.text = "a", .isItalic = true, .foreground = m_colors.accent()}};
-    EXPECT_EQ(renderInline("*a*", 20, m_colors), expected);
-}
-
-TEST_P(StyledText, CodeIsMonospacedInTheSizeOfTheBodyOnATint)
-{
-    const Runs expected {{.text = "a", .monospacedSize = 17.5, .background = m_colors.sep().withAlpha(0.3)}};
-    EXPECT_EQ(renderInline("`a`", 17.5, m_colors), expected);
-}
-
-TEST_P(StyledText, LinksAreUnderlinedAndAccented)
-{
-    const Runs expected {
-        {.text = "site", .isUnderlined = true, .foreground = m_colors.accent(), .link = "page"},
-        {.text = " a@b.c", .isUnderlined = false},
+    const auto accent = m_colors.accent();
+    const auto tint = m_colors.sep().withAlpha(0.3);
+    const std::pair<const char*, Runs> cases[] = {
+        {"", {}},
+        {" a ", {{.text = " a "}}},
+        {"**a** b", {{.text = "a", .isBold = true}, {.text = " b"}}},
+        {"*a*", {{.text = "a", .isItalic = true, .foreground = accent}}},
+        {"`a`", {{.text = "a", .monospacedSize = 17.5, .background = tint}}},
+        {"[site](page) a@b.c",
+            {{.text = "site", .isUnderlined = true, .foreground = accent, .link = "page"}, {.text = " a@b.c"}}},
+        {"***[`a`](b)***",
+            {{.text = "a",
+                .isBold = true,
+                .isItalic = true,
+                .isUnderlined = true,
+                .monospacedSize = 17.5,
+                .foreground = accent,
+                .background = tint,
+                .link = "b"}}},
     };
-    EXPECT_EQ(renderInline("[site](page) a@b.c", 20, m_colors), expected);
-}
-
-TEST_P(StyledText, LooksAddUp)
-{
-    const Runs expected {{.text = "a",
-        .isBold = true,
-        .isItalic = true,
-        .isUnderlined = true,
-        .monospacedSize = 20,
-        .foreground = m_colors.accent(),
-        .background = m_colors.sep().withAlpha(0.3),
-        .link = "b"}};
-    EXPECT_EQ(renderInline("***[`a`](b)***", 20, m_colors), expected);
-}
-
-TEST_P(StyledText, PlainTextHasNoLooksOfItsOwn)
-{
-    EXPECT_EQ(renderInline(" a ", 20, m_colors), (Runs {{.text = " a "}}));
-    EXPECT_EQ(renderInline("", 20, m_colors), Runs {});
+    for (const auto& [text, expected] : cases)
+        EXPECT_EQ(renderInline(text, 17.5, m_colors), expected) << text;
 }
 
 INSTANTIATE_TEST_SUITE_P(, StyledText, testing::Bool(), [](const auto& look) { return look.param ? "Dark" : "Light"; });

@@ -15,21 +15,22 @@ const Instant kNow = Instant(std::chrono::hours(500'000));
 
 struct SampleDecks : testing::Test {
     test::FakeUuidSource uuids;
-    std::vector<Deck> decks = AppState::sampleDecks(kNow, uuids);
+    AppState state = AppState::makeDefault(kNow, uuids);
+    const std::vector<Deck>& decks = state.decks;
 };
 
 } // namespace
 
-TEST_F(SampleDecks, ThereAreThreeOfThemInOrder)
+TEST_F(SampleDecks, AreThreeOfWhichTheFirstIsShownAtItsFirstCard)
 {
-    ASSERT_EQ(decks.size(), 3U);
-    EXPECT_EQ(decks[0].name, "Getting Started");
-    EXPECT_EQ(decks[0].cards.size(), 5U);
-    EXPECT_EQ(decks[1].name, "Product Demo");
-    EXPECT_EQ(decks[1].cards.size(), 4U);
-    EXPECT_EQ(decks[2].name, "Q4 Board Update");
-    EXPECT_EQ(decks[2].cards.size(), 2U);
+    const std::pair<std::string, std::size_t> expected[] = {
+        {"Getting Started", 5}, {"Product Demo", 4}, {"Q4 Board Update", 2}};
+    ASSERT_EQ(decks.size(), std::size(expected));
+    for (std::size_t i = 0; i < decks.size(); ++i)
+        EXPECT_EQ(std::pair(decks[i].name, decks[i].cards.size()), expected[i]);
     EXPECT_TRUE(decks[0].cards[0].content.starts_with("# Cue cards your audience can’t see.\n\n- "));
+    EXPECT_EQ(state.activeDeckId, decks[0].id);
+    EXPECT_EQ(state.activeCardIndex, 0);
 }
 
 TEST_F(SampleDecks, EveryCardIsOneHeadingFollowedByBullets)
@@ -46,42 +47,20 @@ TEST_F(SampleDecks, EveryCardIsOneHeadingFollowedByBullets)
     }
 }
 
-TEST_F(SampleDecks, EveryDateIsTheGivenOne)
+TEST_F(SampleDecks, EveryDateIsTheGivenOneAndNoTwoIdentifiersAreTheSameNotEvenOfTwoCalls)
 {
-    for (const auto& deck : decks) {
-        EXPECT_EQ(deck.createdAt, kNow);
-        EXPECT_EQ(deck.updatedAt, kNow);
-        for (const auto& card : deck.cards) {
-            EXPECT_EQ(card.createdAt, kNow);
-            EXPECT_EQ(card.updatedAt, kNow);
-        }
-    }
-}
-
-TEST_F(SampleDecks, NoTwoIdentifiersAreTheSameNotEvenOfTwoCalls)
-{
-    std::multiset<Uuid> ids;
+    std::set<Uuid> ids;
+    const auto check = [&](const auto& item) {
+        EXPECT_TRUE(ids.insert(item.id).second);
+        EXPECT_EQ(item.createdAt, kNow);
+        EXPECT_EQ(item.updatedAt, kNow);
+    };
     for (const auto& list : {decks, AppState::sampleDecks(kNow, uuids)}) {
         for (const auto& deck : list) {
-            ids.insert(deck.id);
-            for (const auto& card : deck.cards)
-                ids.insert(card.id);
+            check(deck);
+            std::ranges::for_each(deck.cards, check);
         }
     }
-    EXPECT_EQ(ids.size(), 28U);
-    EXPECT_EQ(std::set<Uuid>(ids.begin(), ids.end()).size(), ids.size());
-}
-
-TEST_F(SampleDecks, TheFirstStartShowsTheFirstCardOfTheFirstDeck)
-{
-    const auto state = AppState::makeDefault(kNow, uuids);
-    ASSERT_EQ(state.decks.size(), 3U);
-    EXPECT_EQ(state.activeDeckId, state.decks.front().id);
-    EXPECT_EQ(state.activeCardIndex, 0);
-    EXPECT_EQ(state.decks.front().createdAt, kNow);
-    EXPECT_FALSE(state.windowFrame);
-    EXPECT_EQ(state.opacity, 1.0);
-    EXPECT_EQ(state.fontSize, 17.0);
 }
 
 } // namespace cuebright

@@ -84,45 +84,28 @@ TEST(StateFileWriter, AnEmptyListIsABlankLineBetweenItsBrackets)
 
 TEST(StateFileWriter, OnlyWhatMustBeAndTheSlashIsEscaped)
 {
-    const struct {
-        std::string content;
-        std::string expected;
-    } kCases[] = {
+    const std::pair<std::string, std::string> cases[] = {
         {"", R"("")"},
-        {"say \"hi\"", R"("say \"hi\"")"},
-        {"a\\b", R"("a\\b")"},
+        {"\"a\\b\"", R"("\"a\\b\"")"},
         {"https://a/b", R"("https:\/\/a\/b")"},
         {"\b\f\n\r\t", R"("\b\f\n\r\t")"},
         {std::string("\0\x01\x0b\x1f", 4), R"("\u0000\u0001\u000b\u001f")"},
-        {"\x7f", "\"\x7f\""},
-        {"é → — 😀 שלום", "\"é → — 😀 שלום\""},
-        {"\u00a0\u2028\ufeff", "\"\u00a0\u2028\ufeff\""},
+        {"\x7fé → — 😀 \u00a0\u2028\ufeff", "\"\x7fé → — 😀 \u00a0\u2028\ufeff\""},
     };
-    for (const auto& c : kCases)
-        EXPECT_EQ(writtenContent(c.content), c.expected);
-}
-
-TEST(StateFileWriter, AnEscapeIsWrittenWhereverItFallsInALongText)
-{
-    for (std::size_t position = 0; position < 100; ++position) {
-        std::string content(100, 'x');
-        content[position] = '"';
-        EXPECT_EQ(writtenContent(content),
-            "\"" + std::string(position, 'x') + "\\\"" + std::string(99 - position, 'x') + "\"");
-    }
+    for (const auto& [content, expected] : cases)
+        EXPECT_EQ(writtenContent(content), expected);
 }
 
 TEST(StateFileWriter, ACharacterIsWrittenTheSameAloneAndInALongText)
 {
     for (char c = 0; c < 0x7f; ++c) {
-        auto alone = writtenContent(std::string(1, c));
-        alone = alone.substr(1, alone.size() - 2);
+        const auto alone = writtenContent(std::string(1, c));
         std::string expected;
-        for (int i = 0; i < 20; ++i)
-            expected.append("xy").append(alone);
         std::string content;
-        for (int i = 0; i < 20; ++i)
+        for (int i = 0; i < 20; ++i) {
+            expected.append("xy").append(alone, 1, alone.size() - 2);
             content.append("xy").append(1, c);
+        }
         EXPECT_EQ(writtenContent(content), '"' + expected + '"') << int {c};
     }
 }
@@ -137,20 +120,10 @@ TEST(StateFileWriter, TextsLongerThanAnyBufferAreWrittenWhole)
 
 TEST(StateFileWriter, NumbersTakeTheirShortestForm)
 {
-    const struct {
-        double value;
-        const char* expected;
-    } kCases[] = {
-        {17.0, "17"},
-        {1.0, "1"},
-        {0.85, "0.85"},
-        {0.1 + 0.2, "0.30000000000000004"},
-        {-0.5, "-0.5"},
-        {1e300, "1e+300"},
-    };
-    for (const auto& c : kCases)
-        EXPECT_TRUE(text(encoded({}, c.value)).ends_with("\"opacity\" : " + std::string(c.expected) + "\n}"))
-            << c.expected;
+    const std::pair<double, std::string> cases[] = {
+        {17, "17"}, {0.85, "0.85"}, {0.1 + 0.2, "0.30000000000000004"}, {-0.5, "-0.5"}, {1e300, "1e+300"}};
+    for (const auto& [value, expected] : cases)
+        EXPECT_TRUE(text(encoded({}, value)).ends_with("\"opacity\" : " + expected + "\n}")) << expected;
 }
 
 TEST(StateFileWriter, NumbersThatJsonCannotHoldAreAnError)

@@ -1,18 +1,116 @@
 #include "panel/CardContentView.h"
 
+#include "panel/BlockAccessible.h"
 #include "panel/PanelFixture.h"
 
 #include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QTest>
 
 namespace cuebright::test {
 
+/// A card view on the screen, with the card area in it.
 class CardContentViewTest : public PanelFixture {
 protected:
     CardContentView view {context};
+    CardArea& area = *view.findChild<CardArea*>();
 
-    QPlainTextEdit& editor() { return *view.findChild<QPlainTextEdit*>(); }
+    void SetUp() override
+    {
+        view.resize(720, 560);
+        view.show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&view));
+    }
+    QScrollBar& bar() { return *area.verticalScrollBar(); }
+    void key(Qt::Key key)
+    {
+        QTest::keyClick(&area, key);
+        refresh();
+    }
+    static std::string longCard(int lines)
+    {
+        std::string content;
+        for (int i = 0; i < lines; ++i)
+            content += "- point " + std::to_string(i) + "\n";
+        return content;
+    }
 };
+
+TEST_F(CardContentViewTest, PageKeysScrollFirstAndThenStep)
+{
+    setCards({longCard(60), longCard(60), "a card that fits"});
+    key(Qt::Key_PageDown);
+    EXPECT_EQ(store.activeCardIndex(), 0);
+    const int scrolled = bar().value();
+    EXPECT_GT(scrolled, 0);
+    store.showFeedback("Hello");
+    store.increaseFontSize();
+    refresh();
+    EXPECT_EQ(bar().value(), scrolled) << "the same card stays where it is scrolled";
+    for (int i = 0; i < 20 && store.activeCardIndex() == 0; ++i)
+        key(Qt::Key_PageDown);
+    EXPECT_EQ(store.activeCardIndex(), 1);
+    EXPECT_EQ(bar().value(), 0) << "another card opens at its top";
+    key(Qt::Key_End);
+    key(Qt::Key_PageDown);
+    EXPECT_EQ(store.activeCardIndex(), 2);
+    key(Qt::Key_PageUp);
+    EXPECT_EQ(store.activeCardIndex(), 1) << "there was nothing to scroll";
+}
+
+TEST_F(CardContentViewTest, TheEndOfALongCardIsReachedAtOnce)
+{
+    setCards({longCard(3000)});
+    key(Qt::Key_End);
+    EXPECT_EQ(bar().value(), bar().maximum());
+    EXPECT_NEAR(bar().maximum(), area.cardLayout()->height() - area.viewport()->height(), 1);
+}
+
+TEST_F(CardContentViewTest, AMoveIsAnimatedAndWithReducedMotionItIsNot)
+{
+    setCards({"one", "two"});
+    const auto picture = [&] { return area.grab().toImage(); };
+    const auto before = picture();
+    store.nextCard();
+    refresh();
+    EXPECT_EQ(picture(), before) << "the first frame is what was on the screen";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return picture() != before; }));
+
+    fake.accessibility.motionReduced = true;
+    store.prevCard();
+    refresh();
+    EXPECT_EQ(picture(), before);
+}
+
+TEST_F(CardContentViewTest, LinksAreReachedByTabAndReadWithTheirBlock)
+{
+    setCards({"# Title\n[a](http://a.example) and [b](javascript:x)"});
+    area.setFocus();
+    const auto spoken = QAccessible::queryAccessibleInterface(&area);
+    const auto block = spoken->child(1);
+    for (const int link : {0, 1}) {
+        QTest::keyClick(&area, Qt::Key_Tab);
+        EXPECT_EQ(spoken->focusChild(), block->child(link));
+    }
+    QTest::keyClick(&area, Qt::Key_Tab);
+    EXPECT_FALSE(area.hasFocus());
+    EXPECT_LT(spoken->child(0)->rect().bottom(), block->rect().top() + 1);
+    ASSERT_EQ(block->childCount(), 2);
+    EXPECT_EQ(block->child(0)->role(), QAccessible::Link);
+    EXPECT_FALSE(block->child(0)->state().disabled);
+    EXPECT_TRUE(block->child(1)->state().disabled) << "a link that does nothing says so";
+}
+
+TEST_F(CardContentViewTest, WithoutACardThereIsNothingAndNothingBreaks)
+{
+    setCards({});
+    EXPECT_TRUE(isShown(view, "Card content"));
+    EXPECT_EQ(area.cardLayout(), nullptr);
+    key(Qt::Key_PageDown);
+    key(Qt::Key_End);
+    QTest::mouseDClick(area.viewport(), Qt::LeftButton);
+    EXPECT_FALSE(store.isEditing());
+}
 
 TEST_F(CardContentViewTest, TheColumnIsCentredAndNeverTouchesTheEdges)
 {
@@ -22,93 +120,23 @@ TEST_F(CardContentViewTest, TheColumnIsCentredAndNeverTouchesTheEdges)
     EXPECT_EQ(CardContentView::columnPadding(500), 40);
 }
 
-TEST_F(CardContentViewTest, EverythingHasAName)
-{
-    for (const auto name : {"CARD 01 / 05", "Active deck: Getting Started", "Card content", "Card 1 of 5", "Edit card",
-             "Previous card", "Next card"})
-        EXPECT_TRUE(isShown(view, QLatin1String(name))) << name;
-    store.beginEditing();
-    refresh();
-    for (const auto name : {"Cancel editing", "Save card"})
-        EXPECT_TRUE(isShown(view, QLatin1String(name))) << name;
-    for (const auto name : {"Edit card", "Previous card", "Next card", "Card content"})
-        EXPECT_FALSE(isShown(view, QLatin1String(name))) << name;
-}
-
-TEST_F(CardContentViewTest, ButtonsMoveEditSaveAndCancel)
-{
-    EXPECT_FALSE(find(view, QStringLiteral("Previous card"))->isEnabled());
-    press(view, QStringLiteral("Next card"));
-    refresh();
-    EXPECT_EQ(store.activeCardIndex(), 1);
-    EXPECT_TRUE(isShown(view, QStringLiteral("Card 2 of 5")));
-    press(view, QStringLiteral("Previous card"));
-    press(view, QStringLiteral("Edit card"));
-    refresh();
-    editor().setPlainText(QStringLiteral("new"));
-    press(view, QStringLiteral("Save card"));
-    refresh();
-    EXPECT_EQ(store.activeCard()->content, "new");
-    press(view, QStringLiteral("Edit card"));
-    refresh();
-    editor().setPlainText(QStringLiteral("other"));
-    press(view, QStringLiteral("Cancel editing"));
-    refresh();
-    EXPECT_EQ(store.activeCard()->content, "new");
-    EXPECT_TRUE(isShown(view, QStringLiteral("Discarded")));
-}
-
-TEST_F(CardContentViewTest, TheEditorOpensWhereWritingStarts)
-{
-    setCards({"# Title\n\ntext", "plain", ""});
-    store.beginEditing();
-    refresh();
-    EXPECT_EQ(editor().textCursor().selectedText(), QStringLiteral("Title"));
-    store.cancelEdit();
-    store.nextCard();
-    store.beginEditing();
-    refresh();
-    EXPECT_FALSE(editor().textCursor().hasSelection());
-    EXPECT_EQ(editor().textCursor().position(), 0);
-    store.cancelEdit();
-    store.nextCard();
-    store.beginEditing();
-    refresh();
-    EXPECT_EQ(editor().textCursor().position(), 2) << "after the \"# \" of a blank card";
-}
-
-TEST_F(CardContentViewTest, OpeningAnEditAltersNothing)
-{
-    const std::string text = "a\u00a0b \n\n";
-    setCards({text});
-    store.beginEditing();
-    refresh();
-    EXPECT_EQ(store.editText(), text);
-    QTest::keyClicks(&editor(), QStringLiteral("x"));
-    EXPECT_EQ(store.editText(), "x" + text);
-}
-
-TEST_F(CardContentViewTest, AnEditOpenedAndClosedInOneTurnShowsTheNextTextAfresh)
+TEST_F(CardContentViewTest, TheEditorTakesItsPlaceAndShowsAnEditOpenedAndClosedInOneTurnAfresh)
 {
     setCards({"one", "two"});
-    store.beginEditing();
+    press(view, "Edit card");
     refresh();
+    EXPECT_FALSE(isShown(view, "Card content"));
+    auto& editor = *view.findChild<QPlainTextEdit*>();
+    editor.setPlainText(u"new"_s);
     store.saveEdit();
+    EXPECT_EQ(store.activeCard()->content, "new");
     store.nextCard();
     store.beginEditing();
     refresh();
-    EXPECT_EQ(editor().toPlainText(), QStringLiteral("two"));
-}
-
-TEST_F(CardContentViewTest, ASaveErrorStaysUntilDismissed)
-{
-    fake.fileSystem.writeError = "disk full";
-    store.flushToDisk();
+    EXPECT_EQ(editor.toPlainText(), u"two"_s);
+    press(view, "Cancel editing");
     refresh();
-    EXPECT_TRUE(isShown(view, QStringLiteral("Not saved — check disk space")));
-    store.dismissError();
-    refresh();
-    EXPECT_FALSE(isShown(view, QStringLiteral("Not saved — check disk space")));
+    EXPECT_TRUE(isShown(view, "Card content"));
 }
 
 } // namespace cuebright::test

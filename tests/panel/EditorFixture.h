@@ -30,20 +30,15 @@ protected:
         store.beginEditing();
         editor.open();
     }
-
     void openAt(const QString& marked)
     {
+        const bool isCaret = marked.contains(u'|');
+        const auto start = marked.indexOf(isCaret ? u'|' : u'‹');
+        const auto end = isCaret ? start : marked.indexOf(u'›') - 1;
         auto text = marked;
-        const auto caret = text.indexOf(u'|');
-        const auto start = caret < 0 ? text.indexOf(u'‹') : caret;
-        text.remove(start, 1);
-        const auto end = caret < 0 ? text.indexOf(u'›') : caret;
-        if (caret < 0)
-            text.remove(end, 1);
-        open(text.toStdString());
+        open(text.remove(isCaret ? u'|' : u'‹').remove(u'›').toStdString());
         select(start, end);
     }
-
     void select(qsizetype start, qsizetype end)
     {
         auto cursor = editor.textCursor();
@@ -65,6 +60,11 @@ protected:
 
     void type(const QString& text) { QTest::keyClicks(&editor, text); }
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(&editor, key, modifiers); }
+    void undoAll()
+    {
+        while (editor.document()->isUndoAvailable())
+            editor.undo();
+    }
     void compose(const QString& preedit, const QString& committed)
     {
         QInputMethodEvent event(preedit, {});

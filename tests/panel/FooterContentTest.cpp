@@ -5,35 +5,18 @@
 #include "panel/Ink.h"
 #include "panel/PanelFixture.h"
 #include "panel/TimerView.h"
+#include "platform/Contrast.h"
 #include "support/EventLoop.h"
 
-#include <QAbstractButton>
 #include <QTest>
 
-#include <algorithm>
 #include <cmath>
 #include <cstdlib>
-#include <ostream>
+#include <tuple>
 
-namespace cuebright {
-
-void PrintTo(const FooterPlaces::Place& place, std::ostream* out) { *out << place.x << "+" << place.width; }
-
-namespace test {
+namespace cuebright::test {
 
 namespace {
-
-double luminance(const Color& color)
-{
-    const auto linear = [](double c) { return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
-    return 0.2126 * linear(color.red) + 0.7152 * linear(color.green) + 0.0722 * linear(color.blue);
-}
-
-double contrast(const Color& a, const Color& b)
-{
-    const auto [darker, lighter] = std::minmax({luminance(a), luminance(b)});
-    return (lighter + 0.05) / (darker + 0.05);
-}
 
 Color over(const Color& front, const Color& back)
 {
@@ -41,69 +24,53 @@ Color over(const Color& front, const Color& back)
     return {mix(front.red, back.red), mix(front.green, back.green), mix(front.blue, back.blue)};
 }
 
-constexpr FooterWidths kEverything {50, 90, 74, 260, 34, 60, 160};
+/// The places of position, word count, timer, error, feedback and buttons; "-" where there is no room.
+std::string describe(const FooterPlaces& places)
+{
+    std::string text;
+    for (const auto& place :
+        {places.position, places.wordCount, places.timer, places.error, places.feedback, places.buttons})
+        text += place.width == 0 ? "- " : std::to_string(place.x) + "+" + std::to_string(place.width) + " ";
+    return text;
+}
 
 } // namespace
 
-TEST(FooterPlaces, StandInTheirOrderTwelveApartWithTheButtonsAtTheEnd)
+TEST(FooterPlaces, StandInTheirOrderAndTheErrorGivesWayFirstThenTheFeedbackThenTheWordCount)
 {
-    const auto places = footerPlaces(kEverything, 800);
-    EXPECT_EQ(places.position, (FooterPlaces::Place {0, 50}));
-    EXPECT_EQ(places.wordCount, (FooterPlaces::Place {62, 90}));
-    EXPECT_EQ(places.timer, (FooterPlaces::Place {164, 74}));
-    EXPECT_EQ(places.error, (FooterPlaces::Place {250, 260}));
-    EXPECT_EQ(places.feedback, (FooterPlaces::Place {522, 60}));
-    EXPECT_EQ(places.buttons, (FooterPlaces::Place {640, 160}));
-}
-
-TEST(FooterPlaces, WhatIsAbsentLeavesNoGap)
-{
-    const auto places = footerPlaces({50, 0, 74, 0, 34, 60, 160}, 800);
-    EXPECT_EQ(places.timer, (FooterPlaces::Place {62, 74}));
-    EXPECT_EQ(places.feedback, (FooterPlaces::Place {148, 60}));
-}
-
-TEST(FooterPlaces, TheErrorGivesWayFirstThenTheFeedbackThenTheWordCount)
-{
-    struct Row {
-        int available;
-        int error;
-        int feedback;
-        int wordCount;
+    constexpr FooterWidths kEverything {50, 90, 74, 260, 34, 60, 160}; // which wants 754
+    constexpr FooterWidths kLittle {50, 0, 74, 0, 34, 60, 160};
+    const std::tuple<FooterWidths, int, const char*> cases[] = {
+        {kLittle, 800, "0+50 - 62+74 - 148+60 640+160 "},
+        {kEverything, 800, "0+50 62+90 164+74 250+260 522+60 640+160 "},
+        {kEverything, 754, "0+50 62+90 164+74 250+260 522+60 594+160 "},
+        {kEverything, 753, "0+50 62+90 164+74 250+259 521+60 593+160 "},
+        {kEverything, 528, "0+50 62+90 164+74 250+34 296+60 368+160 "},
+        {kEverything, 527, "0+50 62+90 164+74 250+34 296+59 367+160 "},
+        {kEverything, 496, "0+50 62+90 164+74 250+34 296+28 336+160 "},
+        {kEverything, 495, "0+50 62+89 163+74 249+34 295+28 335+160 "},
+        {kEverything, 434, "0+50 62+28 102+74 188+34 234+28 274+160 "},
+        {kEverything, 433, "0+50 62+67 141+74 227+34 - 273+160 "},
+        {kEverything, 393, "0+50 - 62+74 148+73 - 233+160 "},
     };
-    // 754 is what all of it wants.
-    for (const auto& row : {Row {754, 260, 60, 90}, Row {753, 259, 60, 90}, Row {528, 34, 60, 90},
-             Row {527, 34, 59, 90}, Row {496, 34, 28, 90}, Row {495, 34, 28, 89}, Row {434, 34, 28, 28},
-             Row {433, 34, 0, 67}, Row {393, 73, 0, 0}}) {
-        const auto places = footerPlaces(kEverything, row.available);
-        EXPECT_EQ(places.error.width, row.error) << row.available;
-        EXPECT_EQ(places.feedback.width, row.feedback) << row.available;
-        EXPECT_EQ(places.wordCount.width, row.wordCount) << row.available;
-        EXPECT_EQ(places.position.width, 50) << row.available;
-        EXPECT_EQ(places.timer.width, 74) << row.available;
-        EXPECT_EQ(places.buttons.width, 160) << row.available;
-        EXPECT_GE(places.buttons.x, places.error.x + places.error.width + kFooterGap) << row.available;
-    }
+    for (const auto& [widths, available, places] : cases)
+        EXPECT_EQ(describe(footerPlaces(widths, available)), places) << available;
 }
 
 TEST(Ink, WarningsCanBeReadInEveryLook)
 {
     FakeAccessibility accessibility;
     using Urgency = TimerManager::Urgency;
-    for (const bool isDark : {false, true}) {
-        for (const bool highContrast : {false, true}) {
-            accessibility.contrastIncreased = highContrast;
-            const Colors colors(isDark, accessibility);
-            const double wanted = highContrast ? 7 : 4.5;
-            for (const auto ink : {Ink::Red, Ink::Orange})
-                EXPECT_GE(contrast(inkColor(ink, colors), colors.warmBg()), wanted)
-                    << static_cast<int>(ink) << isDark << highContrast;
-            for (const auto urgency : {Urgency::Warning, Urgency::Critical, Urgency::Expired})
-                EXPECT_GE(
-                    contrast(inkColor(timerInk(urgency), colors), over(timerFill(urgency, colors), colors.warmBg())),
-                    highContrast ? 6.0 : 4.5)
-                    << static_cast<int>(urgency) << isDark << highContrast;
-        }
+    for (const int look : {0, 1, 2, 3}) {
+        const Colors colors(look % 2 == 1, accessibility);
+        const bool highContrast = accessibility.contrastIncreased = look >= 2;
+        for (const auto ink : {Ink::Red, Ink::Orange})
+            EXPECT_GE(contrast(inkColor(ink, colors), colors.warmBg()), highContrast ? 7 : 4.5)
+                << static_cast<int>(ink) << look;
+        for (const auto urgency : {Urgency::Warning, Urgency::Critical, Urgency::Expired})
+            EXPECT_GE(contrast(inkColor(timerInk(urgency), colors), over(timerFill(urgency, colors), colors.warmBg())),
+                highContrast ? 6.0 : 4.5)
+                << static_cast<int>(urgency) << look;
     }
 }
 
@@ -112,7 +79,7 @@ protected:
     TimerManager timer {fake.clock, fake.mainQueue};
     QWidget panel;
     FooterView footer {context, timer, &panel};
-    QString error = QStringLiteral("Not saved — check disk space");
+    QString error = u"Not saved — check disk space"_s;
 
     void SetUp() override
     {
@@ -132,26 +99,39 @@ protected:
         panel.show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&panel));
     }
-    QRect placeOf(const QString& name)
+    void say(const char* message)
+    {
+        store.showFeedback(message);
+        footer.refresh();
+    }
+    void letTheMessageEnd()
+    {
+        fake.mainQueue.advance(Seconds(2.1));
+        footer.refresh();
+    }
+    QRect placeOf(QAnyStringView name)
     {
         const auto widget = find(panel, name);
         return widget ? QRect(widget->mapTo(&panel, QPoint()), widget->size()) : QRect();
     }
 };
 
-TEST_F(FooterViewTest, InTheSmallestPanelNothingOverlapsAndAllKeepTheirNames)
+TEST_F(FooterViewTest, InTheSmallestPanelNothingOverlapsAndAllKeepTheirNamesAndRoles)
 {
+    using enum QAccessible::Role;
     store.toggleWordCount();
-    store.showFeedback("Exported to A rather long name.md");
+    store.showFeedback("Exported to A & B, a rather long name.md");
     failToSave();
     showPanel();
-    const QStringList names {QStringLiteral("Card 1 of 5"), QString::fromStdString(*footerContent(store).wordCount),
-        QStringLiteral("Start timer"), QStringLiteral("Timer: 00:00"), error, QStringLiteral("Dismiss error"),
-        QStringLiteral("Exported to A rather long name.md"), QStringLiteral("Edit card"),
-        QStringLiteral("Previous card"), QStringLiteral("Next card")};
+    const auto wordCount = QString::fromStdString(*footerContent(store).wordCount);
+    const std::pair<QString, QAccessible::Role> items[] = {{u"Card 1 of 5"_s, StaticText}, {wordCount, StaticText},
+        {u"Start timer"_s, Button}, {u"Timer: 00:00"_s, Button}, {error, AlertMessage}, {u"Dismiss error"_s, Button},
+        {u"Exported to A & B, a rather long name.md"_s, AlertMessage}, {u"Edit card"_s, Button},
+        {u"Previous card"_s, Button}, {u"Next card"_s, Button}};
     int right = 40;
-    for (const auto& name : names) {
+    for (const auto& [name, role] : items) {
         const auto place = placeOf(name);
+        EXPECT_EQ(QAccessible::queryAccessibleInterface(find(panel, name))->role(), role) << name.toStdString();
         if (place.width() == 0)
             continue;
         EXPECT_GE(place.left(), right) << name.toStdString();
@@ -160,30 +140,20 @@ TEST_F(FooterViewTest, InTheSmallestPanelNothingOverlapsAndAllKeepTheirNames)
     EXPECT_EQ(right, 440);
 }
 
-TEST_F(FooterViewTest, AMessageFadesOutWithItsTextAndThenIsGone)
+TEST_F(FooterViewTest, AMessageFadesOutWithItsTextAndThenIsGoneUnlessAnotherComes)
 {
     showPanel();
-    store.showFeedback("Saved");
-    footer.refresh();
-    ASSERT_TRUE(isShown(panel, QStringLiteral("Saved")));
-    fake.mainQueue.advance(Seconds(2.1));
-    footer.refresh();
-    EXPECT_TRUE(isShown(panel, QStringLiteral("Saved"))) << "still fading";
-    EXPECT_TRUE(waitUntil([&] { return !isShown(panel, QStringLiteral("Saved")); }));
-}
+    say("Saved");
+    letTheMessageEnd();
+    EXPECT_TRUE(isShown(panel, "Saved")) << "still fading";
+    EXPECT_TRUE(waitUntil([&] { return !isShown(panel, "Saved"); }));
 
-TEST_F(FooterViewTest, AMessageThatComesBackWhileItFadesStays)
-{
-    showPanel();
-    store.showFeedback("Saved");
-    footer.refresh();
-    fake.mainQueue.advance(Seconds(2.1));
-    footer.refresh();
-    store.showFeedback("Renamed");
-    footer.refresh();
+    say("Saved");
+    letTheMessageEnd();
+    say("Renamed");
     const auto saved = panel.grab().toImage();
     EXPECT_TRUE(waitUntil([&] { return panel.grab().toImage() != saved; })) << "fades in";
-    EXPECT_TRUE(isShown(panel, QStringLiteral("Renamed")));
+    EXPECT_TRUE(isShown(panel, "Renamed"));
 }
 
 TEST_F(FooterViewTest, ANewMessageTakesThePlaceOfAFadingError)
@@ -194,48 +164,8 @@ TEST_F(FooterViewTest, ANewMessageTakesThePlaceOfAFadingError)
     failToSave();
     const int place = placeOf(error).left();
     store.dismissError();
-    store.showFeedback("Saved");
-    footer.refresh();
-    EXPECT_LE(std::abs(placeOf(QStringLiteral("Saved")).left() - place), 12) << "without a jump afterwards";
+    say("Saved");
+    EXPECT_LE(std::abs(placeOf("Saved").left() - place), 12) << "without a jump afterwards";
 }
 
-TEST_F(FooterViewTest, TheErrorIsDismissedByItsButton)
-{
-    failToSave();
-    ASSERT_TRUE(isShown(panel, error));
-    press(panel, QStringLiteral("Dismiss error"));
-    footer.refresh();
-    EXPECT_FALSE(isShown(panel, error));
-    EXPECT_FALSE(isShown(panel, QStringLiteral("Dismiss error")));
-}
-
-TEST_F(FooterViewTest, AScreenReaderKnowsMessagesFromOtherTexts)
-{
-    store.toggleWordCount();
-    store.showFeedback("Saved & sound");
-    failToSave();
-    const auto roleOf = [this](const QString& name) {
-        const auto widget = find(panel, name);
-        return widget ? QAccessible::queryAccessibleInterface(widget)->role() : QAccessible::NoRole;
-    };
-    EXPECT_EQ(roleOf(QStringLiteral("Saved & sound")), QAccessible::AlertMessage);
-    EXPECT_EQ(roleOf(error), QAccessible::AlertMessage);
-    EXPECT_EQ(roleOf(QStringLiteral("Card 1 of 5")), QAccessible::StaticText);
-    EXPECT_EQ(roleOf(QString::fromStdString(*footerContent(store).wordCount)), QAccessible::StaticText);
-}
-
-TEST_F(FooterViewTest, TheButtonsFollowTheMode)
-{
-    setCards({"only"});
-    footer.refresh();
-    EXPECT_FALSE(find(panel, QStringLiteral("Previous card"))->isEnabled());
-    EXPECT_FALSE(find(panel, QStringLiteral("Next card"))->isEnabled());
-    store.beginEditing();
-    footer.refresh();
-    EXPECT_TRUE(isShown(panel, QStringLiteral("Cancel editing")));
-    EXPECT_EQ(placeOf(QStringLiteral("Save card")).right(), 439);
-    EXPECT_FALSE(isShown(panel, QStringLiteral("Next card")));
-}
-
-} // namespace test
-} // namespace cuebright
+} // namespace cuebright::test

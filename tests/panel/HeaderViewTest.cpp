@@ -4,10 +4,10 @@
 #include "panel/PanelFixture.h"
 #include "panel/ShareNotice.h"
 
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QDialog>
 #include <QLineEdit>
-#include <QMenu>
 #include <QTest>
 
 namespace cuebright::test {
@@ -25,32 +25,13 @@ protected:
         panel.resize(480, 60);
         header.setGeometry(40, 10, 400, 28);
         header.refresh();
+        activate(panel);
     }
-    void showPanel()
+    static void choose(int item)
     {
-        panel.show();
-        panel.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&panel));
-    }
-    static QMenu* openMenu() { return qobject_cast<QMenu*>(QApplication::activePopupWidget()); }
-    static QStringList textsOf(const QMenu& menu)
-    {
-        QStringList texts;
-        for (const auto action : menu.actions())
-            texts.append(action->text());
-        return texts;
-    }
-    static void choose(const QString& text)
-    {
-        const auto menu = openMenu();
-        ASSERT_TRUE(menu);
-        for (const auto action : menu->actions()) {
-            if (action->text() == text) {
-                menu->close();
-                return action->trigger();
-            }
-        }
-        ADD_FAILURE() << "no item " << text.toStdString();
+        const auto action = openMenu()->actions().at(item);
+        openMenu()->close();
+        action->trigger();
     }
     static QDialog* alert() { return qobject_cast<QDialog*>(QApplication::activeModalWidget()); }
     static QLineEdit& field() { return *alert()->findChild<QLineEdit*>(); }
@@ -69,46 +50,42 @@ TEST_F(HeaderViewTest, TheBadgeSaysWhatIsKnownOfScreenShares)
 TEST_F(HeaderViewTest, APulseShowsTheBadgeForOneSecond)
 {
     header.pulse();
-    EXPECT_TRUE(isShown(panel, QStringLiteral("HIDDEN FROM SHARE")));
-    EXPECT_FALSE(isShown(panel, QStringLiteral("CARD 01 / 05")));
+    EXPECT_TRUE(isShown(panel, "HIDDEN FROM SHARE"));
+    EXPECT_FALSE(isShown(panel, "CARD 01 / 05"));
     store.nextCard();
     header.refresh();
     fake.mainQueue.advance(Seconds(0.9));
-    EXPECT_TRUE(isShown(panel, QStringLiteral("HIDDEN FROM SHARE")));
+    EXPECT_TRUE(isShown(panel, "HIDDEN FROM SHARE"));
     fake.mainQueue.advance(Seconds(0.2));
-    EXPECT_TRUE(isShown(panel, QStringLiteral("CARD 02 / 05")));
+    EXPECT_TRUE(isShown(panel, "CARD 02 / 05"));
 }
 
 TEST_F(HeaderViewTest, ALongNameIsCutOnTheScreenOnly)
 {
     const std::string name(500, 'W');
-    showPanel();
     store.renameDeck(name);
     header.refresh();
     QApplication::sendPostedEvents();
-    EXPECT_TRUE(isShown(panel, QStringLiteral("Active deck: ") + QString::fromStdString(name)));
+    EXPECT_TRUE(isShown(panel, u"Active deck: "_s + QString::fromStdString(name)));
     EXPECT_LE(header.minimumSizeHint().width(), 400);
     EXPECT_EQ(picker.geometry().right(), 399) << "flush with the column";
-    EXPECT_GE(picker.x(), find(panel, QStringLiteral("CARD 01 / 05"))->geometry().right());
+    EXPECT_GE(picker.x(), find(panel, "CARD 01 / 05")->geometry().right());
 }
 
 TEST_F(HeaderViewTest, TheMenuListsAllDecksWithTheActiveOneMarkedAndSelected)
 {
-    showPanel();
     store.switchToDeck(1);
     store.renameDeck("R&D");
     QTest::mouseClick(&picker, Qt::LeftButton);
     ASSERT_TRUE(openMenu());
-    EXPECT_EQ(textsOf(*openMenu())[0], QStringLiteral("    Getting Started"));
-    EXPECT_EQ(textsOf(*openMenu())[1], QStringLiteral("✓  R&&D"));
+    EXPECT_TRUE(textsOf(*openMenu()).startsWith(u"    Getting Started|✓  R&&D|    "_s));
     EXPECT_EQ(openMenu()->activeAction(), openMenu()->actions()[1]);
-    choose(QStringLiteral("    Getting Started"));
+    choose(0);
     EXPECT_EQ(store.activeDeckIndex(), 0);
 }
 
 TEST_F(HeaderViewTest, SpaceAndReturnOpenTheMenu)
 {
-    showPanel();
     for (const auto key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter}) {
         store.switchToDeck(1);
         QTest::keyClick(&picker, key);
@@ -122,77 +99,66 @@ TEST_F(HeaderViewTest, SpaceAndReturnOpenTheMenu)
 
 TEST_F(HeaderViewTest, TheKeyboardShowsAroundThePicker)
 {
-    showPanel();
-    const auto before = panel.grab().toImage();
+    const QPoint outside(header.geometry().right() + 4, header.geometry().center().y()); // of the column
+    const auto colour = [&] { return panel.grab().toImage().pixel(outside); };
+    const auto before = colour();
     picker.setFocus();
-    const auto after = panel.grab().toImage();
-    EXPECT_NE(before, after);
-    const int right = header.geometry().right() + 4;
-    const int middle = header.geometry().center().y();
-    EXPECT_NE(before.pixel(right, middle), after.pixel(right, middle)) << "outside the column";
+    EXPECT_NE(before, colour());
 }
 
 TEST_F(HeaderViewTest, TheContextMenuOpensTheAlerts)
 {
-    showPanel();
     QContextMenuEvent byKey(QContextMenuEvent::Keyboard, QPoint(), picker.mapToGlobal(QPoint()));
     QApplication::sendEvent(&picker, &byKey);
     ASSERT_TRUE(openMenu());
-    EXPECT_EQ(textsOf(*openMenu()), (QStringList {QStringLiteral("New Deck…"), QStringLiteral("Rename Deck…")}));
-    choose(QStringLiteral("New Deck…"));
+    EXPECT_EQ(textsOf(*openMenu()), u"New Deck…|Rename Deck…"_s);
+    choose(0);
     ASSERT_TRUE(alert());
-    EXPECT_EQ(alert()->windowTitle(), QStringLiteral("New Deck"));
+    EXPECT_EQ(alert()->windowTitle(), u"New Deck"_s);
     EXPECT_EQ(alert()->windowModality(), Qt::WindowModal);
-    EXPECT_EQ(field().placeholderText(), QStringLiteral("Deck name"));
-    QTest::keyClicks(&field(), QStringLiteral(" Talk "));
+    EXPECT_EQ(field().placeholderText(), u"Deck name"_s);
+    QTest::keyClicks(&field(), u" Talk "_s);
     QTest::keyClick(&field(), Qt::Key_Return);
     EXPECT_FALSE(alert());
     EXPECT_EQ(store.deckName(), "Talk");
     EXPECT_EQ(store.deckCount(), 4);
 }
 
-TEST_F(HeaderViewTest, TheRenameAlertStartsFromTheName)
+TEST_F(HeaderViewTest, TheRenameAlertStartsFromTheNameAndABlankOneRenamesNothing)
 {
-    showPanel();
     rename();
     ASSERT_TRUE(alert());
-    EXPECT_EQ(field().text(), QStringLiteral("Getting Started"));
-    EXPECT_EQ(field().selectedText(), field().text());
-    QTest::keyClicks(&field(), QStringLiteral("New"));
+    EXPECT_EQ(field().selectedText(), u"Getting Started"_s);
+    QTest::keyClicks(&field(), u"New"_s);
     rename();
-    EXPECT_EQ(field().text(), QStringLiteral("New")) << "asked again while it is open";
+    EXPECT_EQ(field().text(), u"New"_s) << "asked again while it is open";
     QTest::keyClick(alert(), Qt::Key_Escape);
     EXPECT_FALSE(alert());
     EXPECT_EQ(store.deckName(), "Getting Started");
-    rename();
-    EXPECT_EQ(field().text(), QStringLiteral("Getting Started"));
-    field().setText(QStringLiteral("One\ntwo"));
-    press(*alert(), QStringLiteral("Rename"));
-    EXPECT_EQ(store.deckName(), "One two");
-}
 
-TEST_F(HeaderViewTest, ABlankNameRenamesNothing)
-{
-    showPanel();
     rename();
+    EXPECT_EQ(field().text(), u"Getting Started"_s);
     field().clear();
     QTest::keyClick(&field(), Qt::Key_Return);
     EXPECT_FALSE(alert());
     EXPECT_EQ(store.deckName(), "Getting Started");
+
+    rename();
+    field().setText(u"One\ntwo"_s);
+    press(*alert(), "Rename");
+    EXPECT_EQ(store.deckName(), "One two");
 }
 
 TEST_F(HeaderViewTest, AHundredDecksScroll)
 {
-    showPanel();
     for (int i = 0; i < 100; ++i)
         store.createNewDeck("Deck " + std::to_string(i));
     QTest::mouseClick(&picker, Qt::LeftButton);
     ASSERT_TRUE(openMenu());
-    EXPECT_EQ(openMenu()->activeAction(), openMenu()->actions().back());
     const auto& menu = *openMenu();
-    const auto first = menu.actionGeometry(menu.actions().front());
+    EXPECT_EQ(menu.activeAction(), menu.actions().back());
     const auto last = menu.actionGeometry(menu.actions().back());
-    EXPECT_EQ(first.left(), last.left()) << "one column";
+    EXPECT_EQ(menu.actionGeometry(menu.actions().front()).left(), last.left()) << "one column";
     EXPECT_LE(menu.height(), menu.screen()->availableGeometry().height());
     EXPECT_TRUE(menu.rect().intersects(last)) << "the active deck is in sight";
     openMenu()->close();

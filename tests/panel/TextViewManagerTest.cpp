@@ -72,42 +72,35 @@ TEST_F(TextViewManagerTest, EachOperationIsOneStepOfUndoApartFromTyping)
     for (const auto& test : kFormattingCases) {
         SCOPED_TRACE(test.name);
         open("");
-        const auto text = [this] { return editor.text(); };
-        type(QStringLiteral("ab"));
-        const auto before = text();
+        type(u"ab"_s);
+        QStringList texts {u"# "_s, editor.text()};
         test.operation(manager);
-        const auto formatted = text();
-        type(QStringLiteral("c"));
-        type(QStringLiteral("d"));
-        const auto after = text();
-        for (const auto& expected : {formatted, before}) {
-            while (text() != expected && editor.document()->isUndoAvailable())
-                editor.undo();
-            EXPECT_EQ(text(), expected);
+        texts << editor.text();
+        type(u"cd"_s);
+        texts << editor.text();
+        for (const int text : {2, 1, 0}) {
+            editor.undo();
+            EXPECT_EQ(editor.text(), texts[text]);
         }
-        editor.redo();
-        EXPECT_EQ(text(), formatted);
-        editor.undo();
-        editor.undo();
-        EXPECT_EQ(text(), QStringLiteral("# ")) << "typing is one step";
-        while (editor.document()->isRedoAvailable())
+        for (const int text : {1, 2, 3}) {
             editor.redo();
-        EXPECT_EQ(text(), after);
+            EXPECT_EQ(editor.text(), texts[text]);
+        }
     }
 }
 
 TEST_F(TextViewManagerTest, WithoutATextViewOrAnEditNothingHappens)
 {
     TextViewManager alone;
-    alone.wrapSelection(QStringLiteral("*"));
+    alone.wrapSelection(u"*"_s);
     alone.insertLink();
-    alone.toggleLinePrefix(QStringLiteral("> "));
+    alone.toggleLinePrefix(u"> "_s);
 
     open("text");
     store.saveEdit();
     for (const auto& test : kFormattingCases)
         test.operation(manager);
-    EXPECT_EQ(editor.text(), QStringLiteral("text"));
+    EXPECT_EQ(editor.text(), u"text"_s);
     EXPECT_FALSE(editor.document()->isUndoAvailable());
 }
 
@@ -130,25 +123,13 @@ TEST_F(TextViewManagerTest, TheTextViewIsTheOneOnScreen)
 TEST_F(TextViewManagerTest, ToolbarButtonsFormat)
 {
     MarkdownToolbar toolbar(context, manager, nullptr);
-    const struct {
-        const char* name;
-        const char* after;
-    } tests[] = {
-        {"Bold (⌘B)", "a ‹**bc**›"},
-        {"Italic (⌘I)", "a ‹*bc*›"},
-        {"Heading", "# a |bc"},
-        {"Bullet list", "- a |bc"},
-        {"Numbered list", "1. a |bc"},
-        {"Inline code", "a ‹`bc`›"},
-        {"Link", "a [bc](‹url›)"},
-        {"Blockquote", "> a |bc"},
-    };
-    for (const auto& test : tests) {
-        SCOPED_TRACE(test.name);
-        openAt(QStringLiteral("a ‹bc›"));
-        const auto name = QString::fromUtf8(test.name);
+    const std::pair<QString, const char*> tests[] = {{u"Bold (⌘B)"_s, "a ‹**bc**›"}, {u"Italic (⌘I)"_s, "a ‹*bc*›"},
+        {u"Heading"_s, "# a |bc"}, {u"Bullet list"_s, "- a |bc"}, {u"Numbered list"_s, "1. a |bc"},
+        {u"Inline code"_s, "a ‹`bc`›"}, {u"Link"_s, "a [bc](‹url›)"}, {u"Blockquote"_s, "> a |bc"}};
+    for (const auto& [name, after] : tests) {
+        openAt(u"a ‹bc›"_s);
         PanelFixture::press(toolbar, name);
-        EXPECT_EQ(shown(), test.after);
+        EXPECT_EQ(shown(), after);
         const auto button = find(toolbar, name);
         EXPECT_EQ(button->toolTip(), name);
         EXPECT_EQ(button->sizeHint(), QSize(30, 28));

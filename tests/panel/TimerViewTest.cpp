@@ -7,6 +7,7 @@
 #include <QTest>
 
 #include <functional>
+#include <tuple>
 
 namespace cuebright::test {
 
@@ -31,119 +32,83 @@ protected:
     QWidget panel;
     TimerView view {context, timer, &panel};
 
-    void showPanel()
+    void SetUp() override
     {
         panel.setFocusPolicy(Qt::StrongFocus);
         panel.setFocus();
         panel.resize(200, 60);
         view.setGeometry(0, 0, view.sizeHint().width(), 28);
-        panel.show();
-        panel.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&panel));
+        activate(panel);
     }
-    static QMenu* openMenu() { return qobject_cast<QMenu*>(QApplication::activePopupWidget()); }
 };
-
-TEST_F(TimerViewTest, TheButtonStartsAndPauses)
-{
-    EXPECT_TRUE(isShown(panel, QStringLiteral("Timer: 00:00")));
-    press(panel, QStringLiteral("Start timer"));
-    refresh();
-    fake.mainQueue.advance(Seconds(65.2));
-    EXPECT_TRUE(isShown(panel, QStringLiteral("Timer: 01:05")));
-    press(panel, QStringLiteral("Pause timer"));
-    fake.mainQueue.advance(Seconds(10));
-    EXPECT_TRUE(isShown(panel, QStringLiteral("Timer: 01:05")));
-    EXPECT_TRUE(isShown(panel, QStringLiteral("Start timer")));
-}
 
 TEST_F(TimerViewTest, TheMenuMarksWhatIsChosen)
 {
-    struct Row {
-        const char* name;
-        std::function<void()> prepare;
-        QStringList checked;
+    const std::tuple<const char*, std::function<void()>, QString> cases[] = {
+        {"at first", [] {}, u"Stopwatch"_s},
+        {"20 minutes", [this] { timer.setCountdown(20); }, u"20 minutes"_s},
+        {"no preset", [this] { timer.setCountdown(7); }, u""_s},
+        {"reset keeps it", [this] { timer.setCountdown(5), timer.reset(); }, u"5 minutes"_s},
+        {"back", [this] { timer.setStopwatch(); }, u"Stopwatch"_s},
     };
-    const Row rows[] = {
-        {"at first", [] {}, {QStringLiteral("Stopwatch")}},
-        {"20 minutes", [this] { timer.setCountdown(20); }, {QStringLiteral("20 minutes")}},
-        {"no preset", [this] { timer.setCountdown(7); }, {}},
-        {"reset keeps it", [this] { timer.setCountdown(5), timer.reset(); }, {QStringLiteral("5 minutes")}},
-        {"back", [this] { timer.setStopwatch(); }, {QStringLiteral("Stopwatch")}},
-    };
-    for (const auto& row : rows) {
-        row.prepare();
-        QStringList checked;
-        for (const auto& item : timerMenuItems(timer)) {
-            if (item.isChecked)
-                checked.append(textOf(item));
-        }
-        EXPECT_EQ(checked, row.checked) << row.name;
+    for (const auto& [name, prepare, expected] : cases) {
+        prepare();
+        QString checked;
+        for (const auto& item : timerMenuItems(timer))
+            checked += item.isChecked ? textOf(item) : QString();
+        EXPECT_EQ(checked, expected) << name;
     }
 }
 
 TEST_F(TimerViewTest, TheMenuOpensByMouseAndKeyboardAndSetsTheTimer)
 {
-    showPanel();
-    const auto time = find(panel, QStringLiteral("Timer: 00:00"));
-    EXPECT_EQ(time->toolTip(), QStringLiteral("Click to set timer duration"));
+    const auto time = find(panel, "Timer: 00:00");
+    EXPECT_EQ(time->toolTip(), u"Click to set timer duration"_s);
     time->setFocus();
     QTest::keyClick(time, Qt::Key_Return);
     ASSERT_TRUE(openMenu());
-    QStringList texts;
-    for (const auto action : openMenu()->actions())
-        texts.append(action->text());
-    EXPECT_EQ(texts.join(QLatin1Char('|')),
-        QStringLiteral(
-            "Stopwatch||5 minutes|10 minutes|15 minutes|20 minutes|30 minutes|45 minutes|60 minutes||Reset"));
+    EXPECT_EQ(textsOf(*openMenu()),
+        u"Stopwatch||5 minutes|10 minutes|15 minutes|20 minutes|30 minutes|45 minutes|60 minutes||Reset"_s);
     QTest::keyClick(openMenu(), Qt::Key_Down);
     QTest::keyClick(openMenu(), Qt::Key_Return);
     EXPECT_EQ(timer.countdownDuration(), Seconds(300));
     refresh();
-    QTest::mouseClick(find(panel, QStringLiteral("Timer: 05:00")), Qt::LeftButton);
+    QTest::mouseClick(find(panel, "Timer: 05:00"), Qt::LeftButton);
     ASSERT_TRUE(openMenu());
     openMenu()->close();
 }
 
 TEST_F(TimerViewTest, TabReachesBothPartsAndSpaceStarts)
 {
-    showPanel();
     QTest::keyClick(&panel, Qt::Key_Tab);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
     EXPECT_TRUE(timer.isRunning());
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    EXPECT_EQ(QApplication::focusWidget(), find(panel, QStringLiteral("Timer: 00:00")));
+    EXPECT_EQ(QApplication::focusWidget(), find(panel, "Timer: 00:00"));
 }
 
 TEST_F(TimerViewTest, ColoursTellHowUrgentItIs)
 {
     using enum TimerManager::Urgency;
-    struct Row {
-        TimerManager::Urgency urgency;
-        Ink time;
-        Ink button;
-    };
-    for (const auto& row : {Row {Normal, Ink::Muted, Ink::Muted}, Row {Warning, Ink::Orange, Ink::Muted},
-             Row {Critical, Ink::Red, Ink::Red}, Row {Expired, Ink::Red, Ink::Red}}) {
-        EXPECT_EQ(timerInk(row.urgency), row.time);
-        EXPECT_EQ(playButtonInk(row.urgency), row.button);
+    const std::tuple<TimerManager::Urgency, Ink, Ink> cases[] = {{Normal, Ink::Muted, Ink::Muted},
+        {Warning, Ink::Orange, Ink::Muted}, {Critical, Ink::Red, Ink::Red}, {Expired, Ink::Red, Ink::Red}};
+    for (const auto& [urgency, time, button] : cases) {
+        EXPECT_EQ(timerInk(urgency), time);
+        EXPECT_EQ(playButtonInk(urgency), button);
     }
 }
 
 TEST_F(TimerViewTest, ACountdownInItsLastMinuteTurnsRed)
 {
-    showPanel();
     timer.setCountdown(5);
     timer.start();
     const auto redPixels = [&] {
         fake.mainQueue.runPosted();
         const auto image = view.grab().toImage();
         int red = 0;
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x) {
-                const QColor pixel(image.pixel(x, y));
-                red += pixel.hsvSaturation() > 150 && (pixel.hue() < 15 || pixel.hue() > 345);
-            }
+        for (int i = 0; i < image.width() * image.height(); ++i) {
+            const QColor pixel(image.pixel(i % image.width(), i / image.width()));
+            red += pixel.hsvSaturation() > 150 && (pixel.hue() < 15 || pixel.hue() > 345);
         }
         return red;
     };
@@ -155,11 +120,9 @@ TEST_F(TimerViewTest, ACountdownInItsLastMinuteTurnsRed)
 
 TEST_F(TimerViewTest, ItPaintsOnlyWhenWhatItShowsChanges)
 {
-    showPanel();
     processEvents();
     PaintCounter paints;
-    const auto time = find(panel, QStringLiteral("Timer: 00:00"));
-    time->installEventFilter(&paints);
+    find(panel, "Timer: 00:00")->installEventFilter(&paints);
     timer.reset();
     timer.setStopwatch();
     refresh();

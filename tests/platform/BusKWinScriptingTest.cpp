@@ -24,12 +24,20 @@ using State = CaptureExclusion::State;
 
 class BusKWinScriptingTest : public testing::Test {
 protected:
+    FakeKWin& startExcluded()
+    {
+        kwinOnTheBus.emplace(bus.connect());
+        exclusion->start();
+        EXPECT_TRUE(reaches(State::Excluded));
+        return *kwinOnTheBus;
+    }
     bool reaches(State state)
     {
         return waitUntil([&] { return exclusion->isSettled() && exclusion->state() == state; });
     }
 
     PrivateBus bus;
+    std::optional<FakeKWin> kwinOnTheBus;
     TemporaryFolder folder;
     FakePlatform platform;
     QDBusConnection ours = bus.connect();
@@ -41,9 +49,7 @@ protected:
 
 TEST_F(BusKWinScriptingTest, KWinGetsTheDocumentedCallsAndAFileForItsEyesOnly)
 {
-    FakeKWin kwin(bus.connect());
-    exclusion->start();
-    EXPECT_TRUE(reaches(State::Excluded));
+    auto& kwin = startExcluded();
     const auto file = folder.path() / "cuebright/capture-exclusion.js";
     EXPECT_EQ(kwin.calls,
         (QStringList {QStringLiteral("/Scripting org.kde.kwin.Scripting.unloadScript(s) cuebright"),
@@ -57,9 +63,7 @@ TEST_F(BusKWinScriptingTest, KWinGetsTheDocumentedCallsAndAFileForItsEyesOnly)
 
 TEST_F(BusKWinScriptingTest, ARestartedKWinIsLoadedAnew)
 {
-    FakeKWin kwin(bus.connect());
-    exclusion->start();
-    EXPECT_TRUE(reaches(State::Excluded));
+    auto& kwin = startExcluded();
     kwin.vanish();
     EXPECT_TRUE(reaches(State::Unknown));
     kwin.report = QStringLiteral("refused");
@@ -83,27 +87,21 @@ TEST_F(BusKWinScriptingTest, WithoutKWinOrABusTheAnswerIsUnknown)
 
 TEST_F(BusKWinScriptingTest, AReportFromAnyoneElseDoesNotCount)
 {
-    FakeKWin kwin(bus.connect());
-    exclusion->start();
-    EXPECT_TRUE(reaches(State::Excluded));
+    auto& kwin = startExcluded();
     std::vector<State> states;
     const auto subscription = exclusion->changed.subscribe([&] { states.push_back(exclusion->state()); });
-    const auto report = kwin.reportOf(QStringLiteral("refused"));
-    const auto foreign = bus.connect().asyncCall(report);
-    EXPECT_TRUE(waitUntil([&] { return foreign.isFinished(); }));
-    EXPECT_EQ(foreign.error().type(), QDBusError::AccessDenied);
-    EXPECT_TRUE(states.empty());
-    const auto own = kwin.connection.asyncCall(report);
-    EXPECT_TRUE(waitUntil([&] { return own.isFinished(); }));
-    EXPECT_TRUE(own.isValid());
-    EXPECT_EQ(states, std::vector<State> {State::Visible});
+    for (const auto& [from, error, heard] : {std::tuple(bus.connect(), QDBusError::AccessDenied, std::vector<State> {}),
+             std::tuple(kwin.connection, QDBusError::NoError, std::vector {State::Visible})}) {
+        const auto call = from.asyncCall(kwin.reportOf(QStringLiteral("refused")));
+        EXPECT_TRUE(waitUntil([&] { return call.isFinished(); }));
+        EXPECT_EQ(call.error().type(), error);
+        EXPECT_EQ(states, heard);
+    }
 }
 
 TEST_F(BusKWinScriptingTest, TheScriptIsUnloadedEvenIfTheProgramEndsAtOnce)
 {
-    FakeKWin kwin(bus.connect());
-    exclusion->start();
-    EXPECT_TRUE(reaches(State::Excluded));
+    auto& kwin = startExcluded();
     kwin.calls.clear();
     exclusion.reset();
     QDBusConnection::disconnectFromBus(ours.name());

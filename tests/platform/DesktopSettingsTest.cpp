@@ -2,25 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
 #include <vector>
 
 namespace cuebright::test {
 
 namespace {
 
-struct Setting {
-    const char* group;
-    const char* key;
-    QVariant value;
-};
-
-struct Case {
-    const char* name;
-    std::vector<Setting> settings;
-    bool reduceMotion = false;
-    bool increaseContrast = false;
-    std::optional<bool> isDark;
-};
+using Settings = std::vector<std::tuple<const char*, const char*, QVariant>>;
 
 constexpr auto kNew = "org.freedesktop.appearance";
 constexpr auto kGnome = "org.gnome.desktop.interface";
@@ -32,7 +21,7 @@ constexpr auto kFactor = "AnimationDurationFactor";
 
 TEST(DesktopSettings, AreReadFromTheNewerKeysAndElseFromTheOlderOnes)
 {
-    const std::vector<Case> cases {
+    const std::tuple<const char*, Settings, bool, bool, std::optional<bool>> cases[] = {
         {"all asked for", {{kNew, "reduced-motion", 1U}, {kNew, "contrast", 1U}, {kNew, "color-scheme", 1U}}, true,
             true, true},
         {"nothing asked for", {{kNew, "reduced-motion", 0U}, {kNew, "contrast", 0U}, {kNew, "color-scheme", 0U}}, false,
@@ -62,13 +51,13 @@ TEST(DesktopSettings, AreReadFromTheNewerKeysAndElseFromTheOlderOnes)
         {"a key of that name elsewhere", {{"org.example", "contrast", 1U}, {kGnome, "high-contrast", true}}, false,
             false, {}},
     };
-    for (const auto& c : cases) {
+    for (const auto& [name, asked, reduceMotion, increaseContrast, isDark] : cases) {
         DesktopSettings settings;
-        for (const auto& [group, key, value] : c.settings)
+        for (const auto& [group, key, value] : asked)
             settings.set(QString::fromUtf8(group), QString::fromUtf8(key), value);
-        EXPECT_EQ(settings.reduceMotion(), c.reduceMotion) << c.name;
-        EXPECT_EQ(settings.increaseContrast(), c.increaseContrast) << c.name;
-        EXPECT_EQ(settings.isDark(), c.isDark) << c.name;
+        EXPECT_EQ(settings.reduceMotion(), reduceMotion) << name;
+        EXPECT_EQ(settings.increaseContrast(), increaseContrast) << name;
+        EXPECT_EQ(settings.isDark(), isDark) << name;
     }
 }
 

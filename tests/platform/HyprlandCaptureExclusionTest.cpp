@@ -1,8 +1,11 @@
 #include "platform/linux/HyprlandCaptureExclusion.h"
 
+#include "platform/linux/HyprlandMessages.h"
 #include "support/FakePlatform.h"
 
 #include <gtest/gtest.h>
+
+#include <tuple>
 
 #include <unistd.h>
 
@@ -60,8 +63,8 @@ Answers answersOf(const std::string& version)
             R"([{"address":"0xab","pid":)" + std::to_string(::getpid()) + R"(},{"address":"0xcd","pid":1}])"}};
 }
 
-class HyprlandCaptureExclusionTest : public testing::Test {
-protected:
+/// An exclusion with the compositor that it talks to.
+struct Compositor {
     void start(Answers answers)
     {
         ipc->answers = std::move(answers);
@@ -70,8 +73,7 @@ protected:
     }
     void expect(State state, bool isSettled = true)
     {
-        EXPECT_EQ(exclusion.state(), state);
-        EXPECT_EQ(exclusion.isSettled(), isSettled);
+        EXPECT_EQ(std::pair(exclusion.state(), exclusion.isSettled()), std::pair(state, isSettled));
     }
 
     FakePlatform platform;
@@ -79,56 +81,65 @@ protected:
     HyprlandCaptureExclusion exclusion {std::unique_ptr<HyprlandIpc>(ipc), platform.mainQueue};
 };
 
-struct Conversation {
-    const char* name;
-    std::string version;
-    Answers differently;
-    State state;
-    std::vector<std::string> commands; ///< what is sent, without the rule
-};
+class HyprlandCaptureExclusionTest : public testing::Test, protected Compositor { };
 
-void PrintTo(const Conversation& conversation, std::ostream* out) { *out << conversation.name; }
-
-class HyprlandConversationTest : public HyprlandCaptureExclusionTest,
-                                 public testing::WithParamInterface<Conversation> { };
+const std::string kPattern = "^(Cuebright|cuebright|app[.]cuebright[.]Cuebright)$";
+const std::string kFirst = "/keyword windowrule noscreenshare, class:" + kPattern;
+const std::string kSecond = "/keyword windowrule match:class " + kPattern + ", no_screen_share on";
+const std::string kLua =
+    R"(/eval hl.window_rule({ name="cuebright", match={ class=")" + kPattern + R"(" }, no_screen_share=true }))";
 
 } // namespace
 
-TEST_P(HyprlandConversationTest, EndsInWhatTheCompositorConfirmed)
+TEST(HyprlandMessages, VersionsAreReadFromEitherMember)
 {
-    auto answers = answersOf(GetParam().version);
-    for (const auto& [command, answer] : GetParam().differently)
-        answers[command] = answer;
-    start(std::move(answers));
-    expect(GetParam().state);
-    std::vector<std::string> commands;
-    for (const auto& request : ipc->requests)
-        commands.push_back(request.starts_with("/getprop") ? request : request.substr(0, request.find(' ')));
-    EXPECT_EQ(commands, GetParam().commands);
+    using Version = std::optional<HyprlandVersion>;
+    const std::pair<std::string_view, Version> cases[] = {
+        {R"({"branch":"main","tag":"v0.52.1","version":"0.52.1"})", HyprlandVersion {0, 52}},
+        {R"({"tag":"v0.53.0-12-gabcdef","version":""})", HyprlandVersion {0, 53}},
+        {R"({"version":"1.2"})", HyprlandVersion {1, 2}},
+        {R"({"version":"0.530"})", HyprlandVersion {0, 530}},
+        {R"({"version":52})", std::nullopt},
+        {R"({"version":"unknown","tag":"0"})", std::nullopt},
+        {"Hyprland 0.52.1", std::nullopt},
+        {"", std::nullopt},
+    };
+    for (const auto& [reply, version] : cases)
+        EXPECT_EQ(hyprlandVersion(reply), version) << reply;
+    EXPECT_LT((HyprlandVersion {0, 50}), (HyprlandVersion {1, 0}));
 }
 
-INSTANTIATE_TEST_SUITE_P(Hyprland, HyprlandConversationTest,
-    testing::Values(Conversation {"TooOld", "0.49.0", {}, State::Visible, {"j/version"}},
-        Conversation {"NoVersion", "?", {}, State::Unknown, {"j/version"}},
-        Conversation {"Mute", "0.52", {{"j/version", std::nullopt}}, State::Unknown, {"j/version"}},
-        Conversation {"FirstForm", "0.52.1", {}, State::Blackout, {"j/version", "/keyword"}},
-        Conversation {
-            "FirstFormRefused", "0.50.0", {{"/keyword", "invalid rule"}}, State::Visible, {"j/version", "/keyword"}},
-        Conversation {"Verified", "0.53.0", {}, State::Blackout, {"j/version", "/keyword", "j/clients", kQuestion}},
-        Conversation {"NoWindowToVerify", "0.53.0", {{"j/clients", "[]"}}, State::Blackout,
-            {"j/version", "/keyword", "j/clients"}},
-        Conversation {"Contradicted", "0.54.3", {{"/getprop", "false"}}, State::Visible,
-            {"j/version", "/keyword", "j/clients", kQuestion}},
-        Conversation {"VerificationUnclear", "0.54.3", {{"/getprop", "prop not found"}}, State::Unknown,
-            {"j/version", "/keyword", "j/clients", kQuestion}},
-        Conversation {"WindowsUnclear", "0.53.0", {{"j/clients", std::nullopt}}, State::Unknown,
-            {"j/version", "/keyword", "j/clients"}},
-        Conversation {
-            "Classic", "0.55.0", {}, State::Blackout, {"j/version", "j/status", "/keyword", "j/clients", kQuestion}},
-        Conversation {"Lua", "0.55.0", {{"j/status", R"({"configProvider":"lua"})"}}, State::Blackout,
-            {"j/version", "j/status", "/eval", "j/clients", kQuestion}},
-        Conversation {"LanguageUnclear", "0.56.0", {{"j/status", "{}"}}, State::Unknown, {"j/version", "j/status"}}),
-    [](const auto& test) { return std::string(test.param.name); });
+TEST(HyprlandConversation, UsesTheRuleOfEachVersionAndEndsInWhatTheCompositorConfirmed)
+{
+    const Answers lua {{"j/status", R"({"configProvider":"lua"})"}};
+    const auto none = std::nullopt;
+    const std::tuple<const char*, std::string, Answers, State, std::vector<std::string>> conversations[] = {
+        {"too old", "0.49.0", {}, State::Visible, {"j/version"}},
+        {"no version", "?", {}, State::Unknown, {"j/version"}},
+        {"mute", "0.52", {{"j/version", none}}, State::Unknown, {"j/version"}},
+        {"first form", "0.52.1", {}, State::Blackout, {"j/version", kFirst}},
+        {"refused", "0.50.0", {{"/keyword", "invalid rule"}}, State::Visible, {"j/version", kFirst}},
+        {"verified", "0.53.0", {}, State::Blackout, {"j/version", kSecond, "j/clients", kQuestion}},
+        {"no window", "0.53.0", {{"j/clients", "[]"}}, State::Blackout, {"j/version", kSecond, "j/clients"}},
+        {"windows unclear", "0.53.0", {{"j/clients", none}}, State::Unknown, {"j/version", kSecond, "j/clients"}},
+        {"contradicted", "0.54.3", {{"/getprop", "false"}}, State::Visible,
+            {"j/version", kSecond, "j/clients", kQuestion}},
+        {"verification unclear", "0.54.3", {{"/getprop", "prop not found"}}, State::Unknown,
+            {"j/version", kSecond, "j/clients", kQuestion}},
+        {"classic", "0.55.0", {}, State::Blackout, {"j/version", "j/status", kSecond, "j/clients", kQuestion}},
+        {"Lua", "0.55.0", lua, State::Blackout, {"j/version", "j/status", kLua, "j/clients", kQuestion}},
+        {"language unclear", "0.56.0", {{"j/status", "{}"}}, State::Unknown, {"j/version", "j/status"}},
+    };
+    for (const auto& [name, version, differently, state, requests] : conversations) {
+        SCOPED_TRACE(name);
+        auto answers = differently;
+        answers.merge(answersOf(version));
+        Compositor compositor;
+        compositor.start(std::move(answers));
+        compositor.expect(state);
+        EXPECT_EQ(compositor.ipc->requests, requests);
+    }
+}
 
 TEST_F(HyprlandCaptureExclusionTest, WithoutAnAnswerItIsUnknownAfterThreeSeconds)
 {

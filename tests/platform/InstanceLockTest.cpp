@@ -1,12 +1,7 @@
 #include "platform/linux/InstanceLock.h"
 
+#include "platform/FurtherLaunch.h"
 #include "platform/TemporaryFolder.h"
-#include "support/EventLoop.h"
-
-#include <gtest/gtest.h>
-
-#include <atomic>
-#include <thread>
 
 namespace cuebright::test {
 namespace {
@@ -19,45 +14,30 @@ class InstanceLockTest : public testing::Test {
 protected:
     const TemporaryFolder folder;
     const std::vector<std::filesystem::path> folders {folder.file("run")};
-    std::vector<RemoteRequest> requests;
+    std::vector<std::string> tokens; ///< of the requests to show the panel
 
     void deliver(InstanceLock& lock)
     {
-        lock.deliver([this](const RemoteRequest& request) { requests.push_back(request); });
-    }
-
-    /// From a thread of its own, as from a process of its own, while the event loop of the first one runs.
-    InstanceClaim furtherLaunch(const std::string& token) const
-    {
-        std::atomic<bool> hasEnded = false;
-        auto outcome = InstanceClaim::Unavailable;
-        std::thread launch([&] {
-            outcome = InstanceLock(folders).claim(token, 5s);
-            hasEnded = true;
+        lock.deliver([this](const RemoteRequest& request) {
+            EXPECT_EQ(request.action, RemoteRequest::Action::Activate);
+            tokens.push_back(request.token);
         });
-        EXPECT_TRUE(waitUntil([&] { return hasEnded.load(); }));
-        launch.join();
-        return outcome;
+    }
+    InstanceClaim handOver(const std::string& token) const
+    {
+        return furtherLaunch([&] { return InstanceLock(folders).claim(token, 5s); });
     }
 };
 
-TEST_F(InstanceLockTest, AFurtherLaunchHandsItsTokenToTheFirst)
+TEST_F(InstanceLockTest, AFurtherLaunchHandsItsTokenToTheFirstAtOnceOrWhenItAnswers)
 {
     InstanceLock first(folders);
     ASSERT_EQ(first.claim({}), InstanceClaim::Granted);
+    EXPECT_EQ(InstanceLock(folders).claim("early", kMoment), InstanceClaim::Queued);
     deliver(first);
-    EXPECT_EQ(furtherLaunch("token"), InstanceClaim::HandedOver);
-    EXPECT_EQ(furtherLaunch({}), InstanceClaim::HandedOver);
-    EXPECT_EQ(requests, (std::vector<RemoteRequest> {{RemoteRequest::Action::Activate, "token"}, {}}));
-}
-
-TEST_F(InstanceLockTest, ARequestToOneThatDoesNotAnswerWaitsForIt)
-{
-    InstanceLock first(folders);
-    ASSERT_EQ(first.claim({}), InstanceClaim::Granted);
-    EXPECT_EQ(InstanceLock(folders).claim("late", kMoment), InstanceClaim::Queued);
-    deliver(first);
-    EXPECT_EQ(requests, (std::vector<RemoteRequest> {{RemoteRequest::Action::Activate, "late"}}));
+    EXPECT_EQ(handOver("token"), InstanceClaim::HandedOver);
+    EXPECT_EQ(handOver({}), InstanceClaim::HandedOver);
+    EXPECT_EQ(tokens, (std::vector<std::string> {"early", "token", ""}));
 }
 
 TEST_F(InstanceLockTest, WhatACrashLeavesBehindKeepsNobodyOut)
@@ -67,7 +47,7 @@ TEST_F(InstanceLockTest, WhatACrashLeavesBehindKeepsNobodyOut)
     InstanceLock next(folders);
     EXPECT_EQ(next.claim({}), InstanceClaim::Granted);
     deliver(next);
-    EXPECT_EQ(furtherLaunch({}), InstanceClaim::HandedOver);
+    EXPECT_EQ(handOver({}), InstanceClaim::HandedOver);
 }
 
 TEST_F(InstanceLockTest, TheFirstFolderThatCanBeHadIsTakenForTheUserAlone)

@@ -59,8 +59,7 @@ protected:
     }
     void expect(State state, bool isSettled = true)
     {
-        EXPECT_EQ(exclusion.state(), state);
-        EXPECT_EQ(exclusion.isSettled(), isSettled);
+        EXPECT_EQ(std::pair(exclusion.state(), exclusion.isSettled()), std::pair(state, isSettled));
     }
     void reapply()
     {

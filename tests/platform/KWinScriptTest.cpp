@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include <iostream>
+#include <tuple>
 
 namespace cuebright::test {
 
@@ -32,48 +32,38 @@ function add(w) { windows.push(w); workspace.windowAdded.emit(w); return w; }
 function callDBus(...words) { print(words.join(" ")); }
 )js";
 
-struct ScriptCase {
-    const char* name;
-    const char* before; ///< the script is loaded
-    const char* after;
-    std::vector<std::string> reports;
-};
-
-void PrintTo(const ScriptCase& scriptCase, std::ostream* out) { *out << scriptCase.name; }
-
-class KWinScriptTest : public testing::TestWithParam<ScriptCase> { };
-
 } // namespace
 
-TEST_P(KWinScriptTest, ReportsTheWorstOfAllWindowsOfOurs)
+TEST(KWinScript, ReportsTheWorstOfAllWindowsOfOurs)
 {
     const auto node = QStandardPaths::findExecutable(QStringLiteral("node"));
     if (node.isEmpty())
         GTEST_SKIP() << "needs node, to run the script as KWin would";
-    const std::string text =
-        kWorkspace + std::string(GetParam().before) + "\n" + kwinScript(42, ":1.9") + GetParam().after;
-    QProcess process;
-    process.start(node, {QStringLiteral("-e"), QString::fromStdString(text)});
-    ASSERT_TRUE(process.waitForFinished(30'000));
-    std::string expected;
-    for (const auto& report : GetParam().reports)
-        expected += ":1.9 /CaptureExclusion app.cuebright.CaptureExclusion Report " + report + "\n";
-    EXPECT_EQ(process.readAllStandardOutput().toStdString(), expected);
-    EXPECT_EQ(process.readAllStandardError().toStdString(), "");
-}
-
-INSTANTIATE_TEST_SUITE_P(Scripts, KWinScriptTest,
-    testing::Values(ScriptCase {"NoWindowOfOurs", "",
-                        "add(makeWindow(8)); if (windows.some(w => w.excludeFromCapture)) print('foreign')", {}},
-        ScriptCase {"AWindowThatIsThere", "windows.push(makeWindow(42))", "", {"omitted"}},
-        ScriptCase {"ALaterWindow", "", "add(makeWindow(42))", {"omitted"}},
-        ScriptCase {"TooOld", "windows.push(makeWindow(42, 'old'))", "", {"unsupported"}},
-        ScriptCase {"OneOfTwoRefuses", "windows.push(makeWindow(42, 'stubborn'))", "add(makeWindow(42))",
+    const std::tuple<const char*, std::string, std::string, std::vector<std::string>> cases[] = {
+        {"no window of ours", "", "add(makeWindow(8)); if (windows.some(w => w.excludeFromCapture)) print('foreign')",
+            {}},
+        {"a window that is there", "windows.push(makeWindow(42))", "", {"omitted"}},
+        {"a later window", "", "add(makeWindow(42))", {"omitted"}},
+        {"too old", "windows.push(makeWindow(42, 'old'))", "", {"unsupported"}},
+        {"one of two refuses", "windows.push(makeWindow(42, 'stubborn'))", "add(makeWindow(42))",
             {"refused", "refused"}},
-        ScriptCase {"AMenuThatRefuses", "windows.push(makeWindow(42))", "add(makeWindow(42, 'stubborn'))",
+        {"a menu that refuses", "windows.push(makeWindow(42))", "add(makeWindow(42, 'stubborn'))",
             {"omitted", "refused"}},
-        ScriptCase {
-            "SomebodyResetsTheFlag", "const w = makeWindow(42); windows.push(w)", "w.reset()", {"omitted", "refused"}}),
-    [](const auto& test) { return std::string(test.param.name); });
+        {"somebody resets the flag", "const w = makeWindow(42); windows.push(w)", "w.reset()", {"omitted", "refused"}},
+    };
+    for (const auto& [name, before, after, reports] : cases) {
+        SCOPED_TRACE(name);
+        QProcess process;
+        process.start(node,
+            {QStringLiteral("-e"),
+                QString::fromStdString(kWorkspace + before + "\n" + kwinScript(42, ":1.9") + after)});
+        ASSERT_TRUE(process.waitForFinished(30'000));
+        std::string expected;
+        for (const auto& report : reports)
+            expected += ":1.9 /CaptureExclusion app.cuebright.CaptureExclusion Report " + report + "\n";
+        EXPECT_EQ(process.readAllStandardOutput().toStdString(), expected);
+        EXPECT_EQ(process.readAllStandardError().toStdString(), "");
+    }
+}
 
 } // namespace cuebright::test

@@ -29,9 +29,10 @@ protected:
         return *portal;
     }
     void start() { accessibility.start(bus.connect()); }
-    [[nodiscard]] bool settles()
+    void startAndSettle()
     {
-        return waitUntil([&] { return queue.pendingCount() == 0; });
+        start();
+        ASSERT_TRUE(waitUntil([&] { return queue.pendingCount() == 0; }));
     }
 
     PrivateBus bus;
@@ -53,9 +54,7 @@ TEST_F(LinuxAccessibilityTest, NothingMovesUntilThePortalHasAnswered)
     startPortal();
     EXPECT_TRUE(accessibility.reduceMotion());
     EXPECT_FALSE(accessibility.increaseContrast());
-    start();
-    EXPECT_TRUE(accessibility.reduceMotion());
-    ASSERT_TRUE(settles());
+    startAndSettle();
     EXPECT_FALSE(accessibility.reduceMotion());
     EXPECT_EQ(changes, 1);
     EXPECT_EQ(portal->calls,
@@ -67,8 +66,7 @@ TEST_F(LinuxAccessibilityTest, TheAnswerCountsHoweverManyVariantsItComesIn)
 {
     const auto wrapped = QVariant::fromValue(QDBusVariant(QVariant::fromValue(QDBusVariant(1U))));
     startPortal({{kMotion, 1U}, {kContrast, wrapped}, {kScheme, wrapped}});
-    start();
-    ASSERT_TRUE(settles());
+    startAndSettle();
     EXPECT_TRUE(accessibility.reduceMotion());
     EXPECT_TRUE(accessibility.increaseContrast());
     EXPECT_EQ(reportedDark, std::vector<std::optional<bool>> {true});
@@ -78,12 +76,10 @@ TEST_F(LinuxAccessibilityTest, TheAnswerCountsHoweverManyVariantsItComesIn)
 TEST_F(LinuxAccessibilityTest, LiveChangesArriveAndOthersChangeNothing)
 {
     startPortal();
-    start();
-    ASSERT_TRUE(settles());
+    startAndSettle();
     changes = 0;
-    portal->changeSetting(kGroup, kScheme, 1U);
-    portal->changeSetting(kGroup, kScheme, 2U);
-    portal->changeSetting(kGroup, kScheme, 0U);
+    for (const auto scheme : {1U, 2U, 0U})
+        portal->changeSetting(kGroup, kScheme, scheme);
     portal->changeSetting(kGroup, QStringLiteral("accent-color"), QStringLiteral("red"));
     portal->changeSetting(kGroup, kContrast, QVariant::fromValue(QDBusVariant(1U)));
     ASSERT_TRUE(waitUntil([&] { return accessibility.increaseContrast(); }));
@@ -117,8 +113,7 @@ TEST_F(LinuxAccessibilityTest, WithoutABusNobodyHasAskedForAnything)
 
 TEST_F(LinuxAccessibilityTest, APortalThatAppearsLateIsAskedAndSoIsTheOneAfterIt)
 {
-    start();
-    ASSERT_TRUE(settles());
+    startAndSettle();
     EXPECT_FALSE(accessibility.reduceMotion());
     startPortal({{kMotion, 1U}});
     ASSERT_TRUE(waitUntil([&] { return accessibility.reduceMotion(); }));

@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <optional>
+#include <tuple>
 
 namespace cuebright::test {
 
@@ -31,6 +32,16 @@ protected:
     std::unique_ptr<HotKeyRegistration> registerKey(const HotKey& key = kKey)
     {
         return hotKeys.registerHotKey(key, [this] { ++presses; });
+    }
+    /// Beside a portal, and bound to a key.
+    std::unique_ptr<HotKeyRegistration> startBound()
+    {
+        if (!portal)
+            startPortal();
+        auto registration = registerKey();
+        hotKeys.start();
+        EXPECT_TRUE(isBoundInTheEnd(registration));
+        return registration;
     }
     [[nodiscard]] bool isBoundInTheEnd(const std::unique_ptr<HotKeyRegistration>& registration)
     {
@@ -63,10 +74,7 @@ TEST_F(PortalHotKeysTest, FromTheStartOnAKeyIsRegisteredThenGivenASessionThenBou
 
 TEST_F(PortalHotKeysTest, OnlyItsOwnActivationPressesTheKey)
 {
-    startPortal();
-    const auto registration = registerKey();
-    hotKeys.start();
-    ASSERT_TRUE(isBoundInTheEnd(registration));
+    const auto registration = startBound();
     const auto id = QStringLiteral("toggle-panel");
     portal->sendActivated(portal->sessions[0].path, QStringLiteral("other"));
     portal->sendActivated(portal->sessions[0].path + QLatin1Char('2'), id);
@@ -78,12 +86,7 @@ TEST_F(PortalHotKeysTest, OnlyItsOwnActivationPressesTheKey)
 
 TEST_F(PortalHotKeysTest, WhatThePortalDoesNotGrantIsNotSystemWide)
 {
-    struct Case {
-        const char* name;
-        void (*prepare)(FakePortal&);
-        int calls;
-    };
-    const std::vector<Case> cases {
+    const std::tuple<const char*, void (*)(FakePortal&), int> cases[] = {
         {"session refused by the user", [](FakePortal& p) { p.responseToCreate = 1; }, 2},
         {"session ended otherwise", [](FakePortal& p) { p.responseToCreate = 2; }, 2},
         {"binding refused by the user", [](FakePortal& p) { p.responseToBind = 1; }, 3},
@@ -91,45 +94,39 @@ TEST_F(PortalHotKeysTest, WhatThePortalDoesNotGrantIsNotSystemWide)
         {"bound to no key", [](FakePortal& p) { p.triggerDescription.clear(); }, 3},
         {"no global shortcuts", [](FakePortal& p) { p.hasShortcuts = false; }, 2},
     };
-    for (const auto& c : cases) {
-        c.prepare(startPortal());
+    for (const auto& [name, prepare, calls] : cases) {
+        SCOPED_TRACE(name);
+        prepare(startPortal());
         PortalHotKeys keys([this] { return bus.connect(); });
         const auto refused = keys.registerHotKey(kKey, [] {});
         keys.start();
-        ASSERT_TRUE(waitUntil([&] { return portal->calls.size() == c.calls; })) << c.name;
+        ASSERT_TRUE(waitUntil([&] { return portal->calls.size() == calls; }));
         // What is granted afterwards tells when the refusal has arrived.
         portal->hasShortcuts = true;
         portal->responseToCreate = portal->responseToBind = 0;
         portal->triggerDescription = QStringLiteral("Ctrl+T");
         const auto granted = keys.registerHotKey(kOtherKey, [] {});
-        ASSERT_TRUE(isBoundInTheEnd(granted)) << c.name;
-        EXPECT_FALSE(refused->isSystemWide()) << c.name;
-        EXPECT_EQ(portal->calls.size(), c.calls + 3) << "a refusal is final: " << c.name;
+        ASSERT_TRUE(isBoundInTheEnd(granted));
+        EXPECT_FALSE(refused->isSystemWide());
+        EXPECT_EQ(portal->calls.size(), calls + 3) << "a refusal is final";
     }
 }
 
 TEST_F(PortalHotKeysTest, APortalWithoutTheRegistryBindsKeysToo)
 {
     startPortal().hasRegistry = false;
-    const auto registration = registerKey();
-    hotKeys.start();
-    EXPECT_TRUE(isBoundInTheEnd(registration));
+    startBound();
 }
 
 TEST_F(PortalHotKeysTest, AKeyGivenBackClosesItsSession)
 {
-    startPortal();
-    auto registration = registerKey();
-    auto neverStarted = registerKey(kOtherKey);
-    neverStarted.reset();
-    hotKeys.start();
-    ASSERT_TRUE(isBoundInTheEnd(registration));
-    registration.reset();
+    registerKey(kOtherKey).reset(); // never started
+    startBound().reset();
     EXPECT_TRUE(waitUntil([&] { return portal->sessions.isEmpty(); }));
     EXPECT_EQ(portal->calls, callsForOneKey() << QStringLiteral("Close"));
 }
 
-TEST_F(PortalHotKeysTest, ALatePortalAndARestartedOneAreAskedAnew)
+TEST_F(PortalHotKeysTest, ALatePortalAndARestartedOneAreAskedAnewUntilTheDesktopEndsTheSession)
 {
     const auto registration = registerKey();
     hotKeys.start();
@@ -142,14 +139,6 @@ TEST_F(PortalHotKeysTest, ALatePortalAndARestartedOneAreAskedAnew)
     EXPECT_EQ(portal->calls, callsForOneKey());
     ASSERT_TRUE(portal->activate(QStringLiteral("toggle-panel")));
     EXPECT_TRUE(waitUntil([&] { return presses == 1; }));
-}
-
-TEST_F(PortalHotKeysTest, ASessionThatTheDesktopEndsIsNotSystemWideAnyMore)
-{
-    startPortal();
-    const auto registration = registerKey();
-    hotKeys.start();
-    ASSERT_TRUE(isBoundInTheEnd(registration));
     portal->closeSession(portal->sessions[0].path);
     EXPECT_TRUE(waitUntil([&] { return !registration->isSystemWide(); }));
 }

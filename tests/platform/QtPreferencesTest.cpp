@@ -8,6 +8,7 @@
 
 #include <fstream>
 #include <limits>
+#include <tuple>
 
 namespace cuebright::test {
 
@@ -33,12 +34,7 @@ protected:
     FakeMainQueue queue {clock};
 };
 
-struct Reading {
-    const char* inFile;
-    std::optional<bool> boolean;
-    std::optional<std::int64_t> integer;
-    std::optional<double> number;
-};
+using Reading = std::tuple<std::string, std::optional<bool>, std::optional<std::int64_t>, std::optional<double>>;
 
 } // namespace
 
@@ -73,64 +69,42 @@ TEST_F(QtPreferencesTest, AStoredValueIsReadAsTheKindAskedForOrNotAtAll)
         {"@Variant(\\0\\0\\0\\x1)", {}, {}, {}},
     };
     for (const auto& reading : readings) {
-        auto preferences = openWith(std::string("[General]\nkey=") + reading.inFile + '\n');
-        EXPECT_EQ(preferences.boolean("key"), reading.boolean) << reading.inFile;
-        EXPECT_EQ(preferences.integer("key"), reading.integer) << reading.inFile;
-        EXPECT_EQ(preferences.number("key"), reading.number) << reading.inFile;
+        const auto& inFile = std::get<0>(reading);
+        auto preferences = openWith("[General]\nkey=" + inFile + '\n');
+        EXPECT_EQ(
+            Reading(inFile, preferences.boolean("key"), preferences.integer("key"), preferences.number("key")), reading)
+            << inFile;
     }
 }
 
-TEST_F(QtPreferencesTest, WhatIsNotThereIsAbsentOfEveryKind)
+TEST_F(QtPreferencesTest, EveryKindComesBackExactlyAndWhatIsNotThereIsAbsent)
 {
-    auto preferences = open();
-    EXPECT_FALSE(preferences.boolean("key"));
-    EXPECT_FALSE(preferences.integer("key"));
-    EXPECT_FALSE(preferences.number("key"));
-    EXPECT_FALSE(preferences.text("key"));
-    EXPECT_TRUE(preferences.numbers("key").empty());
-}
-
-TEST_F(QtPreferencesTest, NumbersComeBackExactly)
-{
-    const double values[] = {0.1, 0.7000000000000001, 1.0 / 3, 17, -0.0, 1e300, 5e-324};
-    for (const double value : values) {
+    constexpr auto kLeast = std::numeric_limits<std::int64_t>::min();
+    for (const double value : {0.1, 0.7000000000000001, 1.0 / 3, 17.0, -0.0, 1e300, 5e-324}) {
         {
             auto preferences = openWith("");
+            preferences.setBoolean("yes", true);
+            preferences.setBoolean("no", false);
+            preferences.setInteger("least", kLeast);
+            preferences.setText("text", "one, two; three");
             preferences.setNumber("number", value);
             preferences.setNumbers("group", {{"x", value}});
         }
-        auto preferences = open();
-        EXPECT_EQ(preferences.number("number"), value);
-        EXPECT_EQ(preferences.numbers("group"), (Preferences::Numbers {{"x", value}}));
+        auto read = open();
+        EXPECT_EQ(std::tuple(read.boolean("yes"), read.boolean("no"), read.boolean("none")),
+            std::tuple(true, false, std::nullopt));
+        EXPECT_EQ(std::tuple(read.integer("least"), read.integer("none")), std::tuple(kLeast, std::nullopt));
+        EXPECT_EQ(std::tuple(read.text("text"), read.text("none")), std::tuple("one, two; three", std::nullopt));
+        EXPECT_EQ(std::tuple(read.number("number"), read.number("none")), std::tuple(value, std::nullopt));
+        EXPECT_EQ(read.numbers("group"), (Preferences::Numbers {{"x", value}}));
+        EXPECT_TRUE(read.numbers("none").empty());
     }
 }
 
-TEST_F(QtPreferencesTest, EveryKindComesBackFromTheFile)
+TEST_F(QtPreferencesTest, OnlyFiniteMembersOfAGroupCountAndSettingItReplacesItWhole)
 {
-    {
-        auto preferences = open();
-        preferences.setBoolean("yes", true);
-        preferences.setBoolean("no", false);
-        preferences.setInteger("least", std::numeric_limits<std::int64_t>::min());
-        preferences.setText("text", "one, two; three");
-    }
-    auto preferences = open();
-    EXPECT_EQ(preferences.boolean("yes"), true);
-    EXPECT_EQ(preferences.boolean("no"), false);
-    EXPECT_EQ(preferences.integer("least"), std::numeric_limits<std::int64_t>::min());
-    EXPECT_EQ(preferences.text("text"), "one, two; three");
-}
-
-TEST_F(QtPreferencesTest, OnlyFiniteMembersOfAGroupCount)
-{
-    auto preferences = openWith("[cuebrightWindowFrame]\nh=560\nw=nan\nx=12.5\ny=left\n[other]\nz=1\n");
-    const Preferences::Numbers expected {{"h", 560}, {"x", 12.5}};
-    EXPECT_EQ(preferences.numbers(preferenceKeys::kWindowFrame), expected);
-}
-
-TEST_F(QtPreferencesTest, SettingAGroupReplacesItWhole)
-{
-    auto preferences = openWith("[frame]\nx=1\ny=2\n[frames]\nx=7\n");
+    auto preferences = openWith("[frame]\nh=560\nw=nan\nx=12.5\ny=left\n[frames]\nx=7\n");
+    EXPECT_EQ(preferences.numbers("frame"), (Preferences::Numbers {{"h", 560}, {"x", 12.5}}));
     preferences.setNumbers("frame", {{"x", 3}});
     queue.runPosted();
     EXPECT_EQ(content(), "[frame]\nx=3\n\n[frames]\nx=7\n");
@@ -169,12 +143,6 @@ TEST_F(QtPreferencesTest, AnUnchangedValueIsNotWritten)
     preferences.setInteger("a", 1);
     queue.runPosted();
     EXPECT_EQ(content(), "[General]\na=1\n# by hand\n");
-}
-
-TEST_F(QtPreferencesTest, TheLastChangesAreWrittenOnDestruction)
-{
-    open().setText("theme", "dark");
-    EXPECT_EQ(content(), "[General]\ntheme=dark\n");
 }
 
 TEST_F(QtPreferencesTest, NonsenseInTheFileBreaksNothing)

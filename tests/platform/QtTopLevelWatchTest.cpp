@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <memory>
 #include <vector>
 
 namespace cuebright::test {
@@ -42,17 +43,21 @@ TEST_F(QtTopLevelWatchTest, TellsOfAWindowBeforeItIsExposed)
     EXPECT_FALSE(wasExposed);
 }
 
-TEST_F(QtTopLevelWatchTest, TellsAgainAtEachShowAndOnceTheWindowShows)
+TEST_F(QtTopLevelWatchTest, TellsAgainAtEachShowAndOnceTheWindowShowsAndWhenItGoes)
 {
-    QWidget widget;
-    widget.show();
+    auto widget = std::make_unique<QWidget>();
+    widget->show();
     processEvents();
-    widget.hide();
+    widget->hide();
     processEvents();
     appeared.clear();
-    widget.show();
-    EXPECT_TRUE(waitUntil([&] { return widget.windowHandle()->isExposed(); }));
-    EXPECT_EQ(appeared, (std::vector<WindowSystem::WindowId>(2, widget.winId())));
+    widget->show();
+    EXPECT_TRUE(waitUntil([&] { return widget->windowHandle()->isExposed(); }));
+    const WindowSystem::WindowId id = widget->winId();
+    EXPECT_EQ(appeared, std::vector(2, id));
+    EXPECT_TRUE(gone.empty());
+    widget.reset();
+    EXPECT_EQ(gone, std::vector {id});
 }
 
 TEST_F(QtTopLevelWatchTest, TellsOfMenusAndNotOfWindowsInsideOthers)
@@ -68,18 +73,6 @@ TEST_F(QtTopLevelWatchTest, TellsOfMenusAndNotOfWindowsInsideOthers)
     menu.addAction(QStringLiteral("An action"));
     menu.popup({});
     EXPECT_TRUE(hasAppeared(menu));
-}
-
-TEST_F(QtTopLevelWatchTest, TellsWhenAWindowGoes)
-{
-    WindowSystem::WindowId id = 0;
-    {
-        QWidget widget;
-        widget.show();
-        id = widget.winId();
-        EXPECT_TRUE(gone.empty());
-    }
-    EXPECT_EQ(gone, std::vector {id});
 }
 
 } // namespace

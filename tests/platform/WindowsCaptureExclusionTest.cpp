@@ -4,7 +4,7 @@
 
 #include <map>
 #include <set>
-#include <string>
+#include <tuple>
 #include <vector>
 
 namespace cuebright::test {
@@ -60,90 +60,65 @@ protected:
     WindowsCaptureExclusion exclusion {affinity};
 };
 
-struct Row {
-    const char* name;
-    std::uint32_t build;
-    bool isRemote;
-    std::uint32_t before;
-    bool isRefused;
-    bool isSilent;
-    State expected;
-    std::vector<std::pair<Window, std::uint32_t>> sets;
-};
-
-const Row kRows[] = {
-    {"the first build that can exclude", 19041, false, kNone, false, false, State::Excluded, {{kPanel, kExclude}}},
-    {"the last build that cannot", 19040, false, kNone, false, false, State::Blackout, {{kPanel, kMonitor}}},
-    {"an unknown build", 0, false, kNone, false, false, State::Blackout, {{kPanel, kMonitor}}},
-    {"excluded already", 22631, false, kExclude, false, false, State::Excluded, {}},
-    {"a black box already, on an old build", 18363, false, kMonitor, false, false, State::Blackout, {}},
-    {"excluded in name only, on an old build", 18363, false, kExclude, true, false, State::Blackout,
-        {{kPanel, kMonitor}}},
-    {"a black box where excluding is refused", 22631, false, kMonitor, true, false, State::Blackout,
-        {{kPanel, kExclude}}},
-    {"refused", 22631, false, kNone, true, false, State::Visible, {{kPanel, kExclude}}},
-    {"no answer", 22631, false, kNone, false, true, State::Unknown, {{kPanel, kExclude}}},
-    {"an affinity of the future", 22631, false, 0x40, true, false, State::Unknown, {{kPanel, kExclude}}},
-    {"a remote desktop", 22631, true, kNone, false, false, State::Visible, {}},
-    {"excluded before the remote desktop came", 22631, true, kExclude, false, false, State::Visible, {{kPanel, kNone}}},
-};
+enum class Answer { Yes, Refused, Silent };
 
 TEST(WindowsCaptureExclusion, AsksForTheBestAndBelievesOnlyWhatIsReadBack)
 {
-    for (const auto& row : kRows) {
-        SCOPED_TRACE(row.name);
+    using Set = std::optional<std::uint32_t>;
+    constexpr std::uint32_t kNew = 22631;
+    constexpr std::uint32_t kOld = 18363;
+    const std::tuple<const char*, std::uint32_t, bool, std::uint32_t, Answer, State, Set> rows[] = {
+        {"the first build that can exclude", 19041, false, kNone, Answer::Yes, State::Excluded, kExclude},
+        {"the last build that cannot", 19040, false, kNone, Answer::Yes, State::Blackout, kMonitor},
+        {"an unknown build", 0, false, kNone, Answer::Yes, State::Blackout, kMonitor},
+        {"excluded already", kNew, false, kExclude, Answer::Yes, State::Excluded, {}},
+        {"a black box already, on an old build", kOld, false, kMonitor, Answer::Yes, State::Blackout, {}},
+        {"excluded in name only, on an old build", kOld, false, kExclude, Answer::Refused, State::Blackout, kMonitor},
+        {"a black box where excluding is refused", kNew, false, kMonitor, Answer::Refused, State::Blackout, kExclude},
+        {"refused", kNew, false, kNone, Answer::Refused, State::Visible, kExclude},
+        {"no answer", kNew, false, kNone, Answer::Silent, State::Unknown, kExclude},
+        {"an affinity of the future", kNew, false, 0x40, Answer::Refused, State::Unknown, kExclude},
+        {"a remote desktop", kNew, true, kNone, Answer::Yes, State::Visible, {}},
+        {"excluded before the remote desktop came", kNew, true, kExclude, Answer::Yes, State::Visible, kNone},
+    };
+    for (const auto& [name, build, isRemote, before, answer, expected, set] : rows) {
+        SCOPED_TRACE(name);
         FakeDisplayAffinity affinity;
-        affinity.build = row.build;
-        affinity.isRemote = row.isRemote;
-        affinity.values[kPanel] = row.before;
-        if (row.isRefused)
-            affinity.refused = {kPanel};
-        if (row.isSilent)
-            affinity.silent = {kPanel};
+        affinity.build = build;
+        affinity.isRemote = isRemote;
+        affinity.values[kPanel] = before;
+        if (answer != Answer::Yes)
+            (answer == Answer::Refused ? affinity.refused : affinity.silent).insert(kPanel);
         WindowsCaptureExclusion exclusion(affinity);
+        EXPECT_EQ(exclusion.state(), State::Unknown);
+        EXPECT_FALSE(exclusion.isSettled());
+        int changes = 0;
+        const auto subscription = exclusion.changed.subscribe([&] { ++changes; });
         exclusion.windowAppears(kPanel);
-        EXPECT_EQ(exclusion.state(), row.expected);
+        EXPECT_EQ(exclusion.state(), expected);
         EXPECT_TRUE(exclusion.isSettled());
-        EXPECT_EQ(affinity.sets, row.sets);
+        EXPECT_EQ(changes, 1) << "also without an answer";
+        EXPECT_EQ(affinity.sets.size(), set ? 1U : 0U);
+        for (const auto& [window, value] : affinity.sets)
+            EXPECT_EQ(value, set);
     }
-}
-
-TEST_F(WindowsCaptureExclusionTest, IsUnsettledUntilTheFirstWindow)
-{
-    EXPECT_EQ(exclusion.state(), State::Unknown);
-    EXPECT_FALSE(exclusion.isSettled());
-    affinity.silent = {kPanel};
-    int changes = 0;
-    const auto subscription = exclusion.changed.subscribe([&] { ++changes; });
-    exclusion.windowAppears(kPanel);
-    EXPECT_EQ(exclusion.state(), State::Unknown);
-    EXPECT_TRUE(exclusion.isSettled());
-    EXPECT_EQ(changes, 1) << "settled without an answer";
 }
 
 TEST_F(WindowsCaptureExclusionTest, TheWorstWindowCountsAsLongAsItIsThere)
 {
     exclusion.windowAppears(kPanel);
-    const struct {
-        std::uint32_t menu;
-        bool isSilent;
-        State expected;
-    } rows[] = {
-        {kMonitor, false, State::Blackout},
-        {kNone, true, State::Unknown},
-        {kNone, false, State::Visible},
-    };
-    for (const auto& row : rows) {
-        affinity.refused = {kMenu};
-        affinity.values[kMenu] = row.menu;
-        affinity.silent = row.isSilent ? std::set {kMenu} : std::set<Window> {};
+    affinity.refused = {kMenu};
+    const std::tuple<std::uint32_t, std::set<Window>, State> menus[] = {
+        {kMonitor, {}, State::Blackout}, {kNone, {kMenu}, State::Unknown}, {kNone, {}, State::Visible}};
+    for (const auto& [value, silent, expected] : menus) {
+        affinity.values[kMenu] = value;
+        affinity.silent = silent;
         exclusion.windowAppears(kMenu);
-        EXPECT_EQ(exclusion.state(), row.expected);
+        EXPECT_EQ(exclusion.state(), expected);
         exclusion.windowGoes(kMenu);
         EXPECT_EQ(exclusion.state(), State::Excluded);
     }
     // Whatever is unknown of one window, another one is seen for certain.
-    affinity.refused = {kMenu};
     affinity.silent = {kPanel};
     affinity.values[kMenu] = kNone;
     exclusion.windowAppears(kMenu);
@@ -174,32 +149,20 @@ TEST_F(WindowsCaptureExclusionTest, EachShowSetsAgainWhatHidingLost)
     EXPECT_EQ(exclusion.state(), State::Excluded);
 }
 
-TEST_F(WindowsCaptureExclusionTest, ReportsALossOnceItIsRepaired)
-{
-    exclusion.windowAppears(kPanel);
-    EXPECT_EQ(reappliedOnShow(), 0) << "nothing was lost";
-    affinity.values[kPanel] = kNone;
-    EXPECT_EQ(exclusion.state(), State::Visible) << "before the show repairs it";
-    EXPECT_EQ(reappliedOnShow(), 1);
-    EXPECT_EQ(reappliedOnShow(), 0) << "reported before";
-}
-
-TEST_F(WindowsCaptureExclusionTest, ReportsNoRepairThatFails)
-{
-    exclusion.windowAppears(kPanel);
-    affinity.values[kPanel] = kNone;
-    affinity.refused = {kPanel};
-    EXPECT_EQ(reappliedOnShow(), 0);
-    EXPECT_EQ(exclusion.state(), State::Visible);
-}
-
-TEST_F(WindowsCaptureExclusionTest, WhatWasNeverExcludedIsNotReportedAsLost)
+TEST_F(WindowsCaptureExclusionTest, ReportsALossOnceItIsRepairedAndOnlyThen)
 {
     affinity.refused = {kPanel};
     exclusion.windowAppears(kPanel);
     affinity.refused.clear();
-    EXPECT_EQ(reappliedOnShow(), 0);
+    EXPECT_EQ(reappliedOnShow(), 0) << "never excluded before";
     EXPECT_EQ(exclusion.state(), State::Excluded);
+    affinity.values[kPanel] = kNone;
+    affinity.refused = {kPanel};
+    EXPECT_EQ(reappliedOnShow(), 0) << "the repair fails";
+    EXPECT_EQ(exclusion.state(), State::Visible) << "before a show repairs it";
+    affinity.refused.clear();
+    EXPECT_EQ(reappliedOnShow(), 1);
+    EXPECT_EQ(reappliedOnShow(), 0) << "reported before";
 }
 
 TEST_F(WindowsCaptureExclusionTest, ARemoteDesktopShowsTheWindowsToTheirUserAndItsEndHidesThemAgain)

@@ -110,44 +110,34 @@ TEST_F(CardStoreCards, UndoOfADeletionBringsTheSameCardBack)
 
 TEST_F(CardStoreCards, UndoActsOnTheDeckAndCardThatAreActiveThen)
 {
-    open("Talk*[a|b|c*] Demo[d]");
-    store->deleteCard();
-    store->switchToDeck(1);
-    advance(3s);
-    undoManager->undo();
-    EXPECT_EQ(describe(*store), "Talk[a|b] Demo*[d|c*]"); // past its end, so at its end
-    undoManager->redo();
-    EXPECT_EQ(describe(*store), "Talk[a|b] Demo*[d*]");
-
-    open("Talk*[a|b|c|d*]");
-    store->moveCardUp();
-    store->prevCard();
-    undoManager->undo();
-    EXPECT_EQ(describe(*store), "Talk*[a|d|b*|c]");
-}
-
-TEST_F(CardStoreCards, UndoOfAddCardLeavesAnEarlierCardActive)
-{
-    open("Talk*[a*|b]");
-    store->addCard();
-    store->cancelEdit();
-    store->prevCard();
-    store->prevCard();
-    advance(3s);
-    undoManager->undo();
-    EXPECT_EQ(describe(*store), "Talk*[a*|b]");
-}
-
-TEST_F(CardStoreCards, AnUndoThatFindsNothingToDoIsUsedUp)
-{
-    open("Talk*[a|b*] Demo[c]");
-    store->moveCardUp();
-    store->switchToDeck(1);
-    (void)takeNotices();
-    undoManager->undo();
-    EXPECT_EQ(describe(*store), "Talk[b|a] Demo*[c*]");
-    EXPECT_EQ(takeNotices(), "");
-    EXPECT_EQ(describe(*undoManager), "undo '' redo ''");
+    const StoreOperation openDemo = [](CardStore& s) { s.switchToDeck(1); };
+    const StoreOperation previous = &CardStore::prevCard;
+    const struct {
+        const char* before;
+        std::vector<StoreOperation> steps;
+        std::string undone;
+        std::string redone;
+    } cases[] = {
+        // past the end of the other deck, so at its end
+        {"Talk*[a|b|c*] Demo[d]", {&CardStore::deleteCard, openDemo}, "Talk[a|b] Demo*[d|c*]", "Talk[a|b] Demo*[d*]"},
+        {"Talk*[a|b|c|d*]", {&CardStore::moveCardUp, previous}, "Talk*[a|d|b*|c]", "Talk*[a|b*|d|c]"},
+        {"Talk*[a*|b]", {&CardStore::addCard, &CardStore::cancelEdit, previous, previous}, "Talk*[a*|b]",
+            "Talk*[a|b|" + kNewCard + "*]"},
+        // nothing can move there, and the undo is used up
+        {"Talk*[a|b*] Demo[c]", {&CardStore::moveCardUp, openDemo}, "Talk[b|a] Demo*[c*]", "Talk[b|a] Demo*[c*]"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.before);
+        open(c.before);
+        for (const auto& step : c.steps)
+            step(*store);
+        advance(3s);
+        undoManager->undo();
+        EXPECT_EQ(describe(*store), c.undone);
+        EXPECT_FALSE(undoManager->canUndo());
+        undoManager->redo();
+        EXPECT_EQ(describe(*store), c.redone);
+    }
 }
 
 TEST_F(CardStoreCards, WithoutItsUndoManagerOperationsStillWork)

@@ -3,7 +3,6 @@
 #include "model/StateFile.h"
 
 #include <sstream>
-#include <utility>
 #include <variant>
 
 namespace cuebright::test {
@@ -21,37 +20,36 @@ bool takeStar(std::string& text)
 }
 
 struct Description {
-    std::vector<Deck> decks;
-    std::optional<Uuid> activeDeckId;
-    std::int64_t activeCardIndex = 0;
+    AppState state;
     std::optional<std::string> editText;
 };
 
 Description parse(std::string_view text, Instant date)
 {
     Description result;
+    auto& [decks, activeDeckId, activeCardIndex, windowFrame, opacity, fontSize] = result.state;
     for (auto open = text.find('['); open != std::string_view::npos; open = text.find('[')) {
         const auto close = text.find(']');
         std::string name(text.substr(0, open));
         std::istringstream cards(std::string(text.substr(open + 1, close - open - 1)) + (close > open + 1 ? "|" : ""));
         text.remove_prefix(std::min(text.size(), close + 2));
 
-        const int number = static_cast<int>(result.decks.size() + 1) * 100;
+        const int number = static_cast<int>(decks.size() + 1) * 100;
         const bool isActive = takeStar(name);
         Deck deck {FakeUuidSource::nth(number), name, {}, date, date};
         for (std::string content; std::getline(cards, content, '|');) {
             if (takeStar(content) && isActive)
-                result.activeCardIndex = std::ssize(deck.cards);
+                activeCardIndex = std::ssize(deck.cards);
             const auto id = FakeUuidSource::nth(number + 1 + static_cast<int>(deck.cards.size()));
             deck.cards.push_back({id, content, date, date});
         }
         if (isActive)
-            result.activeDeckId = deck.id;
-        result.decks.push_back(std::move(deck));
+            activeDeckId = deck.id;
+        decks.push_back(std::move(deck));
     }
     const std::string rest(text);
     if (const auto card = rest.find("card "); card != std::string::npos)
-        result.activeCardIndex = std::stoll(rest.substr(card + 5));
+        activeCardIndex = std::stoll(rest.substr(card + 5));
     if (const auto edit = rest.find("editing '"); edit != std::string::npos)
         result.editText = rest.substr(edit + 9, rest.find('\'', edit + 9) - edit - 9);
     return result;
@@ -64,50 +62,31 @@ std::string withoutAnimations(std::string notices)
     return notices;
 }
 
-std::string valueOf(Change::Property property, const CardStore& store)
+/// The property with the value that it still has.
+std::string named(Change::Property property, const CardStore& store)
 {
-    using enum Change::Property;
-    const auto text = [](std::string name, const auto& value) {
-        std::ostringstream out;
-        out << std::boolalpha << name << " " << value;
-        return out.str();
+    const auto flag = [](bool isSet) { return isSet ? "true" : "false"; };
+    const auto number = [](double value) { return (std::ostringstream() << value).str(); };
+    const std::string properties[] = {
+        "decks",
+        "activeDeckIndex " + std::to_string(store.activeDeckIndex()),
+        "activeCardIndex " + std::to_string(store.activeCardIndex()),
+        std::string("isEditing ") + flag(store.isEditing()),
+        "editText " + inQuotes(store.editText()),
+        store.navigationDirection() == NavigationDirection::Forward ? "navigationDirection forward"
+                                                                    : "navigationDirection backward",
+        "deckTransitionId",
+        std::string("showWordCount ") + flag(store.showWordCount()),
+        "speakingPace " + std::to_string(store.speakingPace()),
+        std::string("isDeckSwitch ") + flag(store.isDeckSwitch()),
+        "feedbackMessage " + inQuotes(store.feedbackMessage()),
+        "persistentError " + inQuotes(store.persistentError()),
+        std::string("errorDismissed ") + flag(store.errorDismissed()),
+        "theme " + inQuotes(store.theme()),
+        "fontSize " + number(store.fontSize()),
+        "opacity " + number(store.opacity()),
     };
-    switch (property) {
-    case Decks:
-        return "decks";
-    case ActiveDeckIndex:
-        return text("activeDeckIndex", store.activeDeckIndex());
-    case ActiveCardIndex:
-        return text("activeCardIndex", store.activeCardIndex());
-    case IsEditing:
-        return text("isEditing", store.isEditing());
-    case EditText:
-        return text("editText", inQuotes(store.editText()));
-    case NavigationDirection:
-        return store.navigationDirection() == cuebright::NavigationDirection::Forward ? "navigationDirection forward"
-                                                                                      : "navigationDirection backward";
-    case DeckTransitionId:
-        return "deckTransitionId";
-    case ShowWordCount:
-        return text("showWordCount", store.showWordCount());
-    case SpeakingPace:
-        return text("speakingPace", store.speakingPace());
-    case IsDeckSwitch:
-        return text("isDeckSwitch", store.isDeckSwitch());
-    case FeedbackMessage:
-        return text("feedbackMessage", inQuotes(store.feedbackMessage()));
-    case PersistentError:
-        return text("persistentError", inQuotes(store.persistentError()));
-    case ErrorDismissed:
-        return text("errorDismissed", store.errorDismissed());
-    case Theme:
-        return text("theme", inQuotes(store.theme()));
-    case FontSize:
-        return text("fontSize", store.fontSize());
-    case Opacity:
-        return text("opacity", store.opacity());
-    }
-    return "unknown property";
+    return properties[static_cast<std::size_t>(property)];
 }
 
 } // namespace
@@ -152,29 +131,14 @@ void CardStoreFixture::open(std::string_view description)
     (void)takeNotices();
 }
 
-void CardStoreFixture::openWithStateFile(std::string content)
-{
-    close();
-    surroundings.fileSystem.files[std::string(kStateFile)] = std::move(content);
-    makeStore();
-}
-
-void CardStoreFixture::openWithoutStateFile()
-{
-    close();
-    surroundings.fileSystem.files.clear();
-    makeStore();
-}
-
-void CardStoreFixture::close()
+void CardStoreFixture::openWithStateFile(std::optional<std::string> content)
 {
     m_subscription.end();
     store.reset();
     undoManager->removeAllActions();
-}
-
-void CardStoreFixture::makeStore()
-{
+    surroundings.fileSystem.files.clear();
+    if (content)
+        stateFile() = *std::move(content);
     surroundings.fileSystem.writes.clear();
     surroundings.preferences.writes.clear();
     surroundings.appearance.choices.clear();
@@ -185,26 +149,16 @@ void CardStoreFixture::makeStore()
     m_subscription = store->willChange.subscribe([this](const Change& change) { record(change); });
 }
 
-void CardStoreFixture::loadFromDisk(std::string_view description)
-{
-    surroundings.fileSystem.files[std::string(kStateFile)] = stateFileOf(description);
-    store->loadFromDisk();
-    (void)takeNotices();
-}
-
 std::string CardStoreFixture::stateFileOf(std::string_view description)
 {
-    const auto state = parse(description, kWritten);
+    const auto state = parse(description, kWritten).state;
     return std::get<std::string>(encodeState({state.decks, state.activeDeckId, state.activeCardIndex, 1.0, 17.0}));
 }
 
 std::string CardStoreFixture::takeNotices()
 {
-    std::string text;
-    for (const auto& notice : std::exchange(m_notices, {}))
-        text += (text.empty() ? "" : "; ") + notice;
     m_lastChange.reset();
-    return text;
+    return std::exchange(m_notices, {});
 }
 
 void CardStoreFixture::record(const Change& change)
@@ -212,11 +166,11 @@ void CardStoreFixture::record(const Change& change)
     if (std::exchange(m_lastChange, change) == change)
         return;
     std::ostringstream notice;
-    notice << valueOf(change.property, *store);
+    notice << (m_notices.empty() ? "" : "; ") << named(change.property, *store);
     if (change.animation)
         notice << (change.animation->curve == Animation::Curve::EaseInOut ? " ease-in-out " : " ease-out ")
                << change.animation->duration.count();
-    m_notices.push_back(notice.str());
+    m_notices += notice.str();
 }
 
 void CardStoreFixture::expectEffects(const std::vector<Effect>& effects)
@@ -234,10 +188,9 @@ void CardStoreFixture::expectEffects(const std::vector<Effect>& effects)
             EXPECT_EQ(saves(), effect.saves);
         }
     }
-    surroundings.accessibility.motionReduced = false;
 }
 
-void CardStoreFixture::expectNothing(const std::vector<Nothing>& cases)
+void CardStoreFixture::expectNothing(const std::vector<std::pair<std::string, StoreOperation>>& cases)
 {
     for (const auto& [before, operation] : cases) {
         SCOPED_TRACE(before);

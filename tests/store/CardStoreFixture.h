@@ -12,6 +12,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace cuebright::test {
@@ -36,13 +37,11 @@ protected:
 
     /// Makes a new store and forgets what was recorded before.
     void open(std::string_view description);
-    void openWithStateFile(std::string content);
-    void openWithoutStateFile();
-    void close();
-    void loadFromDisk(std::string_view description);
+    /// The same from what the state file holds; absent: there is none.
+    void openWithStateFile(std::optional<std::string> content);
 
     [[nodiscard]] static std::string stateFileOf(std::string_view description);
-    [[nodiscard]] std::string stateFile() { return surroundings.fileSystem.files[std::string(kStateFile)]; }
+    [[nodiscard]] std::string& stateFile() { return surroundings.fileSystem.files[std::string(kStateFile)]; }
     [[nodiscard]] std::size_t saves() const { return surroundings.fileSystem.writes.size(); }
     /// Each property about to change, its value at that moment, and the animation: "navigationDirection forward;
     /// activeCardIndex 0 ease-in-out 0.18". Equal changes in a row count once. Empties the record.
@@ -62,12 +61,8 @@ protected:
     /// Checks what each operation does, also where the user wants less motion.
     void expectEffects(const std::vector<Effect>& effects);
 
-    struct Nothing {
-        std::string before;
-        StoreOperation operation;
-    };
-    /// Checks that the operations change nothing, tell nobody, and leave nothing to undo or save.
-    void expectNothing(const std::vector<Nothing>& cases);
+    /// Checks that operations on these decks change nothing, tell nobody, and leave nothing to undo or save.
+    void expectNothing(const std::vector<std::pair<std::string, StoreOperation>>& cases);
 
     struct Alternation {
         std::string name;
@@ -84,10 +79,9 @@ protected:
     std::optional<CardStore> store;
 
 private:
-    void makeStore();
     void record(const Change& change);
 
-    std::vector<std::string> m_notices;
+    std::string m_notices;
     std::optional<Change> m_lastChange;
     Subscription m_subscription;
 };

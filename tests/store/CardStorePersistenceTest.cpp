@@ -6,32 +6,22 @@ namespace {
 
 class CardStorePersistence : public CardStoreFixture {
 protected:
-    void failWrites() { surroundings.fileSystem.writeError = "No space left on device"; }
-    void letWritesSucceed() { surroundings.fileSystem.writeError.reset(); }
     /// One save with everything that it posts.
     void save()
     {
         store->flushToDisk();
         advance(0s);
     }
+
+    std::optional<std::string>& writeError = surroundings.fileSystem.writeError;
 };
 
-TEST_F(CardStorePersistence, AFreshStoreIsAtRest)
-{
-    open("Talk*[a*]");
-    EXPECT_EQ(store->editText(), "");
-    EXPECT_EQ(store->navigationDirection(), NavigationDirection::Forward);
-    EXPECT_NE(store->deckTransitionId(), Uuid {});
-    EXPECT_FALSE(store->isDeckSwitch());
-    EXPECT_EQ(describe(*store), "Talk*[a*]");
-    EXPECT_EQ(surroundings.mainQueue.pendingCount(), 0U);
-}
+constexpr const char* kDiskFull = "No space left on device";
 
 TEST_F(CardStorePersistence, TheStateFileLiesInAFolderOfItsOwnThatIsMadeAtOnce)
 {
     surroundings.fileSystem.createsNoDirectories = true; // shows only when saving
-    openWithoutStateFile();
-    EXPECT_EQ(store->appSupportDir(), "/support/Cuebright");
+    openWithStateFile(std::nullopt);
     EXPECT_EQ(store->stateUrl(), "/support/Cuebright/state.json");
     EXPECT_EQ(surroundings.fileSystem.createdDirectories, std::vector<std::string> {"/support/Cuebright"});
     EXPECT_TRUE(surroundings.log.lines.empty());
@@ -41,77 +31,64 @@ TEST_F(CardStorePersistence, TheStateFileLiesInAFolderOfItsOwnThatIsMadeAtOnce)
 TEST_F(CardStorePersistence, WithoutAnApplicationSupportDirectoryTheProgramStops)
 {
     surroundings.fileSystem.supportDirectory.reset();
-    EXPECT_DEATH(openWithoutStateFile(), "");
+    EXPECT_DEATH(openWithStateFile(std::nullopt), "");
 }
 
 TEST_F(CardStorePersistence, WithoutAGoodStateFileTheSampleDecksComeSilently)
 {
-    struct Case {
+    const struct {
         const char* name;
         std::optional<std::string> content;
-        bool readsFail;
-    };
-    const Case cases[] = {
-        {"missing", std::nullopt, false},
+        bool readsFail = false;
+    } cases[] = {
+        {"missing", std::nullopt},
         {"unreadable", stateFileOf("Talk*[a]"), true},
-        {"no JSON", "# Talk", false},
-        {"cut short", stateFileOf("Talk*[a]").substr(0, 100), false},
-        {"without decks", R"({"activeCardIndex":0,"decks":[],"fontSize":17,"opacity":1})", false},
+        {"cut short", stateFileOf("Talk*[a]").substr(0, 100)},
+        {"without decks", R"({"activeCardIndex":0,"decks":[],"fontSize":17,"opacity":1})"},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         surroundings.fileSystem.readsFail = c.readsFail;
-        if (c.content)
-            openWithStateFile(*c.content);
-        else
-            openWithoutStateFile();
-        ASSERT_EQ(store->deckCount(), 3);
-        EXPECT_EQ(store->deckName(), "Getting Started");
-        EXPECT_EQ(store->positionLabel(), "CARD 01 / 05");
+        openWithStateFile(c.content);
+        EXPECT_EQ(store->deckCount(), 3);
+        EXPECT_EQ(store->deckName() + ": " + store->positionLabel(), "Getting Started: CARD 01 / 05");
         EXPECT_EQ(deck(0).createdAt, surroundings.clock.wallClock);
         advance(10s);
         EXPECT_EQ(saves(), 0U);
         EXPECT_EQ(stateFile(), c.content.value_or(""));
         EXPECT_TRUE(surroundings.log.lines.empty());
-        EXPECT_EQ(store->feedbackMessage(), std::nullopt);
-        EXPECT_EQ(store->persistentError(), std::nullopt);
+        EXPECT_FALSE(store->feedbackMessage() || store->persistentError());
     }
 }
 
 TEST_F(CardStorePersistence, AStoredPositionIsLimitedFromAboveOnly)
 {
-    struct Case {
-        const char* stored;
-        const char* loaded;
-    };
-    const Case cases[] = {
+    const std::pair<const char*, const char*> cases[] = {
         {"Talk*[a|b] card 1", "Talk*[a|b*]"}, {"Talk*[a|b] card 2", "Talk*[a|b*]"},
-        {"Talk*[a|b] card 9223372036854775807", "Talk*[a|b*]"}, {"Talk*[a|b] card -3", "Talk*[a|b] card -3"},
+        {"Talk*[a|b] card 9223372036854775807", "Talk*[a|b*]"},
         {"Talk*[a] card -9223372036854775808", "Talk*[a] card -9223372036854775808"},
         {"Talk*[] card 4", "Talk*[] card 0"}, {"Talk*[] card -1", "Talk*[] card -1"},
         {"Talk[a|b|c] Demo*[d|e] card 2", "Talk[a|b|c] Demo*[d|e*]"},
         {"Talk[a|b] Demo[d|e|f] card 2", "Talk*[a|b*] Demo[d|e|f]"}, // no active deck stored
     };
-    for (const auto& c : cases) {
-        open(c.stored);
-        EXPECT_EQ(describe(*store), c.loaded);
+    for (const auto& [stored, loaded] : cases) {
+        open(stored);
+        EXPECT_EQ(describe(*store), loaded);
     }
 }
 
 TEST_F(CardStorePersistence, TheActiveDeckIsTheFirstWithTheStoredIdentifierElseTheFirstOfAll)
 {
-    const auto withActiveDeck = [&](int n) {
-        auto content = stateFileOf("Talk[a|b] Demo*[c|d|e] Notes[f] card 2");
-        const auto id = FakeUuidSource::nth(200).text();
-        return content.replace(content.find(id), id.size(), FakeUuidSource::nth(n).text());
-    };
-    openWithStateFile(withActiveDeck(999));
+    const auto idOf = [](int number) { return FakeUuidSource::nth(number).text(); };
+    auto json = stateFileOf("Talk[a|b] Demo*[c|d|e] Notes[f] card 2");
+    json.replace(json.find(idOf(200)), Uuid::kTextLength, idOf(999));
+    openWithStateFile(json);
     EXPECT_EQ(describe(*store), "Talk*[a|b*] Demo[c|d|e] Notes[f]");
 
-    auto twins = withActiveDeck(100);
-    const auto last = twins.rfind(FakeUuidSource::nth(300).text());
-    openWithStateFile(twins.replace(last, Uuid::kTextLength, FakeUuidSource::nth(100).text()));
-    EXPECT_EQ(describe(*store), "Talk*[a|b*] Demo[c|d|e] Notes[f]");
+    json.replace(json.find(idOf(999)), Uuid::kTextLength, idOf(200));
+    json.replace(json.rfind(idOf(300)), Uuid::kTextLength, idOf(200)); // twins
+    openWithStateFile(json);
+    EXPECT_EQ(describe(*store), "Talk[a|b] Demo*[c|d|e*] Notes[f]");
 }
 
 TEST_F(CardStorePersistence, LoadingReplacesDecksAndPositionAndNothingElse)
@@ -119,13 +96,11 @@ TEST_F(CardStorePersistence, LoadingReplacesDecksAndPositionAndNothingElse)
     open("Talk*[a*] editing 'typed'");
     store->setFontSize(20);
     store->setOpacity(0.5);
-    surroundings.fileSystem.files[std::string(kStateFile)] = stateFileOf("Talk[a] Demo*[b|c*]");
+    stateFile() = stateFileOf("Talk[a] Demo*[b|c*]");
     (void)takeNotices();
     store->loadFromDisk();
     EXPECT_EQ(describe(*store), "Talk[a] Demo*[b|c*] editing 'typed'");
     EXPECT_EQ(takeNotices(), "decks; activeDeckIndex 0; activeCardIndex 0");
-    EXPECT_EQ(store->fontSize(), 20);
-    EXPECT_EQ(store->opacity(), 0.5);
     advance(1s);
     EXPECT_EQ(saves(), 0U);
 }
@@ -134,36 +109,19 @@ TEST_F(CardStorePersistence, TheStateFileHoldsDecksPositionAndPreferencesButNoFr
 {
     surroundings.preferences.setNumber(preferenceKeys::kFontSize, 18.5);
     surroundings.preferences.setNumber(preferenceKeys::kOpacity, 0.85);
-    openWithStateFile(R"({"windowFrame":[[100,200],[420,300]],"opacity":0.3,"fontSize":99,"activeCardIndex":-2,
-        "unknown":null,"decks":[{"id":"6b0f5c1e-3d0a-4e8b-9d55-2f7a1c9e4b21","name":"Q&A \"1/2\"",
-        "createdAt":"2026-11-16T01:21:19Z","updatedAt":"2026-11-17T01:21:19Z","cards":[{
-        "id":"0C8E6A52-9B1F-4C7D-8E2A-5D3B7F1A6C90","content":"# One\n\n- a/b → \u00e9",
-        "createdAt":"2026-11-16T01:21:20Z","updatedAt":"2026-11-16T01:21:21Z"}]}]})");
+    const auto withLooks = [](const char* looks) {
+        auto json = stateFileOf("Talk[a] Demo*[b|c|d*]");
+        return json.replace(json.find("\"fontSize\""), std::string::npos, looks);
+    };
+    openWithStateFile(withLooks("\"fontSize\":99,\"opacity\":0.3,\"windowFrame\":[[100,200],[420,300]]}"));
     EXPECT_EQ(store->fontSize(), 18.5);
     EXPECT_EQ(store->opacity(), 0.85);
     store->flushToDisk();
-    EXPECT_EQ(stateFile(), R"({
-  "activeCardIndex" : -2,
-  "activeDeckId" : "6B0F5C1E-3D0A-4E8B-9D55-2F7A1C9E4B21",
-  "decks" : [
-    {
-      "cards" : [
-        {
-          "content" : "# One\n\n- a\/b → é",
-          "createdAt" : "2026-11-16T01:21:20Z",
-          "id" : "0C8E6A52-9B1F-4C7D-8E2A-5D3B7F1A6C90",
-          "updatedAt" : "2026-11-16T01:21:21Z"
-        }
-      ],
-      "createdAt" : "2026-11-16T01:21:19Z",
-      "id" : "6B0F5C1E-3D0A-4E8B-9D55-2F7A1C9E4B21",
-      "name" : "Q&A \"1\/2\"",
-      "updatedAt" : "2026-11-17T01:21:19Z"
-    }
-  ],
-  "fontSize" : 18.5,
-  "opacity" : 0.85
-})");
+    EXPECT_EQ(stateFile(), withLooks("\"fontSize\" : 18.5,\n  \"opacity\" : 0.85\n}"));
+    store->prevCard();
+    EXPECT_EQ(stateFile().find("\"activeCardIndex\" : 1"), std::string::npos);
+    store->flushToDisk();
+    EXPECT_NE(stateFile().find("\"activeCardIndex\" : 1"), std::string::npos);
 }
 
 TEST_F(CardStorePersistence, ABurstOfChangesIsSavedOnceAQuarterOfASecondAfterTheLast)
@@ -195,40 +153,25 @@ TEST_F(CardStorePersistence, FlushToDiskWritesAtOnceAndInsteadOfThePendingSave)
     EXPECT_EQ(saves(), 2U);
 }
 
-TEST_F(CardStorePersistence, AFailedSaveIsLoggedAtOnceAndShownAfterTheEvent)
+TEST_F(CardStorePersistence, AFailedSaveIsShownAfterTheEventUntilOneSucceeds)
 {
+    const std::string failed = "Talk*[a*] error 'Not saved — check disk space'";
     open("Talk*[a*]");
-    failWrites();
+    writeError = kDiskFull;
     store->flushToDisk();
-    EXPECT_EQ(surroundings.log.lines,
-        std::vector<std::string> {"[Cuebright] ERROR: Save failed (1x): No space left on device"});
     EXPECT_EQ(takeNotices(), "");
-    EXPECT_EQ(describe(*store), "Talk*[a*]");
-    advance(1h); // no retry either
+    advance(1h);
     EXPECT_EQ(takeNotices(), "persistentError none; errorDismissed false");
-    EXPECT_EQ(describe(*store), "Talk*[a*] error 'Not saved — check disk space'");
-    EXPECT_EQ(saves(), 1U);
-}
-
-TEST_F(CardStorePersistence, ADismissedErrorComesBackWithTheNextFailure)
-{
-    open("Talk*[a*]");
-    failWrites();
-    save();
+    EXPECT_EQ(describe(*store), failed);
+    EXPECT_EQ(saves(), 1U) << "no retry";
     store->dismissError();
-    EXPECT_EQ(describe(*store), "Talk*[a*] error 'Not saved — check disk space' dismissed");
+    EXPECT_EQ(describe(*store), failed + " dismissed");
     save();
-    EXPECT_EQ(describe(*store), "Talk*[a*] error 'Not saved — check disk space'");
-}
+    EXPECT_EQ(describe(*store), failed) << "it comes back with the next failure";
 
-TEST_F(CardStorePersistence, TheNextSuccessClearsTheErrorAfterTheEventAndSaysSavedOnce)
-{
-    open("Talk*[a*]");
-    failWrites();
-    save();
     store->dismissError();
-    letWritesSucceed();
     (void)takeNotices();
+    writeError.reset();
     store->flushToDisk();
     EXPECT_EQ(takeNotices(), "");
     advance(0s);
@@ -236,25 +179,25 @@ TEST_F(CardStorePersistence, TheNextSuccessClearsTheErrorAfterTheEventAndSaysSav
         takeNotices(), "persistentError 'Not saved — check disk space'; errorDismissed true; feedbackMessage none");
     EXPECT_EQ(describe(*store), "Talk*[a*] feedback 'Saved'");
     save();
-    EXPECT_EQ(takeNotices(), "");
+    EXPECT_EQ(takeNotices(), "") << "said once";
 }
 
-TEST_F(CardStorePersistence, FailuresAreCountedInARow)
+TEST_F(CardStorePersistence, FailuresAreLoggedAtOnceAndCountedInARow)
 {
     open("Talk*[a*]");
-    failWrites();
-    save();
-    save();
-    letWritesSucceed();
+    writeError = kDiskFull;
+    store->flushToDisk();
+    store->flushToDisk();
+    const std::string start = "[Cuebright] ERROR: Save failed (";
+    const std::vector<std::string> expected {start + "1x): " + kDiskFull, start + "2x): " + kDiskFull};
+    EXPECT_EQ(surroundings.log.lines, expected);
+    writeError.reset();
     save();
     surroundings.clock.wallClock = std::chrono::sys_days(std::chrono::year(10000) / 1 / 1);
     store->renameDeck("x"); // a date that the format cannot hold
     save();
-    const auto& lines = surroundings.log.lines;
-    ASSERT_EQ(lines.size(), 3U);
-    EXPECT_EQ(lines[0], "[Cuebright] ERROR: Save failed (1x): No space left on device");
-    EXPECT_EQ(lines[1], "[Cuebright] ERROR: Save failed (2x): No space left on device");
-    EXPECT_TRUE(lines[2].starts_with("[Cuebright] ERROR: Save failed (1x): ")) << lines[2];
+    ASSERT_EQ(surroundings.log.lines.size(), 3U);
+    EXPECT_TRUE(surroundings.log.lines[2].starts_with(start + "1x): ")) << surroundings.log.lines[2];
     EXPECT_EQ(saves(), 3U);
 }
 
@@ -264,7 +207,7 @@ TEST_F(CardStorePersistence, WorkThatWaitsForAStoreThatHasGoneDoesNothing)
     store->moveCardUp();
     store->switchToDeck(1);
     store->showFeedback("Hello");
-    failWrites();
+    writeError = kDiskFull;
     store->flushToDisk(); // its result waits too
     store->renameDeck("x");
     store.reset();
@@ -274,21 +217,23 @@ TEST_F(CardStorePersistence, WorkThatWaitsForAStoreThatHasGoneDoesNothing)
     EXPECT_EQ(surroundings.log.lines.size(), 1U);
 }
 
-TEST_F(CardStorePersistence, ResetStartsAgainFromTheSampleDecksForGood)
+TEST_F(CardStorePersistence, ResetStartsAgainFromTheSampleDecksForGoodAndLeavesAnOpenEdit)
 {
-    open("Talk[a] Demo*[b|c*] editing 'typed'");
+    open("Talk[a] Demo*[b|c*]");
     store->setTheme("dark");
     store->setFontSize(20);
     store->setOpacity(0.5);
     store->renameDeck("x");
     store->createNewDeck("Notes");
     undoManager->undo();
+    store->beginEditing();
     advance(3s);
     const auto writes = saves();
     (void)takeNotices();
     store->resetAllData();
-    EXPECT_EQ(store->deckName(), "Getting Started");
-    EXPECT_EQ(store->positionLabel(), "CARD 01 / 05");
+    EXPECT_EQ(store->deckName() + ": " + store->positionLabel(), "Getting Started: CARD 01 / 05");
+    EXPECT_TRUE(store->isEditing());
+    EXPECT_EQ(store->editText(), "b");
     EXPECT_EQ(takeNotices(), "decks; activeDeckIndex 1; activeCardIndex 0; theme 'dark'; fontSize 20; opacity 0.5");
     EXPECT_EQ(surroundings.appearance.choices.back(), Appearance::Choice::FollowSystem);
     EXPECT_EQ(describe(*undoManager), "undo '' redo ''");
@@ -300,34 +245,17 @@ TEST_F(CardStorePersistence, ResetStartsAgainFromTheSampleDecksForGood)
     EXPECT_NE(deck(0).id, first);
 }
 
-TEST_F(CardStorePersistence, ResetLeavesAnOpenEditAsItIs)
-{
-    open("Talk*[a*] editing 'typed'");
-    store->resetAllData();
-    EXPECT_TRUE(store->isEditing());
-    EXPECT_EQ(store->editText(), "typed");
-}
-
 TEST_F(CardStorePersistence, ResetKeepsWordCountAndSpeakingPace)
 {
-    auto& preferences = surroundings.preferences;
-    preferences.setText(preferenceKeys::kTheme, "dark");
-    preferences.setNumber(preferenceKeys::kFontSize, 20);
-    preferences.setNumber(preferenceKeys::kOpacity, 0.5);
-    preferences.setBoolean(preferenceKeys::kWordCount, true);
-    preferences.setInteger(preferenceKeys::kSpeakingPace, 100);
-    preferences.setNumbers(preferenceKeys::kWindowFrame, {{"x", 1}});
-    preferences.setBoolean(preferenceKeys::kOnboardingDone, true);
+    auto& values = surroundings.preferences.values;
+    values = {{"cuebrightTheme", "dark"}, {"cuebrightFontSize", 20.0}, {"cuebrightOpacity", 0.5},
+        {"cuebrightWordCount", true}, {"cuebrightSpeakingPace", std::int64_t {100}},
+        {"cuebrightWindowFrame", Preferences::Numbers {{"x", 1}}}, {"cuebrightOnboardingDone", true}};
     open("Talk*[a*]");
     store->resetAllData();
-    const decltype(preferences.values) expected {
-        {"cuebrightTheme", "system"},
-        {"cuebrightFontSize", 17.0},
-        {"cuebrightOpacity", 1.0},
-        {"cuebrightWordCount", true},
-        {"cuebrightSpeakingPace", std::int64_t {100}},
-    };
-    EXPECT_EQ(preferences.values, expected);
+    const FakePreferences::Values expected {{"cuebrightTheme", "system"}, {"cuebrightFontSize", 17.0},
+        {"cuebrightOpacity", 1.0}, {"cuebrightWordCount", true}, {"cuebrightSpeakingPace", std::int64_t {100}}};
+    EXPECT_EQ(values, expected);
     EXPECT_TRUE(store->showWordCount());
     EXPECT_EQ(store->speakingPace(), 100);
 }

@@ -7,8 +7,7 @@ namespace cuebright::test {
 
 namespace {
 
-using Values = std::map<std::string, FakePreferences::Value, std::less<>>;
-using Choice = Appearance::Choice;
+using Values = FakePreferences::Values;
 
 class CardStorePreferences : public CardStoreFixture {
 protected:
@@ -26,50 +25,36 @@ protected:
 
 TEST_F(CardStorePreferences, StartUpTakesStoredValuesAsTheyAre)
 {
-    struct Case {
-        const char* name;
-        Values stored;
-        std::tuple<std::string, double, double, bool, std::int64_t> expected;
-    };
-    const Case cases[] = {
-        {"nothing", {}, {"system", 17, 1, false, 130}},
-        {"ordinary",
-            {{"cuebrightTheme", "dark"}, {"cuebrightFontSize", 20.0}, {"cuebrightOpacity", 0.5},
-                {"cuebrightWordCount", true}, {"cuebrightSpeakingPace", std::int64_t {100}}},
+    const std::pair<Values, std::tuple<std::string, double, double, bool, std::int64_t>> cases[] = {
+        {{}, {"system", 17, 1, false, 130}},
+        {{{"cuebrightTheme", "dark"}, {"cuebrightFontSize", 20.0}, {"cuebrightOpacity", 0.5},
+             {"cuebrightWordCount", true}, {"cuebrightSpeakingPace", std::int64_t {100}}},
             {"dark", 20, 0.5, true, 100}},
-        {"above the ranges",
-            {{"cuebrightTheme", "Pink"}, {"cuebrightFontSize", 400.0}, {"cuebrightOpacity", 3.0},
-                {"cuebrightSpeakingPace", std::int64_t {9999}}},
+        {{{"cuebrightTheme", "Pink"}, {"cuebrightFontSize", 400.0}, {"cuebrightOpacity", 3.0},
+             {"cuebrightSpeakingPace", std::int64_t {9999}}},
             {"Pink", 400, 3, false, 9999}},
-        {"below the ranges",
-            {{"cuebrightFontSize", 0.5}, {"cuebrightOpacity", 0.01}, {"cuebrightSpeakingPace", std::int64_t {1}}},
+        {{{"cuebrightFontSize", 0.5}, {"cuebrightOpacity", 0.01}, {"cuebrightSpeakingPace", std::int64_t {1}}},
             {"system", 0.5, 0.01, false, 1}},
-        {"not above zero",
-            {{"cuebrightFontSize", 0.0}, {"cuebrightOpacity", -0.5}, {"cuebrightSpeakingPace", std::int64_t {0}}},
+        {{{"cuebrightFontSize", 0.0}, {"cuebrightOpacity", -0.5}, {"cuebrightSpeakingPace", std::int64_t {0}}},
             {"system", 17, 1, false, 130}},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.name);
-        openWith(c.stored);
-        EXPECT_EQ(all(), c.expected);
+    for (const auto& [stored, expected] : cases) {
+        openWith(stored);
+        EXPECT_EQ(all(), expected);
         EXPECT_TRUE(surroundings.preferences.writes.empty());
     }
 }
 
 TEST_F(CardStorePreferences, TheThemeChoosesTheLookOfTheApplicationNowAndAtTheNextStart)
 {
-    const std::pair<const char*, Choice> cases[] = {
-        {"system", Choice::FollowSystem},
-        {"light", Choice::Light},
-        {"dark", Choice::Dark},
-        {"Dark", Choice::FollowSystem},
-        {"", Choice::FollowSystem},
-    };
+    using enum Appearance::Choice;
+    const std::pair<const char*, Appearance::Choice> cases[] = {
+        {"system", FollowSystem}, {"light", Light}, {"dark", Dark}, {"Dark", FollowSystem}, {"", FollowSystem}};
     for (const auto& [theme, choice] : cases) {
         SCOPED_TRACE(theme);
         openWith({});
         store->setTheme(theme);
-        EXPECT_EQ(surroundings.appearance.choices, (std::vector {Choice::FollowSystem, choice}));
+        EXPECT_EQ(surroundings.appearance.choices, (std::vector {FollowSystem, choice}));
         EXPECT_EQ(surroundings.preferences.values, (Values {{"cuebrightTheme", theme}}));
         openWith(surroundings.preferences.values);
         EXPECT_EQ(surroundings.appearance.choices, std::vector {choice});
@@ -78,16 +63,16 @@ TEST_F(CardStorePreferences, TheThemeChoosesTheLookOfTheApplicationNowAndAtTheNe
 
 TEST_F(CardStorePreferences, SettersTellThenLimitAndStoreAtOnce)
 {
-    struct Case {
-        StoreOperation change;
-        const char* notice;
-        Values stored;
-    };
     const auto fontSize = [](double value) { return [value](CardStore& s) { s.setFontSize(value); }; };
     const auto opacity = [](double value) { return [value](CardStore& s) { s.setOpacity(value); }; };
     const auto pace = [](std::int64_t value) { return [value](CardStore& s) { s.setSpeakingPace(value); }; };
     const auto paceOf = [](std::int64_t value) { return Values {{"cuebrightSpeakingPace", value}}; };
-    const Case cases[] = {
+    const auto toggleTwice = [](CardStore& s) { (s.toggleWordCount(), s.toggleWordCount()); };
+    const struct {
+        StoreOperation change;
+        const char* notice;
+        Values stored;
+    } cases[] = {
         {fontSize(20.5), "fontSize 17", {{"cuebrightFontSize", 20.5}}},
         {fontSize(40), "fontSize 17", {{"cuebrightFontSize", 28.0}}},
         {fontSize(-1), "fontSize 17", {{"cuebrightFontSize", 14.0}}},
@@ -102,13 +87,14 @@ TEST_F(CardStorePreferences, SettersTellThenLimitAndStoreAtOnce)
         {pace(50), "speakingPace 130", paceOf(80)},
         {pace(300), "speakingPace 130", paceOf(250)},
         {&CardStore::toggleWordCount, "showWordCount false", {{"cuebrightWordCount", true}}},
+        {toggleTwice, "showWordCount false", {{"cuebrightWordCount", false}}},
         {[](CardStore& s) { s.setTheme("Pink"); }, "theme 'system'", {{"cuebrightTheme", "Pink"}}},
     };
     for (const auto& c : cases) {
         openWith({});
         std::optional<std::size_t> writesWhenTold;
         const auto subscription = store->willChange.subscribe(
-            [&](const Change&) { writesWhenTold = surroundings.preferences.writes.size(); });
+            [&](const Change&) { writesWhenTold = writesWhenTold.value_or(surroundings.preferences.writes.size()); });
         c.change(*store);
         EXPECT_EQ(takeNotices(), c.notice);
         EXPECT_EQ(writesWhenTold, 0U);
@@ -123,19 +109,16 @@ TEST_F(CardStorePreferences, SettersTellThenLimitAndStoreAtOnce)
 
 TEST_F(CardStorePreferences, StepsOfTheTextSizeEndAtTheLimits)
 {
-    struct Case {
-        double stored;
-        double increased;
-        double decreased;
-    };
-    for (const auto& c : {Case {28, 28, 27}, {27.5, 28, 26.5}, {14, 15, 14}, {400, 28, 28}, {2, 14, 14}}) {
-        SCOPED_TRACE(c.stored);
-        openWith({{"cuebrightFontSize", c.stored}});
+    const std::tuple<double, double, double> cases[] = {
+        {28, 28, 27}, {27.5, 28, 26.5}, {14, 15, 14}, {400, 28, 28}, {2, 14, 14}};
+    for (const auto& [stored, increased, decreased] : cases) {
+        SCOPED_TRACE(stored);
+        openWith({{"cuebrightFontSize", stored}});
         store->increaseFontSize();
-        EXPECT_EQ(store->fontSize(), c.increased);
-        openWith({{"cuebrightFontSize", c.stored}});
+        EXPECT_EQ(store->fontSize(), increased);
+        openWith({{"cuebrightFontSize", stored}});
         store->decreaseFontSize();
-        EXPECT_EQ(store->fontSize(), c.decreased);
+        EXPECT_EQ(store->fontSize(), decreased);
         store->resetFontSize();
         EXPECT_EQ(store->fontSize(), 17);
     }
@@ -156,67 +139,32 @@ TEST_F(CardStorePreferences, StepsOfTheOpacityAreNotRoundedAndEndAtTheLimits)
     }
 }
 
-TEST_F(CardStorePreferences, TheWordCountFlagGoesBackAndForth)
-{
-    openWith({});
-    store->toggleWordCount();
-    store->toggleWordCount();
-    EXPECT_FALSE(store->showWordCount());
-    EXPECT_EQ(surroundings.preferences.values, (Values {{"cuebrightWordCount", false}}));
-}
-
-TEST_F(CardStorePreferences, WordsAreWhatStandsBetweenWhiteSpace)
-{
-    const std::pair<const char*, std::int64_t> cases[] = {
-        {"", 0}, {" \n\t ", 0}, {"# Opening\n- three quick points", 6}, {"1. **very bold** `x`", 4},
-        {"a\nb\vc\fd\re\r\nf\u0085g\u2028h\u2029i", 9}, {"a\u00a0b\u2003c\u3000d", 4},
-        {"a\u200bb", 1}, // zero width space is no white space
-        {"\u0105\u00e0\u4f60", 1}, // with bytes that are white space elsewhere
-    };
-    for (const auto& [content, words] : cases) {
-        open("Talk*[" + std::string(content) + "*]");
-        EXPECT_EQ(store->wordCount(), words) << content;
-    }
-}
-
-TEST_F(CardStorePreferences, TheReadingTimeIsRoundedUpToWholeMinutes)
-{
-    struct Case {
-        int words;
-        std::int64_t pace;
-        const char* readingTime;
-    };
-    constexpr auto kHighest = std::numeric_limits<std::int64_t>::max();
-    const Case cases[] = {
-        {0, 130, "~1 min"},
-        {130, 130, "~1 min"},
-        {131, 130, "~2 min"},
-        {261, 130, "~3 min"},
-        {7, 1, "~7 min"},
-        {0, kHighest, "~1 min"},
-        {5, kHighest, "~1 min"},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(std::to_string(c.words) + " words at " + std::to_string(c.pace));
-        surroundings.preferences.setInteger(preferenceKeys::kSpeakingPace, c.pace);
-        std::string content;
-        for (int i = 0; i < c.words; ++i)
-            content += "x ";
-        open("Talk*[" + content + "*]");
-        EXPECT_EQ(store->readingTime(), c.readingTime);
-    }
-}
-
-TEST_F(CardStorePreferences, CountsFollowTheOpenEditElseTheActiveCard)
+TEST_F(CardStorePreferences, WordsAreCountedInTheOpenEditElseInTheActiveCard)
 {
     const std::pair<const char*, std::int64_t> cases[] = {
         {"Talk*[one*|one two] editing 'one two three'", 3},
-        {"Talk*[one|one two*]", 2},
+        {"Talk*[one|# one\n- **two** `three`*]", 5},
         {"Talk*[one two] card -1", 0},
     };
     for (const auto& [description, words] : cases) {
         open(description);
         EXPECT_EQ(store->wordCount(), words) << description;
+    }
+}
+
+TEST_F(CardStorePreferences, TheReadingTimeIsRoundedUpToWholeMinutes)
+{
+    constexpr auto kHighest = std::numeric_limits<std::int64_t>::max();
+    const std::tuple<int, std::int64_t, const char*> cases[] = {{0, 130, "~1 min"}, {130, 130, "~1 min"},
+        {131, 130, "~2 min"}, {261, 130, "~3 min"}, {7, 1, "~7 min"}, {0, kHighest, "~1 min"}, {5, kHighest, "~1 min"}};
+    for (const auto& [words, pace, readingTime] : cases) {
+        SCOPED_TRACE(std::to_string(words) + " words at " + std::to_string(pace));
+        surroundings.preferences.setInteger(preferenceKeys::kSpeakingPace, pace);
+        std::string content;
+        for (int i = 0; i < words; ++i)
+            content += "x ";
+        open("Talk*[" + content + "*]");
+        EXPECT_EQ(store->readingTime(), readingTime);
     }
 }
 

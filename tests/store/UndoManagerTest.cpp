@@ -7,7 +7,8 @@ namespace cuebright::test {
 namespace {
 
 /// Something to undo: each step registers its opposite, as the store's operations do.
-struct Counter {
+class UndoManagerTest : public testing::Test {
+protected:
     void step(int by, const std::string& name)
     {
         value += by;
@@ -19,106 +20,84 @@ struct Counter {
         return std::to_string(value) + " undo '" + undoManager.undoActionName() + "' redo '"
             + undoManager.redoActionName() + "'";
     }
+    /// That is so, and the menus were told.
+    void expectTold(const std::string& expected)
+    {
+        EXPECT_EQ(state(), expected);
+        EXPECT_EQ(told, expected);
+    }
 
     int value = 0;
     UndoManager undoManager;
+    std::string told;
+    Subscription subscription = undoManager.changed.subscribe([this] { told = state(); });
 };
 
-TEST(UndoManager, StartsWithNothingToDo)
+TEST_F(UndoManagerTest, WithNothingToDoNothingHappens)
 {
-    UndoManager undoManager;
-    EXPECT_FALSE(undoManager.canUndo());
-    EXPECT_FALSE(undoManager.canRedo());
     undoManager.undo();
     undoManager.redo();
     undoManager.setActionName("Nothing");
-    EXPECT_EQ(undoManager.undoActionName(), "");
-    EXPECT_EQ(undoManager.redoActionName(), "");
+    EXPECT_EQ(state(), "0 undo '' redo ''");
+    EXPECT_FALSE(undoManager.canUndo());
+    EXPECT_FALSE(undoManager.canRedo());
 }
 
-TEST(UndoManager, UndoesFromTheLatestBackAndRedoesForward)
+TEST_F(UndoManagerTest, UndoesFromTheLatestBackAndRedoesForward)
 {
-    Counter counter;
-    counter.step(1, "One");
-    counter.step(10, "Ten");
-    EXPECT_EQ(counter.state(), "11 undo 'Ten' redo ''");
-    counter.undoManager.undo();
-    EXPECT_EQ(counter.state(), "1 undo 'One' redo 'Ten'");
-    counter.undoManager.undo();
-    EXPECT_EQ(counter.state(), "0 undo '' redo 'One'");
-    counter.undoManager.redo();
-    EXPECT_EQ(counter.state(), "1 undo 'One' redo 'Ten'");
-    counter.undoManager.redo();
-    EXPECT_EQ(counter.state(), "11 undo 'Ten' redo ''");
+    step(1, "One");
+    step(10, "Ten");
+    expectTold("11 undo 'Ten' redo ''");
+    undoManager.undo();
+    expectTold("1 undo 'One' redo 'Ten'");
+    undoManager.undo();
+    expectTold("0 undo '' redo 'One'");
+    undoManager.redo();
+    expectTold("1 undo 'One' redo 'Ten'");
+    undoManager.redo();
+    expectTold("11 undo 'Ten' redo ''");
 }
 
-TEST(UndoManager, ANewActionEmptiesTheRedoStack)
+TEST_F(UndoManagerTest, ANewActionEmptiesTheRedoStack)
 {
-    Counter counter;
-    counter.step(1, "One");
-    counter.undoManager.undo();
-    counter.step(5, "Five");
-    EXPECT_EQ(counter.state(), "5 undo 'Five' redo ''");
-    EXPECT_FALSE(counter.undoManager.canRedo());
+    step(1, "One");
+    undoManager.undo();
+    step(5, "Five");
+    expectTold("5 undo 'Five' redo ''");
+    EXPECT_FALSE(undoManager.canRedo());
 }
 
-TEST(UndoManager, OppositesKeepTheNameOfWhatIsBeingPerformed)
+TEST_F(UndoManagerTest, OppositesKeepTheNameOfWhatIsBeingPerformed)
 {
-    UndoManager undoManager;
-    undoManager.registerUndo([&] {
-        undoManager.registerUndo([&] {
-            undoManager.registerUndo([] {});
-            undoManager.setActionName("Up");
-        });
-        undoManager.setActionName("Down");
-    });
+    undoManager.registerUndo([this] { step(1, "Down"); });
     undoManager.setActionName("Up");
     undoManager.undo();
-    EXPECT_EQ(undoManager.redoActionName(), "Up");
+    expectTold("1 undo '' redo 'Up'");
     undoManager.redo();
-    EXPECT_EQ(undoManager.undoActionName(), "Up");
+    expectTold("0 undo 'Up' redo ''");
 }
 
-TEST(UndoManager, AnActionWithoutAnOppositeIsUsedUp)
+TEST_F(UndoManagerTest, AnActionWithoutAnOppositeIsUsedUp)
 {
-    Counter counter;
-    counter.undoManager.registerUndo([&] { ++counter.value; });
-    counter.undoManager.setActionName("Rename");
-    std::string told;
-    const auto subscription = counter.undoManager.changed.subscribe([&] { told = counter.state(); });
-    counter.undoManager.undo();
-    EXPECT_EQ(told, "1 undo '' redo ''");
-    counter.undoManager.undo();
-    counter.undoManager.redo();
-    EXPECT_EQ(counter.value, 1);
+    undoManager.registerUndo([this] { ++value; });
+    undoManager.setActionName("Rename");
+    undoManager.undo();
+    expectTold("1 undo '' redo ''");
+    undoManager.undo();
+    undoManager.redo();
+    EXPECT_EQ(value, 1);
 }
 
-TEST(UndoManager, RemoveAllActionsEmptiesBothStacks)
+TEST_F(UndoManagerTest, RemoveAllActionsEmptiesBothStacks)
 {
-    Counter counter;
-    counter.step(1, "One");
-    counter.step(10, "Ten");
-    counter.undoManager.undo();
-    counter.undoManager.removeAllActions();
-    EXPECT_EQ(counter.state(), "1 undo '' redo ''");
-    counter.undoManager.undo();
-    counter.undoManager.redo();
-    EXPECT_EQ(counter.value, 1);
-}
-
-TEST(UndoManager, EveryChangeOfTheMenuTextsIsTold)
-{
-    Counter counter;
-    std::string told;
-    const auto subscription = counter.undoManager.changed.subscribe([&] { told = counter.state(); });
-    counter.step(1, "One");
-    EXPECT_EQ(told, "1 undo 'One' redo ''");
-    counter.undoManager.undo();
-    EXPECT_EQ(told, "0 undo '' redo 'One'");
-    counter.undoManager.redo();
-    EXPECT_EQ(told, "1 undo 'One' redo ''");
-    counter.undoManager.removeAllActions();
-    EXPECT_EQ(told, "1 undo '' redo ''");
+    step(1, "One");
+    step(10, "Ten");
+    undoManager.undo();
+    undoManager.removeAllActions();
+    expectTold("1 undo '' redo ''");
+    undoManager.undo();
+    undoManager.redo();
+    EXPECT_EQ(value, 1);
 }
 
 } // namespace

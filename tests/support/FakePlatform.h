@@ -27,16 +27,11 @@ namespace cuebright::test {
 /// Time that stands still until a test moves it (through `FakeMainQueue::advance`).
 class FakeClock final : public Clock {
 public:
-    Instant now() override
-    {
-        ++reads;
-        return std::exchange(wallClock, wallClock + stepPerRead);
-    }
+    Instant now() override { return std::exchange(wallClock, wallClock + stepPerRead); }
     Seconds uptime() override { return up; }
 
     Instant wallClock = Instant(std::chrono::sys_days(std::chrono::year(2026) / 11 / 16)) + std::chrono::hours(9);
     Seconds up {1000};
-    int reads = 0;
     std::chrono::microseconds stepPerRead {}; ///< tells one reading of the date from the next
 };
 
@@ -111,6 +106,7 @@ public:
 class FakePreferences final : public Preferences {
 public:
     using Value = std::variant<bool, std::int64_t, double, std::string, Numbers>;
+    using Values = std::map<std::string, Value, std::less<>>;
 
     std::optional<bool> boolean(std::string_view key) override { return find<bool>(key); }
     std::optional<std::int64_t> integer(std::string_view key) override { return find<std::int64_t>(key); }
@@ -122,13 +118,9 @@ public:
     void setNumber(std::string_view key, double value) override { store(key, value); }
     void setText(std::string_view key, std::string_view value) override { store(key, std::string(value)); }
     void setNumbers(std::string_view key, const Numbers& named) override { store(key, named); }
-    void remove(std::string_view key) override
-    {
-        if (const auto it = values.find(key); it != values.end())
-            values.erase(it);
-    }
+    void remove(std::string_view key) override { values.erase(std::string(key)); }
 
-    std::map<std::string, Value, std::less<>> values;
+    Values values;
     std::vector<std::string> writes; ///< the key of each write
 
 private:
@@ -194,7 +186,6 @@ public:
     }
 
     bool isTaken = false;
-    bool isGranted = true;
     std::vector<HotKey> keys; ///< that were asked for
     std::function<void()> press; ///< null without a registration
 
@@ -206,7 +197,7 @@ private:
         {
         }
         ~Registration() override { m_owner.press = nullptr; }
-        bool isSystemWide() const override { return m_owner.isGranted; }
+        bool isSystemWide() const override { return true; }
 
     private:
         FakeHotKeys& m_owner;

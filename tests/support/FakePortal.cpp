@@ -25,16 +25,11 @@ const QString kRegistry = QStringLiteral("org.freedesktop.host.portal.Registry")
 const QString kSession = QStringLiteral("org.freedesktop.portal.Session");
 const QString kRequest = QStringLiteral("org.freedesktop.portal.Request");
 
-/// What the portal answers with an error.
-class Refusal final : public std::runtime_error {
-public:
-    using std::runtime_error::runtime_error;
-};
-
+/// What throws is answered with an error.
 void require(bool condition, const char* complaint)
 {
     if (!condition)
-        throw Refusal(complaint);
+        throw std::runtime_error(complaint);
 }
 
 QString checkedToken(const QVariantMap& options, const QString& name)
@@ -56,8 +51,6 @@ QVariantMap mapAt(const QDBusMessage& message, int index)
 {
     return qdbus_cast<QVariantMap>(message.arguments().value(index));
 }
-
-QVariant inVariant(const QVariant& value) { return QVariant::fromValue(QDBusVariant(value)); }
 
 } // namespace
 
@@ -81,7 +74,7 @@ void FakePortal::changeSetting(const QString& group, const QString& key, const Q
 {
     settings[group][key] = value;
     auto signal = QDBusMessage::createSignal(kPath, kSettings, QStringLiteral("SettingChanged"));
-    m_bus.send(signal << group << key << inVariant(value));
+    m_bus.send(signal << group << key << QVariant::fromValue(QDBusVariant(value)));
 }
 
 bool FakePortal::activate(const QString& id)
@@ -119,7 +112,7 @@ bool FakePortal::handleMessage(const QDBusMessage& message, const QDBusConnectio
         const auto answer = answerTo(message);
         if (!isSilent && message.isReplyRequired())
             m_bus.send(message.createReply(answer));
-    } catch (const Refusal& refusal) {
+    } catch (const std::runtime_error& refusal) {
         m_bus.send(message.createErrorReply(
             QStringLiteral("org.freedesktop.portal.Error.InvalidArgument"), QString::fromUtf8(refusal.what())));
     }
@@ -132,13 +125,6 @@ QVariantList FakePortal::answerTo(const QDBusMessage& message)
     const auto first = message.arguments().value(0);
     if (method == QLatin1String("ReadAll"))
         return readAll(first.toStringList());
-    if (method == QLatin1String("Read") || method == QLatin1String("ReadOne")) {
-        const auto key = message.arguments().value(1).toString();
-        note(method + QLatin1Char(' ') + first.toString() + QLatin1Char(' ') + key);
-        const auto value = settings.value(first.toString()).value(key);
-        require(value.isValid(), "requested setting not found");
-        return {method == QLatin1String("Read") ? inVariant(inVariant(value)) : inVariant(value)};
-    }
     if (method == QLatin1String("Register")) {
         note(method + QLatin1Char(' ') + first.toString());
         return {};

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "support/EventLoop.h"
+
+#include <gtest/gtest.h>
+
+#include <future>
+
+namespace cuebright::test {
+
+/// What `claim` returns in a thread of its own, as in a process of its own, while the event loop of this one runs.
+template <typename Claim> auto furtherLaunch(Claim claim)
+{
+    auto outcome = std::async(std::launch::async, claim);
+    EXPECT_TRUE(waitUntil([&] { return outcome.wait_for(std::chrono::seconds(0)) == std::future_status::ready; }));
+    return outcome.get();
+}
+
+} // namespace cuebright::test
