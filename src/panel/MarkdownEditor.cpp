@@ -139,6 +139,12 @@ void MarkdownEditor::showEvent(QShowEvent* event)
         m_manager->setTextView(this);
 }
 
+void MarkdownEditor::focusOutEvent(QFocusEvent* event)
+{
+    QPlainTextEdit::focusOutEvent(event);
+    refresh(); // what has changed in the store meanwhile may be shown now
+}
+
 void MarkdownEditor::hideEvent(QHideEvent* event)
 {
     QPlainTextEdit::hideEvent(event);

@@ -95,6 +95,7 @@ TEST_F(MarkdownEditorTest, TheKeyboardCanLeave)
 
 TEST_F(MarkdownEditorTest, ChangesFromOutsideShowOnceTheFocusIsElsewhere)
 {
+    activate(window);
     setCards({"a long text"});
     store.beginEditing();
     inside.open();
@@ -105,7 +106,6 @@ TEST_F(MarkdownEditorTest, ChangesFromOutsideShowOnceTheFocusIsElsewhere)
     inside.refresh();
     EXPECT_EQ(inside.text(), u"a long text"_s);
     other.setFocus();
-    inside.refresh();
     EXPECT_EQ(inside.text(), u"short\r"_s);
     EXPECT_EQ(inside.selectedRange(), (TextRange {0, 6}));
 }
