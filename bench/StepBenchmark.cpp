@@ -35,7 +35,7 @@ struct Bench : PanelContent {
             deck.cards.push_back({services.uuids.makeUuid(), card(lines), now, now});
         const std::vector<Deck> decks {deck};
         const auto json = std::get<std::string>(encodeState({decks, deck.id, 0, 1, 17}));
-        if (services.fileSystem.writeFileAtomically(store.stateUrl(), json, FileSystem::Readers::Owner))
+        if (services.fileSystem.writeFileAtomically(store.stateURL(), json, FileSystem::Readers::Owner))
             std::abort();
         store.loadFromDisk();
         view.show();

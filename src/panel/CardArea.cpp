@@ -48,7 +48,7 @@ CardArea::Key CardArea::currentKey() const
 {
     const auto& store = m_context.store;
     const auto card = store.activeCard();
-    return {store.deckTransitionId(), store.activeDeckIndex(), store.activeCardIndex(),
+    return {store.deckTransitionID(), store.activeDeckIndex(), store.activeCardIndex(),
         card ? std::optional(card->id) : std::nullopt};
 }
 

@@ -38,7 +38,7 @@ bool changesTheCard(Change::Property property)
     case Change::Property::Decks:
     case Change::Property::ActiveDeckIndex:
     case Change::Property::ActiveCardIndex:
-    case Change::Property::DeckTransitionId:
+    case Change::Property::DeckTransitionID:
     case Change::Property::FontSize:
         return true;
     default:

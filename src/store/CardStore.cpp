@@ -6,7 +6,7 @@ namespace cuebright {
 
 CardStore::CardStore(const Platform& platform)
     : m_platform(platform)
-    , m_deckTransitionId(platform.uuids.makeUuid())
+    , m_deckTransitionID(platform.uuids.makeUuid())
 {
     openAppSupportDir();
     readPreferences();

@@ -50,7 +50,7 @@ public:
     [[nodiscard]] std::string positionLabel() const; ///< "CARD 01 / 05"
     [[nodiscard]] std::string footerLabel() const; ///< "1 OF 5"
     [[nodiscard]] NavigationDirection navigationDirection() const { return m_navigationDirection; }
-    [[nodiscard]] const Uuid& deckTransitionId() const { return m_deckTransitionId; } ///< fresh after each deck switch
+    [[nodiscard]] const Uuid& deckTransitionID() const { return m_deckTransitionID; } ///< fresh after each deck switch
     [[nodiscard]] bool isDeckSwitch() const { return m_isDeckSwitch; } ///< true for 0.16 s after a deck switch
     /// Moves to the following card; stays on the last one and while an edit is open. Saves nothing.
     void nextCard();
@@ -126,7 +126,7 @@ public:
     /// Hides the error until the next save fails.
     void dismissError();
     [[nodiscard]] const std::filesystem::path& appSupportDir() const { return m_appSupportDir; }
-    [[nodiscard]] std::filesystem::path stateUrl() const;
+    [[nodiscard]] std::filesystem::path stateURL() const;
 
     /// Sent before each value is stored; read the store later, not inside the notice.
     Signal<const Change&> willChange;
@@ -170,7 +170,7 @@ private:
     std::string m_editText;
     std::string m_originalEditText;
     NavigationDirection m_navigationDirection = NavigationDirection::Forward;
-    Uuid m_deckTransitionId;
+    Uuid m_deckTransitionID;
     bool m_isDeckSwitch = false;
     bool m_showWordCount = false;
     std::int64_t m_speakingPace = 0;

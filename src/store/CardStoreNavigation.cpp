@@ -90,7 +90,7 @@ void CardStore::switchToDeck(std::int64_t index)
     set(m_isDeckSwitch, true, Property::IsDeckSwitch);
     {
         const AnimatedTransaction transaction(*this, kDeckSwitch);
-        set(m_deckTransitionId, m_platform.uuids.makeUuid(), Property::DeckTransitionId);
+        set(m_deckTransitionID, m_platform.uuids.makeUuid(), Property::DeckTransitionID);
     }
     m_platform.mainQueue.after(
         kDeckSwitchFlagTime, m_weakTarget.guard([this] { set(m_isDeckSwitch, false, Property::IsDeckSwitch); }));

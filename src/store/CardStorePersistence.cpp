@@ -26,14 +26,14 @@ void CardStore::openAppSupportDir()
     m_platform.fileSystem.createDirectories(m_appSupportDir); // a failure shows when saving
 }
 
-std::filesystem::path CardStore::stateUrl() const { return m_appSupportDir / "state.json"; }
+std::filesystem::path CardStore::stateURL() const { return m_appSupportDir / "state.json"; }
 
 void CardStore::loadFromDisk()
 {
     auto& fileSystem = m_platform.fileSystem;
     std::optional<AppState> state;
-    if (fileSystem.exists(stateUrl())) {
-        if (const auto json = fileSystem.readFile(stateUrl(), kDecodePadding))
+    if (fileSystem.exists(stateURL())) {
+        if (const auto json = fileSystem.readFile(stateURL(), kDecodePadding))
             state = decodeState(*json);
     }
     if (!state || state->decks.empty())
@@ -78,7 +78,7 @@ void CardStore::writeToDisk()
     }
     m_platform.fileSystem.createDirectories(m_appSupportDir); // somebody may have removed it meanwhile
     m_writeBuffer = std::get<std::string>(std::move(encoded));
-    const auto error = m_platform.fileSystem.writeFileAtomically(stateUrl(), m_writeBuffer, FileSystem::Readers::Owner);
+    const auto error = m_platform.fileSystem.writeFileAtomically(stateURL(), m_writeBuffer, FileSystem::Readers::Owner);
     if (error)
         reportSaveFailure(error->description);
     else
@@ -112,7 +112,7 @@ void CardStore::dismissError() { set(m_errorDismissed, true, Property::ErrorDism
 
 void CardStore::resetAllData()
 {
-    m_platform.fileSystem.removeFile(stateUrl());
+    m_platform.fileSystem.removeFile(stateURL());
     for (const auto key : {preferenceKeys::kTheme, preferenceKeys::kFontSize, preferenceKeys::kOpacity,
              preferenceKeys::kWindowFrame, preferenceKeys::kOnboardingDone})
         m_platform.preferences.remove(key);

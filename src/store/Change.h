@@ -25,7 +25,7 @@ struct Change {
         IsEditing,
         EditText,
         NavigationDirection,
-        DeckTransitionId,
+        DeckTransitionID,
         ShowWordCount,
         SpeakingPace,
         IsDeckSwitch,

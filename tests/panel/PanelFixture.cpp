@@ -29,7 +29,7 @@ void PanelFixture::setCards(const std::vector<std::string>& contents, std::int64
         deck.cards.push_back({fake.uuids.makeUuid(), content, fake.clock.now(), fake.clock.now()});
     const std::vector<Deck> decks {deck};
     const auto json = encodeState({decks, deck.id, activeCard, 1, 17});
-    fake.fileSystem.files[store.stateUrl().string()] = std::get<std::string>(json);
+    fake.fileSystem.files[store.stateURL().string()] = std::get<std::string>(json);
     store.loadFromDisk();
     refresh();
 }

@@ -64,7 +64,7 @@ TEST_F(CardStoreDecks, NamesLoseSpacesAndTabsAtBothEnds)
 TEST_F(CardStoreDecks, CreateNewDeckGivesOneDateAndKeepsThatOfAnOpenEdit)
 {
     open("Talk*[a*] editing 'typed'");
-    const auto transition = store->deckTransitionId();
+    const auto transition = store->deckTransitionID();
     surroundings.clock.stepPerRead = 1s;
     const auto now = surroundings.clock.wallClock;
     createNotes(*store);
@@ -73,7 +73,7 @@ TEST_F(CardStoreDecks, CreateNewDeckGivesOneDateAndKeepsThatOfAnOpenEdit)
     EXPECT_NE(deck(1).id, card(0).id);
     EXPECT_EQ(deck(0).updatedAt, kWritten);
     EXPECT_EQ(deck(0).cards[0].updatedAt, kWritten);
-    EXPECT_EQ(store->deckTransitionId(), transition);
+    EXPECT_EQ(store->deckTransitionID(), transition);
 }
 
 TEST_F(CardStoreDecks, NewAndDeletedDecksAlternateBetweenUndoAndRedo)

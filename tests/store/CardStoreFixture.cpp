@@ -75,7 +75,7 @@ std::string named(Change::Property property, const CardStore& store)
         "editText " + inQuotes(store.editText()),
         store.navigationDirection() == NavigationDirection::Forward ? "navigationDirection forward"
                                                                     : "navigationDirection backward",
-        "deckTransitionId",
+        "deckTransitionID",
         std::string("showWordCount ") + flag(store.showWordCount()),
         "speakingPace " + std::to_string(store.speakingPace()),
         std::string("isDeckSwitch ") + flag(store.isDeckSwitch()),
@@ -195,12 +195,12 @@ void CardStoreFixture::expectNothing(const std::vector<std::pair<std::string, St
     for (const auto& [before, operation] : cases) {
         SCOPED_TRACE(before);
         open(before);
-        const auto transition = store->deckTransitionId();
+        const auto transition = store->deckTransitionID();
         operation(*store);
         advance(1s);
         EXPECT_EQ(describe(*store), before);
         EXPECT_EQ(takeNotices(), "");
-        EXPECT_EQ(store->deckTransitionId(), transition);
+        EXPECT_EQ(store->deckTransitionID(), transition);
         EXPECT_EQ(describe(*undoManager), "undo '' redo ''");
         EXPECT_EQ(saves(), 0U);
         store->flushToDisk();

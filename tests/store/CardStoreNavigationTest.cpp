@@ -25,14 +25,14 @@ TEST_F(CardStoreNavigation, MovesTellTheirEffectsInOrder)
         {"Talk*[a|b] card -2", &CardStore::nextCard, "Talk*[a|b] card -1", slide + "-2 ease-in-out 0.18", 0},
         {"Talk*[a|b] card -1", &CardStore::nextCard, "Talk*[a*|b]", slide + "-1 ease-in-out 0.18", 0},
         {"Talk*[a|b*] Demo[c|d]", switchTo(1), "Talk[a|b] Demo*[c*|d]",
-            "activeCardIndex 1; activeDeckIndex 0; isDeckSwitch false; deckTransitionId ease-in-out 0.14", 1},
+            "activeCardIndex 1; activeDeckIndex 0; isDeckSwitch false; deckTransitionID ease-in-out 0.14", 1},
         {"Talk*[a|b*] Demo[c] editing 'typed '", switchTo(1), "Talk[a|typed ] Demo*[c*]",
             "decks; isEditing true; activeCardIndex 1; activeDeckIndex 0; isDeckSwitch false; "
-            "deckTransitionId ease-in-out 0.14",
+            "deckTransitionID ease-in-out 0.14",
             1},
         {"Talk*[a] Demo[c] card -1 editing 'typed'", switchTo(1), "Talk[a] Demo*[c*]",
             "isEditing true; activeCardIndex -1; activeDeckIndex 0; isDeckSwitch false; "
-            "deckTransitionId ease-in-out 0.14",
+            "deckTransitionID ease-in-out 0.14",
             1},
     });
 }
@@ -70,11 +70,11 @@ TEST_F(CardStoreNavigation, TheDirectionIsThatOfTheLastCardMove)
 TEST_F(CardStoreNavigation, SwitchToDeckKeepsAnEditWithoutTouchingDates)
 {
     open("Talk*[a|b*] Demo[c] editing 'typed'");
-    const auto transition = store->deckTransitionId();
+    const auto transition = store->deckTransitionID();
     store->switchToDeck(1);
     EXPECT_EQ(deck(0).cards[1].updatedAt, kWritten);
     EXPECT_EQ(deck(0).updatedAt, kWritten);
-    EXPECT_NE(store->deckTransitionId(), transition);
+    EXPECT_NE(store->deckTransitionID(), transition);
 }
 
 TEST_F(CardStoreNavigation, LabelsShowThePositionCountedFromOne)

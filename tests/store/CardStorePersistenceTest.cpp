@@ -22,7 +22,7 @@ TEST_F(CardStorePersistence, TheStateFileLiesInAFolderOfItsOwnThatIsMadeAtOnce)
 {
     surroundings.fileSystem.createsNoDirectories = true; // shows only when saving
     openWithStateFile(std::nullopt);
-    EXPECT_EQ(store->stateUrl(), "/support/Cuebright/state.json");
+    EXPECT_EQ(store->stateURL(), "/support/Cuebright/state.json");
     EXPECT_EQ(surroundings.fileSystem.createdDirectories, std::vector<std::string> {"/support/Cuebright"});
     EXPECT_TRUE(surroundings.log.lines.empty());
     EXPECT_EQ(store->persistentError(), std::nullopt);
