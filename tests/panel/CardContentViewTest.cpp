@@ -101,6 +101,43 @@ TEST_F(CardContentViewTest, LinksAreReachedByTabAndReadWithTheirBlock)
     EXPECT_TRUE(block->child(1)->state().disabled) << "a link that does nothing says so";
 }
 
+TEST_F(CardContentViewTest, TabComesToEverythingInTheOrderInWhichItIsRead)
+{
+    activate(view);
+    const auto names = [&] {
+        QStringList found;
+        const auto first = QApplication::focusWidget();
+        do {
+            found << QApplication::focusWidget()->accessibleName();
+            const bool isEditor = qobject_cast<QPlainTextEdit*>(QApplication::focusWidget());
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab, isEditor ? Qt::ControlModifier : Qt::NoModifier);
+        } while (QApplication::focusWidget() != first && found.size() < 30);
+        return found.join(u", "_s).toStdString();
+    };
+    view.takeFocus();
+    EXPECT_EQ(names(), "Card content, Start timer, Timer: 00:00, Edit card, Next card, Active deck: Getting Started");
+    store.beginEditing();
+    refresh();
+    EXPECT_EQ(names(),
+        "Card text, Start timer, Timer: 00:00, Cancel editing, Save card, Active deck: Getting Started, Bold (⌘B), "
+        "Italic (⌘I), Heading, Bullet list, Numbered list, Inline code, Link, Blockquote");
+}
+
+TEST_F(CardContentViewTest, AButtonThatCanDoNothingMoreGivesTheKeyboardToTheCard)
+{
+    activate(view);
+    store.nextCard();
+    refresh();
+    const auto previous = find(view, "Previous card");
+    previous->setFocus();
+    for (int press = 0; press < 3; ++press) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+        refresh();
+    }
+    EXPECT_EQ(store.activeCardIndex(), 0);
+    EXPECT_TRUE(area.hasFocus());
+}
+
 TEST_F(CardContentViewTest, WithoutACardThereIsNothingAndNothingBreaks)
 {
     setCards({});
