@@ -1,4 +1,5 @@
-// Start of a program until its window is mapped and until it has painted, against an empty Qt window, in turns.
+// Start of a program until its window is mapped and until it has painted, against an empty Qt window and one that draws
+// the same texts, in turns.
 // Needs an X display without a window manager: xvfb-run build/bench/startup_benchmark [RUNS]
 #include "support/Median.h"
 
@@ -165,11 +166,12 @@ int main(int argc, char* argv[])
 {
     const int runCount = argc > 1 ? std::atoi(argv[1]) : 11;
     const std::string folder = std::string(argv[0]).substr(0, std::string(argv[0]).rfind('/'));
-    const std::string programs[] = {folder + "/empty_qt_window", folder + "/cuebright"};
-    std::vector<Run> runs[2];
+    const std::string programs[] = {
+        folder + "/empty_qt_window", folder + "/qt_window_with_text", folder + "/cuebright"};
+    std::vector<Run> runs[3];
     const Display keepsServerAlive; // it starts afresh when its last client leaves
     for (int i = 0; i <= runCount; ++i) {
-        for (int p = 0; p < 2; ++p) {
+        for (int p = 0; p < 3; ++p) {
             const auto run = start(programs[p]);
             if (!run) {
                 std::fprintf(stderr, "%s shows no window\n", programs[p].c_str());
@@ -180,11 +182,12 @@ int main(int argc, char* argv[])
         }
     }
     const auto print = [&](const char* what, auto field) {
-        const double reference = medianOf(runs[0], field);
-        const double ours = medianOf(runs[1], field);
-        std::printf("%-22s %10.1f %10.1f %8.2f\n", what, reference, ours, ours / reference);
+        const double empty = medianOf(runs[0], field);
+        const double text = medianOf(runs[1], field);
+        const double ours = medianOf(runs[2], field);
+        std::printf("%-22s %10.1f %10.1f %10.1f %8.2f %8.2f\n", what, empty, text, ours, ours / empty, ours / text);
     };
-    std::printf("%-22s %10s %10s %8s\n", "median", "empty", "cuebright", "ratio");
+    std::printf("%-22s %10s %10s %10s %8s %8s\n", "median", "empty", "with text", "cuebright", "/ empty", "/ text");
     print("mapped, ms", [](const Run& run) { return run.mapped.count(); });
     print("first paint, ms", [](const Run& run) { return run.painted.count(); });
     print("colours in that frame", [](const Run& run) { return static_cast<double>(run.colours); });
