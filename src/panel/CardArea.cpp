@@ -1,17 +1,12 @@
 #include "panel/CardArea.h"
 
-#include "foundation/NotificationCenter.h"
 #include "markdown/CardParser.h"
 #include "panel/CardAccessible.h"
-#include "panel/LinkOpener.h"
 #include "panel/SlimScrollBar.h"
 #include "platform/MainQueue.h"
 #include "store/CardStore.h"
 #include "theme/QtColors.h"
 
-#include <QContextMenuEvent>
-#include <QKeyEvent>
-#include <QMenu>
 #include <QPainter>
 #include <QScrollBar>
 
@@ -197,123 +192,6 @@ void CardArea::scrollContentsBy(int, int)
 {
     updateScrollRange();
     viewport()->update();
-}
-
-void CardArea::keyPressEvent(QKeyEvent* event)
-{
-    const auto bar = verticalScrollBar();
-    switch (event->key()) {
-    case Qt::Key_Up:
-        return bar->triggerAction(QAbstractSlider::SliderSingleStepSub);
-    case Qt::Key_Down:
-        return bar->triggerAction(QAbstractSlider::SliderSingleStepAdd);
-    case Qt::Key_Home:
-        return bar->triggerAction(QAbstractSlider::SliderToMinimum);
-    case Qt::Key_End:
-        if (m_layout)
-            m_layout->layOutThrough(m_layout->blocks().size() - 1);
-        updateScrollRange();
-        return bar->triggerAction(QAbstractSlider::SliderToMaximum);
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-    case Qt::Key_Space:
-        if (m_layout && m_focusedLink)
-            return openLink(m_layout->links()[*m_focusedLink].target);
-        break;
-    default:
-        break;
-    }
-    event->ignore(); // Page Up and Page Down are for the whole panel
-}
-
-/// Tab goes through the card's links before it leaves the card.
-bool CardArea::focusNextPrevChild(bool next)
-{
-    const auto count = m_layout ? m_layout->links().size() : 0;
-    std::optional<std::size_t> following;
-    if (next)
-        following = m_focusedLink ? *m_focusedLink + 1 : 0;
-    else if (m_focusedLink && *m_focusedLink > 0)
-        following = *m_focusedLink - 1;
-    m_focusedLink = following && *following < count ? following : std::nullopt;
-    viewport()->update();
-    if (!m_focusedLink)
-        return QAbstractScrollArea::focusNextPrevChild(next);
-    const auto rect = m_layout->links()[*m_focusedLink].rect;
-    const auto bar = verticalScrollBar();
-    bar->setValue(std::clamp(bar->value(), static_cast<int>(std::ceil(rect.bottom())) - viewport()->height(),
-        std::max(static_cast<int>(rect.top()), static_cast<int>(std::ceil(rect.bottom())) - viewport()->height())));
-    CardAccessible::focusMoved(*this);
-    return true;
-}
-
-void CardArea::focusInEvent(QFocusEvent* event)
-{
-    QAbstractScrollArea::focusInEvent(event);
-    m_isReachedByTab = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
-    viewport()->update();
-}
-
-void CardArea::focusOutEvent(QFocusEvent* event)
-{
-    m_focusedLink.reset();
-    m_isReachedByTab = false;
-    QAbstractScrollArea::focusOutEvent(event);
-    viewport()->update();
-}
-
-std::optional<std::string> CardArea::linkAt(const QPoint& position) const
-{
-    if (!m_layout || m_transition.isRunning())
-        return std::nullopt;
-    const auto place = QPointF(position) + QPointF(0, verticalScrollBar()->value());
-    for (const auto& link : m_layout->links()) {
-        if (link.rect.contains(place))
-            return link.target;
-    }
-    return std::nullopt;
-}
-
-void CardArea::mousePressEvent(QMouseEvent* event)
-{
-    m_pressedLink = event->button() == Qt::LeftButton ? linkAt(event->pos()) : std::nullopt;
-    event->setAccepted(m_pressedLink.has_value());
-}
-
-void CardArea::mouseMoveEvent(QMouseEvent* event)
-{
-    const auto link = linkAt(event->pos());
-    viewport()->setCursor(link && isOpenableLink(*link) ? Qt::PointingHandCursor : Qt::ArrowCursor);
-    event->setAccepted(m_pressedLink.has_value()); // otherwise the panel may be on its way
-}
-
-void CardArea::mouseReleaseEvent(QMouseEvent* event)
-{
-    const auto pressed = std::exchange(m_pressedLink, std::nullopt);
-    event->setAccepted(pressed.has_value());
-    if (pressed && pressed == linkAt(event->pos()))
-        openLink(*pressed);
-}
-
-void CardArea::mouseDoubleClickEvent(QMouseEvent* event)
-{
-    if (event->button() == Qt::LeftButton && !linkAt(event->pos()))
-        m_context.store.beginEditing();
-}
-
-void CardArea::contextMenuEvent(QContextMenuEvent* event)
-{
-    auto& store = m_context.store;
-    const auto menu = new QMenu(this);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    menu->addAction(QStringLiteral("Edit Card"), this, [&store] { store.beginEditing(); });
-    menu->addAction(QStringLiteral("New Card"), this, [&store] { store.addCard(); });
-    menu->addSeparator();
-    const auto remove = menu->addAction(
-        QStringLiteral("Delete Card"), this, [this] { m_context.notifications.post(kDeleteCardNotification); });
-    remove->setEnabled(store.cardCount() >= 2);
-    menu->popup(
-        event->reason() == QContextMenuEvent::Mouse ? event->globalPos() : viewport()->mapToGlobal(QPoint(0, 0)));
 }
 
 } // namespace cuebright
