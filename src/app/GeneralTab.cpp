@@ -4,6 +4,7 @@
 #include "app/ShortcutReference.h"
 #include "app/ShortcutRow.h"
 #include "app/SymbolIcon.h"
+#include "panel/FocusRing.h"
 #include "panel/PanelLabel.h"
 #include "theme/Fonts.h"
 #include "theme/QtColors.h"
@@ -28,6 +29,7 @@ GeneralTab::GeneralTab(const PanelContext& context, std::function<void()> reset,
     , m_reset(std::move(reset))
 {
     setFocusPolicy(Qt::StrongFocus); // most of it is text, which only scrolling brings into view
+    new FocusRing(context, this, FocusRing::When::ReachedByTab);
     addShortcuts();
     addReset();
 }

@@ -2,6 +2,7 @@
 
 #include "markdown/CardParser.h"
 #include "panel/CardAccessible.h"
+#include "panel/FocusRing.h"
 #include "panel/SlimScrollBar.h"
 #include "platform/MainQueue.h"
 #include "store/CardStore.h"
@@ -37,6 +38,7 @@ CardArea::CardArea(const PanelContext& context, QWidget* parent)
     viewport()->setMouseTracking(true);
     verticalScrollBar()->setSingleStep(kLineStep);
     makeSlim(*verticalScrollBar());
+    new FocusRing(context, this, FocusRing::When::ReachedByTab);
 }
 
 CardArea::Key CardArea::currentKey() const
@@ -157,16 +159,14 @@ std::optional<CardLayout::Link> CardArea::focusedLink() const
     return *m_focusedLink < links.size() ? std::optional(links[*m_focusedLink]) : std::nullopt;
 }
 
-/// The link that has the keyboard, or the whole card where Tab has led to it.
 void CardArea::drawFocus(QPainter& painter)
 {
     const auto link = focusedLink();
-    if (!link && !m_isReachedByTab)
+    if (!link)
         return;
     painter.setPen(QPen(toQColor(m_context.colors().accent()), kFocusWidth));
     painter.setBrush(Qt::NoBrush);
-    const auto card = QRectF(viewport()->rect()).translated(0, verticalScrollBar()->value());
-    painter.drawRoundedRect(link ? link->rect.adjusted(-2, 0, 2, 0) : card.adjusted(1, 1, -1, -1), 3, 3);
+    painter.drawRoundedRect(link->rect.adjusted(-2, 0, 2, 0), 3, 3);
 }
 
 QPixmap CardArea::pictureOfFrame()

@@ -47,7 +47,6 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     bool focusNextPrevChild(bool next) override;
-    void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
 
@@ -78,7 +77,6 @@ private:
     CardTransition m_transition;
     std::optional<std::size_t> m_focusedLink; ///< among the layout's links
     std::optional<std::string> m_pressedLink;
-    bool m_isReachedByTab = false;
     bool m_isSized = false; ///< before it is, laying out would be for nothing
     bool m_goesOnLayingOut = false;
     WeakTarget m_weakTarget;

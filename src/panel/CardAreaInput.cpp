@@ -64,17 +64,9 @@ bool CardArea::focusNextPrevChild(bool next)
     return true;
 }
 
-void CardArea::focusInEvent(QFocusEvent* event)
-{
-    QAbstractScrollArea::focusInEvent(event);
-    m_isReachedByTab = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
-    viewport()->update();
-}
-
 void CardArea::focusOutEvent(QFocusEvent* event)
 {
     m_focusedLink.reset();
-    m_isReachedByTab = false;
     QAbstractScrollArea::focusOutEvent(event);
     viewport()->update();
 }

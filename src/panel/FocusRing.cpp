@@ -2,7 +2,7 @@
 
 #include "theme/QtColors.h"
 
-#include <QEvent>
+#include <QFocusEvent>
 #include <QPainter>
 
 namespace cuebright {
@@ -15,20 +15,27 @@ constexpr double kCornerRadius = 5;
 
 } // namespace
 
-FocusRing::FocusRing(const PanelContext& context, QWidget* target)
+FocusRing::FocusRing(const PanelContext& context, QWidget* target, When when)
     : QFocusFrame(target)
     , m_context(context)
     , m_target(target)
+    , m_when(when)
 {
     hide();
     target->installEventFilter(this);
     target->parentWidget()->installEventFilter(this);
 }
 
-bool FocusRing::eventFilter(QObject*, QEvent* event)
+bool FocusRing::eventFilter(QObject* watched, QEvent* event)
 {
     switch (event->type()) {
-    case QEvent::FocusIn:
+    case QEvent::FocusIn: {
+        const auto reason = static_cast<QFocusEvent*>(event)->reason();
+        if (watched == m_target)
+            m_isReachedByTab = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason;
+        place();
+        break;
+    }
     case QEvent::FocusOut:
     case QEvent::Move:
     case QEvent::Resize:
@@ -45,7 +52,8 @@ bool FocusRing::eventFilter(QObject*, QEvent* event)
 void FocusRing::place()
 {
     const auto canvas = m_target->parentWidget()->parentWidget();
-    if (!canvas || !m_target->hasFocus() || !m_target->isVisible())
+    const bool isWanted = m_when == When::Focused || m_isReachedByTab;
+    if (!canvas || !isWanted || !m_target->hasFocus() || !m_target->isVisible())
         return hide();
     if (parentWidget() != canvas)
         setParent(canvas);

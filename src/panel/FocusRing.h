@@ -12,7 +12,10 @@ namespace cuebright {
 /// Only the base's standing with screen readers is used, which pass over it.
 class FocusRing final : public QFocusFrame {
 public:
-    FocusRing(const PanelContext& context, QWidget* target);
+    /// Something large needs no ring as long as nobody goes through the window by Tab.
+    enum class When { Focused, ReachedByTab };
+
+    FocusRing(const PanelContext& context, QWidget* target, When when = When::Focused);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -23,6 +26,8 @@ private:
 
     const PanelContext& m_context;
     QWidget* m_target;
+    When m_when;
+    bool m_isReachedByTab = false;
 };
 
 } // namespace cuebright
