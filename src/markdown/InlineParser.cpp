@@ -11,7 +11,7 @@ namespace cuebright {
 
 namespace {
 
-constexpr std::size_t kLongestText = 16 * 1024;
+constexpr std::size_t kLongestText = 16'384;
 constexpr std::ptrdiff_t kMostBrackets = 2000;
 
 /// A word before and after the text keeps it a paragraph of one line whatever it holds; the blanks beside them look to
