@@ -46,6 +46,7 @@ public:
 
     /// Null before launching has finished.
     [[nodiscard]] QWidget* panelWindow() const;
+    [[nodiscard]] CardStore& store() { return m_store; }
 
     // Commands (AppDelegateCommands.cpp)
     void perform(Command command);
