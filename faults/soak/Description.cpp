@@ -133,7 +133,7 @@ QString describe(Program& program, const Model& model)
     describeDecks(out, store.decks());
     out << "active" << qint64(store.activeDeckIndex()) << qint64(store.activeCardIndex()) << "editing"
         << store.isEditing() << toQString(store.editText()) << "\ntransition"
-        << toQString(store.deckTransitionId().text()) << (store.navigationDirection() == NavigationDirection::Forward)
+        << toQString(store.deckTransitionID().text()) << (store.navigationDirection() == NavigationDirection::Forward)
         << store.isDeckSwitch() << "\nfeedback" << toQString(store.feedbackMessage().value_or("none")) << "error"
         << toQString(store.persistentError().value_or("none")) << store.errorDismissed() << "\ndisplay"
         << toQString(store.theme()) << store.fontSize() << store.opacity() << store.showWordCount() << "\nundo"

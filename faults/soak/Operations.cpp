@@ -163,7 +163,7 @@ void loadFile(Soak& soak)
             state.decks.back().cards.clear();
         if (random.oneIn(16))
             state.decks.clear();
-        program.fake.fileSystem.files[program.store().stateUrl().string()] = std::get<std::string>(
+        program.fake.fileSystem.files[program.store().stateURL().string()] = std::get<std::string>(
             encodeState({state.decks, state.activeDeckId, state.activeCardIndex, state.opacity, state.fontSize}));
         detail = "changed";
     }
