@@ -19,6 +19,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <cassert>
 #include <utility>
 
 namespace cuebright {
@@ -153,18 +154,19 @@ void CardContentView::refresh()
 {
     m_header->refresh();
     m_footer->refresh();
-    if (m_context.store.isEditing() && !m_editor)
+    const bool isEditing = m_context.store.isEditing();
+    if (isEditing && !m_editor)
         makeEditView();
     if (m_editor)
         m_editor->refresh();
-    if (m_context.store.isEditing() && std::exchange(m_editBegins, false))
+    if (isEditing && std::exchange(m_editBegins, false))
         m_editor->open();
     const auto content = std::exchange(m_cardContent, CardArea::Content::Same);
     const auto cardAnimation = std::exchange(m_cardAnimation, std::nullopt);
     const auto editAnimation = std::exchange(m_editAnimation, std::nullopt);
-    const bool staysWithTheCard = !m_showsEditor && !m_context.store.isEditing();
+    const bool staysWithTheCard = !m_showsEditor && !isEditing;
     m_cardArea->refresh(content, staysWithTheCard ? cardAnimation : std::nullopt);
-    showEditor(m_context.store.isEditing(), editAnimation);
+    showEditor(isEditing, editAnimation);
     update();
 }
 
@@ -172,6 +174,7 @@ void CardContentView::showEditor(bool isEditing, const std::optional<Animation>&
 {
     if (isEditing == m_showsEditor)
         return;
+    assert(m_editView); // made before the first edit is shown
     const auto leaving = m_showsEditor ? m_editView : static_cast<QWidget*>(m_cardArea);
     const auto arriving = m_showsEditor ? static_cast<QWidget*>(m_cardArea) : m_editView;
     if (animation && isVisible())

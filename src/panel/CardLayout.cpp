@@ -105,7 +105,7 @@ void CardLayout::layOutPiece()
     const auto font = m_isEmptyCard ? italic(systemFont(m_fontSize)) : blockFont(block.kind, m_fontSize);
     piece.text = makeText(m_open.text.mid(start, end - start), font);
     QList<QTextLayout::FormatRange> formats;
-    for (auto format : m_open.formats) {
+    for (const auto& format : m_open.formats) {
         const int from = std::max(format.start, start);
         const int to = std::min(format.start + format.length, end);
         if (from < to)

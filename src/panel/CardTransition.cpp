@@ -21,7 +21,7 @@ void scaleAboutCentre(QPainter& painter, const QRectF& area, double scale)
 
 } // namespace
 
-CardTransition::CardTransition(std::function<void()> repaint)
+CardTransition::CardTransition(const std::function<void()>& repaint)
 {
     m_progress.setStartValue(0.0);
     m_progress.setEndValue(1.0);

@@ -20,7 +20,7 @@ public:
     enum class Kind { SlideForward, SlideBackward, SwitchDeck };
 
     /// `repaint` is called for each frame.
-    explicit CardTransition(std::function<void()> repaint);
+    explicit CardTransition(const std::function<void()>& repaint);
 
     [[nodiscard]] static Kind kindFor(bool isDeckSwitch, NavigationDirection direction);
 

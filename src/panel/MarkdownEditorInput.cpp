@@ -33,7 +33,7 @@ QString typedText(const QKeyEvent& event)
     const auto modifiers = event.modifiers() & ~Qt::KeyboardModifiers(Qt::KeypadModifier);
     if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter)
         return modifiers == Qt::NoModifier || modifiers == Qt::ShiftModifier ? QStringLiteral("\n") : QString();
-    const auto text = event.text();
+    auto text = event.text();
     if (text.isEmpty())
         return {};
     const QChar first = text[0];

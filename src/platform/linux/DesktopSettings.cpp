@@ -55,10 +55,10 @@ bool DesktopSettings::increaseContrast() const
 
 std::optional<bool> DesktopSettings::isDark() const
 {
-    const auto scheme = number(m_values.value(QStringLiteral("org.freedesktop.appearance color-scheme")));
-    if (scheme != 1 && scheme != 2)
-        return std::nullopt;
-    return scheme == 1;
+    const auto scheme = number(m_values.value(QStringLiteral("org.freedesktop.appearance color-scheme"))).value_or(0);
+    if (scheme == 1)
+        return true;
+    return scheme == 2 ? std::optional(false) : std::nullopt;
 }
 
 } // namespace cuebright
