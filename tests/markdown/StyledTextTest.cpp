@@ -41,7 +41,8 @@ TEST_P(StyledText, EachMarkerGivesItsLooksAndTheyAddUp)
         EXPECT_EQ(renderInline(text, 17.5, m_colors), expected) << text;
 }
 
-INSTANTIATE_TEST_SUITE_P(Looks, StyledText, testing::Bool(), [](const auto& look) { return look.param ? "Dark" : "Light"; });
+INSTANTIATE_TEST_SUITE_P(
+    Looks, StyledText, testing::Bool(), [](const auto& look) { return look.param ? "Dark" : "Light"; });
 
 } // namespace
 } // namespace cuebright::test
