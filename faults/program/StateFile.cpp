@@ -48,7 +48,7 @@ TEST(StateFile, OfAnyKindLetsTheProgramStartAndEnd)
                 Home::write(file, "{}");
                 fs::permissions(file, fs::perms::none);
             },
-            AsItWas},
+            Good},
     };
     for (const auto& place : places) {
         SCOPED_TRACE(place.name);
