@@ -92,8 +92,10 @@ bool EditCommands::perform(Command command)
     const auto* const slot = textSlot(command);
     if (!slot)
         return false;
-    if (const auto text = focusedText())
-        return QMetaObject::invokeMethod(text, slot);
+    if (const auto text = focusedText()) {
+        QMetaObject::invokeMethod(text, slot);
+        return true;
+    }
     if (const auto label = qobject_cast<QLabel*>(QApplication::focusWidget()))
         performOn(*label, command);
     if (doesStackRest())
