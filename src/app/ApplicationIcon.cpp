@@ -1,30 +1,20 @@
 #include "app/ApplicationIcon.h"
 
-#include <QIconEngine>
-#include <QPainter>
-#include <QPixmap>
+#include "app/DrawnIcon.h"
+
 #include <QSvgRenderer>
 
 namespace cuebright {
 
 namespace {
 
-/// Drawn here, so that it needs none of Qt's image plug-ins, which some systems install separately; and each time
-/// anew, because whoever asks keeps a copy.
-class BuiltInIcon final : public QIconEngine {
+/// Drawn here, so that it needs none of Qt's image plug-ins, which some systems install separately. Whoever
+/// asks keeps a copy.
+class BuiltInIcon final : public DrawnIcon {
 public:
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode, QIcon::State) override
     {
         QSvgRenderer(QStringLiteral(":/icons/app.cuebright.Cuebright.svg")).render(painter, rect);
-    }
-
-    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
-    {
-        QPixmap drawn(size);
-        drawn.fill(Qt::transparent);
-        QPainter painter(&drawn);
-        paint(&painter, drawn.rect(), mode, state);
-        return drawn;
     }
 
     [[nodiscard]] QIconEngine* clone() const override { return new BuiltInIcon; }

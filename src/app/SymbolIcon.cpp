@@ -1,17 +1,17 @@
 #include "app/SymbolIcon.h"
 
+#include "app/DrawnIcon.h"
+
 #include <QGuiApplication>
-#include <QIconEngine>
 #include <QPainter>
 #include <QPalette>
-#include <QPixmap>
 
 namespace cuebright {
 
 namespace {
 
-/// Draws anew each time, so that the colour follows the look.
-class SymbolIconEngine final : public QIconEngine {
+/// Its colour follows the look.
+class SymbolIconEngine final : public DrawnIcon {
 public:
     explicit SymbolIconEngine(Icon icon)
         : m_icon(icon)
@@ -22,15 +22,6 @@ public:
     {
         const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
         drawIcon(*painter, m_icon, rect, QGuiApplication::palette().color(group, QPalette::ButtonText));
-    }
-
-    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
-    {
-        QPixmap pixmap(size);
-        pixmap.fill(Qt::transparent);
-        QPainter painter(&pixmap);
-        paint(&painter, pixmap.rect(), mode, state);
-        return pixmap;
     }
 
     [[nodiscard]] QIconEngine* clone() const override { return new SymbolIconEngine(*this); }
