@@ -125,7 +125,7 @@ OnboardingOverlay::OnboardingOverlay(const PanelContext& context, QWidget* paren
     : QWidget(parent)
     , m_context(context)
     , m_dots(new Dots(*this))
-    , m_advance(new ChromeButton(context, ChromeButton::Kind::Title, QStringLiteral("NEXT"), this))
+    , m_advance(new ChromeButton(context, QStringLiteral("NEXT"), this))
 {
     setAccessibleName(QStringLiteral("Introduction"));
     connect(m_advance, &QAbstractButton::clicked, this, &OnboardingOverlay::advance);

@@ -15,25 +15,43 @@ namespace {
 
 constexpr int kHeight = 28;
 constexpr int kFrameWidth = 30;
-constexpr int kSymbolSize = 13;
 constexpr int kTitlePadding = 10;
+constexpr int kTitleSize = 10;
 constexpr double kTitleSpacing = 1;
+constexpr QChar kCommandKey(0x2318);
+constexpr double kCommandKeyWidth = kTitleSize + 2 * kTitleSpacing;
 
-QFont fontOf(ChromeButton::Kind kind)
+/// A title in two parts: whether the command key's sign comes first, and the words.
+struct Title {
+    explicit Title(const QString& text)
+        : hasCommandKey(text.startsWith(kCommandKey))
+        , words(hasCommandKey ? text.mid(1) : text)
+    {
+    }
+
+    [[nodiscard]] double width(const QFont& font) const
+    {
+        return (hasCommandKey ? kCommandKeyWidth : 0) + QFontMetricsF(font).horizontalAdvance(words);
+    }
+
+    bool hasCommandKey;
+    QString words;
+};
+
+/// As large as `side`, in the middle of `rect`, in the pen's colour.
+void drawSymbol(QPainter& painter, Icon icon, double side, const QRectF& rect)
 {
-    if (kind == ChromeButton::Kind::Arrow)
-        return systemFont(14, QFont::Medium);
-    return letterSpaced(monospacedFont(10, QFont::DemiBold), kTitleSpacing);
+    QRectF place(0, 0, side, side);
+    place.moveCenter(rect.center());
+    drawIcon(painter, icon, place, painter.pen().color());
 }
 
 } // namespace
 
-ChromeButton::ChromeButton(const PanelContext& context, Kind kind, const QString& text, QWidget* parent)
+ChromeButton::ChromeButton(const PanelContext& context, std::optional<Symbol> symbol, QWidget* parent)
     : PanelButton(context, parent)
-    , m_kind(kind)
+    , m_symbol(symbol)
 {
-    setText(text);
-    setFont(fontOf(kind));
     m_press.setDuration(CuebrightChromeStyle::kPressAnimationTime);
     m_press.setEasingCurve(easingCurve(Animation::Curve::EaseOut));
     m_press.setStartValue(0.0);
@@ -43,19 +61,25 @@ ChromeButton::ChromeButton(const PanelContext& context, Kind kind, const QString
     connect(this, &QAbstractButton::released, this, [this] { animatePress(false); });
 }
 
-ChromeButton::ChromeButton(const PanelContext& context, Icon icon, const QString& name, QWidget* parent)
-    : ChromeButton(context, Kind::Symbol, {}, parent)
+ChromeButton::ChromeButton(const PanelContext& context, const QString& text, QWidget* parent)
+    : ChromeButton(context, std::nullopt, parent)
 {
-    m_icon = icon;
+    setText(text);
+    setFont(letterSpaced(monospacedFont(kTitleSize, QFont::DemiBold), kTitleSpacing));
+}
+
+ChromeButton::ChromeButton(const PanelContext& context, Icon icon, int side, const QString& name, QWidget* parent)
+    : ChromeButton(context, Symbol {icon, side}, parent)
+{
     setToolTip(name);
     setAccessibleName(name);
 }
 
 QSize ChromeButton::sizeHint() const
 {
-    if (m_kind != Kind::Title)
+    if (m_symbol)
         return {kFrameWidth, kHeight};
-    return {static_cast<int>(std::ceil(QFontMetricsF(font()).horizontalAdvance(text()))) + 2 * kTitlePadding, kHeight};
+    return {static_cast<int>(std::ceil(Title(text()).width(font()))) + 2 * kTitlePadding, kHeight};
 }
 
 void ChromeButton::animatePress(bool isDown)
@@ -72,14 +96,24 @@ void ChromeButton::paintEvent(QPaintEvent*)
     QPainter painter(this);
     const CuebrightChromeStyle::State state {m_press.currentValue().toDouble(), isEnabled(), hasFocus()};
     CuebrightChromeStyle(m_context.colors()).draw(painter, rect(), state, [this](QPainter& labelPainter) {
-        if (m_icon) {
-            QRectF symbol(0, 0, kSymbolSize, kSymbolSize);
-            symbol.moveCenter(QRectF(rect()).center());
-            return drawIcon(labelPainter, *m_icon, symbol, labelPainter.pen().color());
-        }
-        labelPainter.setFont(font());
-        labelPainter.drawText(rect(), Qt::AlignCenter, text());
+        if (m_symbol)
+            drawSymbol(labelPainter, m_symbol->icon, m_symbol->side, rect());
+        else
+            drawTitle(labelPainter);
     });
+}
+
+void ChromeButton::drawTitle(QPainter& painter) const
+{
+    const Title title(text());
+    QRectF place(0, 0, title.width(font()), height());
+    place.moveCenter(QRectF(rect()).center());
+    if (title.hasCommandKey) {
+        drawSymbol(painter, Icon::Command, kTitleSize, {place.x(), place.y(), kTitleSize, place.height()});
+        place.setLeft(place.left() + kCommandKeyWidth);
+    }
+    painter.setFont(font());
+    painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip, title.words);
 }
 
 } // namespace cuebright

@@ -12,15 +12,11 @@ namespace cuebright {
 /// A small button of the panel, drawn in the chrome style.
 class ChromeButton final : public PanelButton {
 public:
-    enum class Kind {
-        Title, ///< words, as wide as they need
-        Arrow, ///< one character in a fixed frame
-        Symbol, ///< an icon in the same frame
-    };
-
-    ChromeButton(const PanelContext& context, Kind kind, const QString& text, QWidget* parent);
-    /// A symbol that is called `name`, on the screen and to a screen reader.
-    ChromeButton(const PanelContext& context, Icon icon, const QString& name, QWidget* parent);
+    /// As wide as the words need. A "⌘" in front of them is drawn, as few fonts have it.
+    ChromeButton(const PanelContext& context, const QString& text, QWidget* parent);
+    /// A symbol of `side` logical pixels in a frame of fixed size. It is called `name`, on the screen and to a screen
+    /// reader.
+    ChromeButton(const PanelContext& context, Icon icon, int side, const QString& name, QWidget* parent);
 
     [[nodiscard]] QSize sizeHint() const override;
 
@@ -28,10 +24,17 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void animatePress(bool isDown);
+    struct Symbol {
+        Icon icon;
+        int side;
+    };
 
-    Kind m_kind;
-    std::optional<Icon> m_icon;
+    ChromeButton(const PanelContext& context, std::optional<Symbol> symbol, QWidget* parent);
+
+    void animatePress(bool isDown);
+    void drawTitle(QPainter& painter) const;
+
+    std::optional<Symbol> m_symbol;
     QVariantAnimation m_press;
 };
 

@@ -19,6 +19,7 @@ namespace {
 
 constexpr int kHeight = 28;
 constexpr double kFontSize = 11;
+constexpr int kArrowSize = 14;
 constexpr Seconds kFadeTime {0.2};
 
 int wantedWidth(const QWidget* widget) { return widget->sizeHint().width(); }
@@ -45,11 +46,11 @@ FooterView::FooterView(const PanelContext& context, TimerManager& timer, QWidget
         item->widget->hide();
 
     auto& store = context.store;
-    m_edit = addButton(QStringLiteral("⌘E  EDIT"), "Edit card", "Press Command E to edit");
-    m_previous = addButton(QStringLiteral("←"), "Previous card", "Or press left arrow");
-    m_next = addButton(QStringLiteral("→"), "Next card", "Or press right arrow");
-    m_cancel = addButton(QStringLiteral("CANCEL"), "Cancel editing", "Discards changes");
-    m_done = addButton(QStringLiteral("DONE"), "Save card", "Saves changes");
+    m_edit = addTitle(QStringLiteral("⌘E  EDIT"), "Edit card", "Press Command E to edit");
+    m_previous = addArrow(Icon::ArrowLeft, "Previous card", "Or press left arrow");
+    m_next = addArrow(Icon::ArrowRight, "Next card", "Or press right arrow");
+    m_cancel = addTitle(QStringLiteral("CANCEL"), "Cancel editing", "Discards changes");
+    m_done = addTitle(QStringLiteral("DONE"), "Save card", "Saves changes");
     connect(m_edit, &QAbstractButton::clicked, this, [&store] { store.beginEditing(); });
     connect(m_previous, &QAbstractButton::clicked, this, [&store] { store.prevCard(); });
     connect(m_next, &QAbstractButton::clicked, this, [&store] { store.nextCard(); });
@@ -62,11 +63,17 @@ FooterView::Item FooterView::itemFor(PanelLabel* label) const
     return {label, [label](double opacity) { label->setInkOpacity(opacity); }};
 }
 
-ChromeButton* FooterView::addButton(const QString& text, const char* accessibleName, const char* hint)
+ChromeButton* FooterView::addTitle(const QString& text, const char* accessibleName, const char* hint)
 {
-    const auto kind = text.size() == 1 ? ChromeButton::Kind::Arrow : ChromeButton::Kind::Title;
-    const auto button = new ChromeButton(m_context, kind, text, this);
+    const auto button = new ChromeButton(m_context, text, this);
     button->setAccessibleName(QLatin1String(accessibleName));
+    button->setAccessibleDescription(QLatin1String(hint));
+    return button;
+}
+
+ChromeButton* FooterView::addArrow(Icon icon, const char* name, const char* hint)
+{
+    const auto button = new ChromeButton(m_context, icon, kArrowSize, QLatin1String(name), this);
     button->setAccessibleDescription(QLatin1String(hint));
     return button;
 }

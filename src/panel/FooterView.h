@@ -1,6 +1,7 @@
 #pragma once
 
 #include "panel/FooterContent.h"
+#include "panel/Icon.h"
 #include "panel/PanelContext.h"
 #include "panel/Presence.h"
 
@@ -46,7 +47,8 @@ private:
         double formerX = 0;
     };
 
-    ChromeButton* addButton(const QString& text, const char* accessibleName, const char* hint);
+    ChromeButton* addTitle(const QString& text, const char* accessibleName, const char* hint);
+    ChromeButton* addArrow(Icon icon, const char* name, const char* hint);
     [[nodiscard]] Item itemFor(PanelLabel* label) const;
     [[nodiscard]] std::vector<ChromeButton*> shownButtons() const;
     [[nodiscard]] FooterWidths wantedWidths() const;

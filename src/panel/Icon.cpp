@@ -12,9 +12,9 @@ namespace cuebright {
 
 namespace {
 
-constexpr std::array kFileNames {"blockquote-left", "type-bold", "brush", "list-ul", "collection-fill", "code-slash",
-    "gear", "hash", "eye-slash-fill", "info-circle", "type-italic", "keyboard-fill", "link-45deg", "list-ol",
-    "pause-fill", "play-fill", "exclamation-triangle", "journal-plus"};
+constexpr std::array kFileNames {"arrow-left", "arrow-right", "blockquote-left", "type-bold", "brush", "list-ul",
+    "collection-fill", "code-slash", "command", "gear", "hash", "eye-slash-fill", "info-circle", "type-italic",
+    "keyboard-fill", "link-45deg", "list-ol", "pause-fill", "play-fill", "exclamation-triangle", "journal-plus"};
 
 QString fileOf(Icon icon)
 {

@@ -9,12 +9,15 @@ namespace cuebright {
 
 /// The program's symbols, in the order of the table in the source.
 enum class Icon {
+    ArrowLeft,
+    ArrowRight,
     Blockquote,
     Bold,
     Brush,
     BulletList,
     Cards,
     Code,
+    Command,
     Gear,
     Heading,
     HiddenEye,

@@ -15,6 +15,7 @@ namespace cuebright {
 namespace {
 
 constexpr int kGap = 4;
+constexpr int kSymbolSize = 13;
 constexpr int kDividerHeight = 18;
 constexpr int kDividerPadding = 4;
 
@@ -79,7 +80,7 @@ MarkdownToolbar::MarkdownToolbar(const PanelContext& context, TextViewManager& m
     line->setContentsMargins(0, 0, 0, 0);
     line->setSpacing(kGap);
     for (const auto& row : kRows) {
-        const auto button = new ChromeButton(context, row.icon, QString::fromUtf8(row.name), this);
+        const auto button = new ChromeButton(context, row.icon, kSymbolSize, QString::fromUtf8(row.name), this);
         connect(button, &QAbstractButton::clicked, this, [&row, &manager] { perform(row, manager); });
         line->addWidget(button);
         if (row.endsGroup)
