@@ -6,7 +6,7 @@
 #include "theme/QtColors.h"
 
 #include <QApplication>
-#include <QStyle>
+#include <QProxyStyle>
 #include <QToolTip>
 #include <QWindow>
 
@@ -54,7 +54,9 @@ private:
 TEST_F(QtAppearanceTest, EveryWidgetGetsFusionStyleAndThePapersColours)
 {
     expect(false, 0);
-    EXPECT_EQ(QApplication::style()->name(), QStringLiteral("fusion"));
+    const auto style = qobject_cast<QProxyStyle*>(QApplication::style());
+    ASSERT_TRUE(style);
+    EXPECT_EQ(style->baseStyle()->name(), QStringLiteral("fusion"));
     EXPECT_EQ(QToolTip::palette().color(QPalette::ToolTipText), toQColor(Palette::textPrimary.light));
 }
 
