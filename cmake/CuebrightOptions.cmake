@@ -26,3 +26,7 @@ endif()
 add_library(cuebright_qt_options INTERFACE)
 target_compile_definitions(cuebright_qt_options INTERFACE QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_FOREACH)
 target_link_libraries(cuebright_qt_options INTERFACE cuebright_options)
+# Code around widgets waits for the toolkit: small is worth more than fast, in memory as at the start.
+if(NOT MSVC)
+    target_compile_options(cuebright_qt_options INTERFACE "$<$<CONFIG:Release>:-Os>")
+endif()
