@@ -12,7 +12,7 @@ namespace cuebright::test {
 /// An icon theme of our own, empty at first.
 class ApplicationIcon : public testing::Test {
 protected:
-    const TemporaryFolder folder {};
+    const TemporaryFolder folder;
     const QStringList searchPaths = QIcon::themeSearchPaths();
     const QString themeName = QIcon::themeName();
 

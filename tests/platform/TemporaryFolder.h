@@ -14,6 +14,7 @@ namespace cuebright::test {
 /// A folder on the real disk that goes away with its content.
 class TemporaryFolder final {
 public:
+    TemporaryFolder() { } // not defaulted: clang has no constants of such classes as members
     [[nodiscard]] std::filesystem::path path() const { return m_folder.path().toStdString(); }
     [[nodiscard]] std::filesystem::path file(std::string_view name) const { return path() / name; }
 
