@@ -66,18 +66,22 @@ void describeMenus(QDebug& out, Model& model)
     const auto item = [&](const std::string& title, bool isEnabled, bool isMarked = false) {
         out << toQString(title) << isEnabled << isMarked;
     };
+    const bool isAsked = model.sheet != Model::Sheet::None;
     const auto undo = [&](const std::string& verb, const std::vector<UndoStep>& steps) {
         const auto isStore = !model.isEditing && !isUndoOfText(model) && !steps.empty();
-        item(isStore ? verb + ' ' + nameOfNext(steps) : verb,
-            isUndoOfText(model) || (isStore && model.sheet == Model::Sheet::None));
+        item(isStore ? verb + ' ' + nameOfNext(steps) : verb, isUndoOfText(model) || (isStore && !isAsked));
     };
-    const bool canMove = model.activeCard() && !model.isEditing;
-    item("Delete Card", model.activeCard() && model.cardCount() > 1);
-    item("Delete Deck", model.decks.size() > 1);
+    const bool canMove = model.activeCard() && !model.isEditing && !isAsked;
+    item("New Card", !isAsked);
+    item("Delete Card", model.activeCard() && model.cardCount() > 1 && !isAsked);
+    item("New Deck", !isAsked);
+    item("Delete Deck", model.decks.size() > 1 && !isAsked);
+    item("Rename Deck…", !isAsked);
+    item("Export Deck…", !isAsked);
     undo("Undo", model.undoSteps);
     undo("Redo", model.redoSteps);
-    item("Save Card", model.isEditing);
-    item("Cancel Edit", model.isEditing);
+    item("Save Card", model.isEditing && !isAsked);
+    item("Cancel Edit", model.isEditing && !isAsked);
     item("System", true, model.theme == "system");
     item("Light", true, model.theme == "light");
     item("Dark", true, model.theme == "dark");
@@ -88,7 +92,7 @@ void describeMenus(QDebug& out, Model& model)
 void describeMenus(QDebug& out, Program& program, const Model& model)
 {
     static const QRegularExpression kChanging(
-        QStringLiteral("^(Delete|Save Card|Cancel Edit|System|Light|Dark|Move Card|(Undo|Redo))"));
+        QStringLiteral("^(New|Delete|Rename|Export|Save Card|Cancel Edit|System|Light|Dark|Move Card|(Undo|Redo))"));
     for (const auto action : program.panel().actions()) {
         if (const auto match = kChanging.match(action->text()); match.hasMatch()) {
             const bool isUnknown = match.hasCaptured(2) && isUndoOfText(model);

@@ -30,15 +30,20 @@ AppDelegate::~AppDelegate() = default;
 void AppDelegate::applicationDidFinishLaunching()
 {
     m_panelController = std::make_unique<PanelController>(m_context);
+    buildMainMenu();
+    m_exportCommand = std::make_unique<ExportCommand>(m_context, m_panelController->panelWindow());
+    showOnboarding();
+    m_panelController->showPanel();
+    m_deleteSubscription = m_notifications.observe(kDeleteCardNotification, [this] { deleteCard(); });
+}
+
+void AppDelegate::buildMainMenu()
+{
     auto& panel = m_panelController->panelWindow();
     m_editCommands = std::make_unique<EditCommands>(m_store, panel);
     m_mainMenu =
         std::make_unique<MainMenu>(m_context, *m_editCommands, panel, [this](Command command) { perform(command); });
     m_mainMenu->addActionsTo(panel);
-    m_exportCommand = std::make_unique<ExportCommand>(m_context, panel);
-    showOnboarding();
-    m_panelController->showPanel();
-    m_deleteSubscription = m_notifications.observe(kDeleteCardNotification, [this] { askToDeleteCard(); });
 }
 
 void AppDelegate::firstFrameIsThere()

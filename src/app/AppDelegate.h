@@ -55,10 +55,11 @@ public:
 
 private:
     void showOnboarding();
+    void buildMainMenu();
     void setupStatusItem();
 
-    void activatePanel();
-    void askToDeleteCard();
+    void showPanel();
+    void deleteCard();
     void renameDeck();
     void showAbout();
     void openSettings();

@@ -33,7 +33,7 @@ void AppDelegate::perform(Command command)
     case Command::NewCard:
         return m_store.addCard();
     case Command::DeleteCard:
-        return askToDeleteCard();
+        return deleteCard();
     case Command::NewDeck:
         return m_store.createNewDeck("New Deck");
     case Command::DeleteDeck:
@@ -63,7 +63,7 @@ void AppDelegate::perform(Command command)
     case Command::DecreaseOpacity:
         return m_store.decreaseOpacity();
     case Command::ShowPanel:
-        return activatePanel();
+        return showPanel();
     case Command::MoveCardUp:
         return m_store.moveCardUp();
     case Command::MoveCardDown:
@@ -114,19 +114,19 @@ void AppDelegate::perform(const RemoteRequest& request)
     endLaunch(*panelWindow(), request.token);
 }
 
-void AppDelegate::activatePanel()
+void AppDelegate::showPanel()
 {
     m_panelController->showPanel();
     m_panelController->panelWindow().activate();
 }
 
 /// Asks about the card on show; deletes the one that is active when "Delete" is pressed.
-void AppDelegate::askToDeleteCard()
+void AppDelegate::deleteCard()
 {
     if (!m_panelController)
         return m_store.deleteCard();
     if (!m_panelController->isPanelVisible())
-        activatePanel();
+        showPanel();
     if (m_deleteSheet)
         return m_deleteSheet->activateWindow();
     m_deleteSheet = new QMessageBox(QMessageBox::Warning, QString(), QStringLiteral("Delete this card?"),
@@ -144,7 +144,7 @@ void AppDelegate::askToDeleteCard()
 void AppDelegate::renameDeck()
 {
     if (!m_panelController->isPanelVisible())
-        activatePanel();
+        showPanel();
     m_notifications.post(kRenameDeckNotification);
 }
 

@@ -37,7 +37,7 @@ QAction::MenuRole roleOf(Command command)
 } // namespace
 
 MainMenu::MainMenu(
-    const PanelContext& context, EditCommands& edit, const NotesPanel& panel, std::function<void(Command)> perform)
+    const PanelContext& context, EditCommands& edit, NotesPanel& panel, std::function<void(Command)> perform)
     : m_context(context)
     , m_edit(edit)
     , m_panel(panel)
@@ -53,6 +53,7 @@ MainMenu::MainMenu(
     refresh();
     m_storeSubscription = context.store.willChange.subscribe([this](const Change&) { m_refresh.request(); });
     m_undoSubscription = panel.undoManager()->changed.subscribe([this] { m_refresh.request(); });
+    m_panelSubscription = panel.isBlockedChanged.subscribe([this] { m_refresh.request(); });
     edit.targetChanged = [this] { m_refresh.request(); };
 }
 
@@ -108,12 +109,13 @@ void MainMenu::addActionsTo(QWidget& window) const
 
 void MainMenu::refresh()
 {
+    const bool isWaiting = isWaitingForAnswer(m_panel);
     for (const auto& [command, action] : m_actions) {
         if (command == Command::Undo || command == Command::Redo) {
             action->setText(toActionText(m_edit.title(command)));
             action->setEnabled(m_edit.isEnabled(command));
         } else {
-            action->setEnabled(isCommandEnabled(command, m_context.store));
+            action->setEnabled(isCommandEnabled(command, m_context.store) && !(isWaiting && isCardCommand(command)));
             action->setChecked(isCommandChecked(command, m_context.store));
         }
     }

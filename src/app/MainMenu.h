@@ -28,10 +28,9 @@ struct MenuItem;
 /// A key works in every window that has the actions.
 class MainMenu final {
 public:
-    /// `perform` gets every command but those that `edit` performs, and none that changes cards while a sheet on the
-    /// panel waits for an answer. All that is passed in must outlive this.
-    MainMenu(
-        const PanelContext& context, EditCommands& edit, const NotesPanel& panel, std::function<void(Command)> perform);
+    /// `perform` gets every command but those that `edit` performs. While a sheet on the panel waits for an answer,
+    /// none that changes cards can be had. All that is passed in must outlive this.
+    MainMenu(const PanelContext& context, EditCommands& edit, NotesPanel& panel, std::function<void(Command)> perform);
     ~MainMenu();
     MainMenu(const MainMenu&) = delete;
     MainMenu& operator=(const MainMenu&) = delete;
@@ -57,6 +56,7 @@ private:
     OncePerTurn m_refresh;
     Subscription m_storeSubscription;
     Subscription m_undoSubscription;
+    Subscription m_panelSubscription;
 };
 
 } // namespace cuebright

@@ -66,6 +66,13 @@ void NotesPanel::dismissMenusAndSheets()
     }
 }
 
+bool NotesPanel::event(QEvent* event)
+{
+    if (event->type() == QEvent::WindowBlocked || event->type() == QEvent::WindowUnblocked)
+        isBlockedChanged.notify();
+    return QWidget::event(event);
+}
+
 /// Every press on the panel comes by here, whatever it is on.
 bool NotesPanel::eventFilter(QObject* watched, QEvent* event)
 {

@@ -40,7 +40,11 @@ public:
     /// The panel has come to the screen, or has left it, by whatever way.
     Signal<> isOnScreenChanged;
 
+    /// A question keeps the keyboard from the panel from now on, or no longer.
+    Signal<> isBlockedChanged;
+
 protected:
+    bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
