@@ -1,6 +1,7 @@
 #include "app/SettingSlider.h"
 
 #include "app/SettingsSection.h"
+#include "panel/FocusRing.h"
 #include "panel/PanelLabel.h"
 #include "theme/Fonts.h"
 
@@ -38,6 +39,7 @@ SettingSlider::SettingSlider(const PanelContext& context, Setting setting, QWidg
     m_slider->setSingleStep(m_setting.scale.step);
     m_slider->setPageStep(m_setting.scale.page);
     m_slider->setAccessibleName(m_setting.name);
+    new FocusRing(context, m_slider, FocusRing::When::ReachedByTab); // the style marks a slider at its end by a hair
     m_value->setFixedWidth(kValueWidth);
     const auto line = new QHBoxLayout(this);
     line->setContentsMargins(0, 0, 0, 0);
