@@ -122,7 +122,9 @@ void CardLayout::layOutPiece()
     placeBaselines(piece);
     addLinks(piece, start, m_open.start - start);
 
-    m_bottom = piece.bottom + (isLast ? 0 : lineSpacing(block.kind));
+    if (!isLast)
+        piece.bottom += lineSpacing(block.kind); // a bar goes on without a gap
+    m_bottom = piece.bottom;
     m_pieces.push_back(std::move(piece));
     if (isLast)
         closeBlock(block);
