@@ -144,18 +144,23 @@ public:
         setToolTip(QStringLiteral("Click to set timer duration"));
     }
 
+    /// A tick draws the digits alone: the toolkit hands the button's shape to threads of its own.
     void show(const QString& time, TimerManager::Urgency urgency)
     {
+        const bool isSameShape = time.size() == m_time.size() && urgency == m_urgency;
+        m_time = time;
         m_urgency = urgency;
-        setText(time);
         setAccessibleName(QStringLiteral("Timer: ") + time);
+        if (isSameShape)
+            return update(rect().adjusted(kTimePaddingX, kTimePaddingY, -kTimePaddingX, -kTimePaddingY));
+        updateGeometry();
         update();
     }
 
     [[nodiscard]] QSize sizeHint() const override
     {
         const QFontMetricsF metrics(font());
-        const double textWidth = metrics.horizontalAdvance(text()) - kTimeSpacing;
+        const double textWidth = metrics.horizontalAdvance(m_time) - kTimeSpacing;
         return {static_cast<int>(std::ceil(textWidth)) + 2 * kTimePaddingX,
             static_cast<int>(std::ceil(metrics.height())) + 2 * kTimePaddingY};
     }
@@ -172,11 +177,12 @@ protected:
         painter.setFont(font());
         painter.setPen(toQColor(inkColor(timerInk(m_urgency), colors)));
         const QRectF room = QRectF(rect()).adjusted(kTimePaddingX, 0, 0, 0);
-        painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, text());
+        painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, m_time);
         drawFocusRing(painter, rect(), kTimeCornerRadius);
     }
 
 private:
+    QString m_time;
     TimerManager::Urgency m_urgency = TimerManager::Urgency::Normal;
 };
 
