@@ -32,8 +32,7 @@ protected:
         draw(sans, 17, QFont::Bold, "floating notes window, invisible to screen share");
         draw(mono, 11, QFont::DemiBold, "CARD 01 / 05    00:00");
         draw(sans, 11, QFont::Medium, "38 words");
-        draw(mono, 10, QFont::DemiBold, "⌘E  EDIT");
-        draw(sans, 14, QFont::Normal, "← →");
+        draw(mono, 10, QFont::DemiBold, "E  EDIT");
     }
 };
 
