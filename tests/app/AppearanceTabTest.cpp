@@ -58,24 +58,7 @@ TEST_F(AppearanceTabTest, ValuesAreShownAsWholeNumbersAndNotWritten)
     }
 }
 
-TEST_F(AppearanceTabTest, ItFollowsWhatOthersChange)
-{
-    open();
-    storeShown->setTheme("dark");
-    storeShown->setFontSize(20);
-    storeShown->setSpeakingPace(90);
-    storeShown->setOpacity(0.5);
-    const auto writes = fake.preferences.writes;
-    refresh();
-    EXPECT_EQ(theme().currentText(), u"Dark"_s);
-    EXPECT_EQ(slider("Font Size").value(), 20);
-    EXPECT_EQ(slider("Speaking Pace").value(), 90);
-    EXPECT_EQ(slider("Opacity").value(), 50);
-    expectShown({"20", "90 wpm", "50%"});
-    EXPECT_EQ(fake.preferences.writes, writes);
-}
-
-TEST_F(AppearanceTabTest, SlidersChangeTheirOwnValueAtOnce)
+TEST_F(AppearanceTabTest, SlidersChangeTheirOwnValueAtOnceAndFollowWhatOthersChange)
 {
     open();
     QTest::keyClick(&slider("Font Size"), Qt::Key_Left);
@@ -87,6 +70,17 @@ TEST_F(AppearanceTabTest, SlidersChangeTheirOwnValueAtOnce)
     expectShown({"16", "180 wpm", "99%"});
     QTest::keyClick(&slider("Opacity"), Qt::Key_Home);
     EXPECT_EQ(storeShown->opacity(), 0.4);
+
+    storeShown->setTheme("dark");
+    storeShown->setFontSize(20);
+    storeShown->setSpeakingPace(90);
+    storeShown->setOpacity(0.5);
+    const auto writes = fake.preferences.writes;
+    refresh();
+    EXPECT_EQ(theme().currentText(), u"Dark"_s);
+    EXPECT_EQ(slider("Opacity").value(), 50);
+    expectShown({"20", "90 wpm", "50%"});
+    EXPECT_EQ(fake.preferences.writes, writes);
 }
 
 TEST_F(AppearanceTabTest, AnUnknownThemeShowsAsSystemAndStaysUntilAnotherIsPicked)

@@ -2,12 +2,10 @@
 
 #include "app/SafeFileName.h"
 #include "panel/PanelFixture.h"
-#include "platform/qt/QtFileSystem.h"
 #include "support/EventLoop.h"
 
 #include <QAbstractButton>
 #include <QFile>
-#include <QFileInfo>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QTemporaryDir>
@@ -44,29 +42,13 @@ TEST(SafeFileName, IsWhatFileSystemsTake)
 
 class ExportCommandTest : public PanelFixture {
 protected:
-    QTemporaryDir folder;
-    QtFileSystem disk;
-    Platform surroundings {
-        fake.clock, fake.uuids, fake.mainQueue, disk, fake.preferences, fake.accessibility, fake.appearance, fake.log};
-    PanelContext onDisk {store, notifications, surroundings, fake.desktop()};
+    QTemporaryDir folder; // the dialog looks at the disk
     QWidget panel;
-    ExportCommand command {onDisk, panel};
+    ExportCommand command {context, panel};
 
     void SetUp() override { setCards({"A", "B"}); }
     QString path(const char* name) const { return folder.filePath(QString::fromUtf8(name)); }
-    QByteArray content(const char* name) const
-    {
-        QFile file(path(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : "no file";
-    }
-    void answer(const QString& file)
-    {
-        command.exportDeck();
-        command.dialog()->fileSelected(file);
-        command.dialog()->reject();
-        processEvents();
-        EXPECT_FALSE(command.dialog());
-    }
+    std::string& content(const char* name) { return fake.fileSystem.files[path(name).toStdString()]; }
     void type(const char* name) { command.dialog()->findChild<QLineEdit*>(u"fileNameEdit"_s)->setText(path(name)); }
     template <typename Dialog> void pressIn(const char* text)
     {
@@ -108,15 +90,14 @@ TEST_F(ExportCommandTest, WritesTheTextAsItWasWhenTheDialogOpenedUnderTheNameTha
 
 TEST_F(ExportCommandTest, AsksBeforeItReplacesAFile)
 {
-    answer(path("old.md"));
+    ASSERT_TRUE(QFile(path("old.md")).open(QIODevice::WriteOnly));
     command.exportDeck();
     const auto dialog = command.dialog();
-    store.showFeedback("");
     type("old");
     pressIn<QFileDialog>("Export");
     pressIn<QMessageBox>("Cancel");
     processEvents();
-    EXPECT_EQ(feedback(), "");
+    EXPECT_EQ(feedback(), "none");
     EXPECT_TRUE(dialog->isVisible());
     pressIn<QFileDialog>("Export");
     pressIn<QMessageBox>("Replace");
@@ -127,20 +108,16 @@ TEST_F(ExportCommandTest, AsksBeforeItReplacesAFile)
 
 TEST_F(ExportCommandTest, SaysHowItEnded)
 {
-    QFile old(path("old.md"));
-    ASSERT_TRUE(old.open(QIODevice::WriteOnly) && old.write("a longer text than the new one") > 0);
-    old.close();
-    ASSERT_TRUE(old.link(path("link.md")));
-    const auto failed = "Export failed — check file permissions";
-    const std::pair<const char*, const char*> tests[] = {{"new.txt", "Exported to new.txt"},
-        {"link.md", "Exported to link.md"}, {"no such folder/x.md", failed}, {"old.md/x.md", failed}, {".", failed}};
-    for (const auto& [file, expected] : tests) {
-        answer(path(file));
-        EXPECT_EQ(feedback(), expected) << file;
+    const std::tuple<std::optional<std::string>, const char*> tests[] = {
+        {std::nullopt, "Exported to new.txt"}, {"no", "Export failed — check file permissions"}};
+    for (const auto& [error, expected] : tests) {
+        fake.fileSystem.writeError = error;
+        command.exportDeck();
+        command.dialog()->fileSelected(path("new.txt"));
+        command.dialog()->reject();
+        processEvents();
+        EXPECT_EQ(feedback(), expected);
     }
-    EXPECT_EQ(content("new.txt"), "A\n\n---\n\nB");
-    EXPECT_EQ(content("old.md"), "A\n\n---\n\nB") << "through the link";
-    EXPECT_TRUE(QFileInfo(path("link.md")).isSymLink());
 }
 
 } // namespace cuebright::test

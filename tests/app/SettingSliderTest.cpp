@@ -44,17 +44,6 @@ protected:
     }
 };
 
-TEST_F(SettingSliderTest, KeysMoveItInStepsPagesAndToTheEnds)
-{
-    const std::pair<Qt::Key, double> cases[] = {{Qt::Key_Right, 140}, {Qt::Key_Left, 120}, {Qt::Key_Up, 140},
-        {Qt::Key_Down, 120}, {Qt::Key_PageUp, 180}, {Qt::Key_PageDown, 80}, {Qt::Key_Home, 80}, {Qt::Key_End, 250}};
-    for (const auto& [key, expected] : cases) {
-        open(130);
-        QTest::keyClick(slider, key);
-        EXPECT_EQ(writes, std::vector {expected}) << key;
-    }
-}
-
 TEST_F(SettingSliderTest, AValueOffTheScaleIsWrittenOnlyWhenTheUserMovesTheSlider)
 {
     open(9999);

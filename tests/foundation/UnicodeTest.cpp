@@ -36,31 +36,16 @@ TEST(Unicode, CodePointsAtBothEnds)
         EXPECT_EQ(ends(text), std::tuple(kBad, 1, kBad, 1)) << testing::PrintToString(text);
 }
 
-TEST(Unicode, TrimmingTakesBlanksOfAllScriptsButNoLineBreaks)
-{
-    EXPECT_EQ(trimBlanks(" \t\xc2\xa0 a b\xe3\x80\x80 "), "a b");
-    EXPECT_EQ(trimBlanks("\r a \n"), "\r a \n");
-    EXPECT_EQ(trimBlanks(" \xe3\x80\x80\t"), "");
-    EXPECT_EQ(trimBlanks(""), "");
-    EXPECT_EQ(trimBlanks(" \xa0 "), "\xa0") << "half of a no-break space is no blank";
-}
-
-TEST(Unicode, ATextOfNothingButWhiteSpace)
-{
-    EXPECT_TRUE(isAllWhiteSpace(""));
-    EXPECT_TRUE(isAllWhiteSpace(" \n\r\t\xc2\x85\xe2\x80\xa8"));
-    EXPECT_FALSE(isAllWhiteSpace(" \xe2\x80\x8b ")) << "zero width space";
-    EXPECT_FALSE(isAllWhiteSpace("  \xff"));
-}
-
 TEST(Unicode, WordsAreWhatStandsBetweenWhiteSpace)
 {
-    EXPECT_EQ(countWords(""), 0U);
-    EXPECT_EQ(countWords(" \n "), 0U);
-    EXPECT_EQ(countWords("# Title\n\n- one  two"), 5U);
-    EXPECT_EQ(countWords("a\nb\vc\fd\re\r\nf\u0085g\u2028h\u2029i\u00a0j\u3000k"), 11U);
-    EXPECT_EQ(countWords("a\u200bb\u0105\u00e0\u4f60"), 1U) << "with bytes that are white space elsewhere";
-    EXPECT_EQ(countWords("\xff\xfe"), 1U);
+    const std::pair<const char*, std::size_t> cases[] = {{"", 0}, {" \n\r\t\u0085\u2028", 0},
+        {"# Title\n\n- one  two", 5}, {"a\nb\vc\fd\re\r\nf\u0085g\u2028h\u2029i\u00a0j\u3000k", 11},
+        {"a\u200bb\u0105\u00e0\u4f60", 1}, // with bytes that are white space elsewhere
+        {"\xff\xfe", 1}};
+    for (const auto& [text, words] : cases) {
+        EXPECT_EQ(countWords(text), words) << text;
+        EXPECT_EQ(isAllWhiteSpace(text), words == 0) << text;
+    }
 }
 
 } // namespace cuebright

@@ -9,16 +9,12 @@ namespace {
 
 using Runs = std::vector<StyledRun>;
 
-class StyledText : public testing::TestWithParam<bool> {
-protected:
-    FakeAccessibility m_accessibility;
-    Colors m_colors {GetParam(), m_accessibility};
-};
-
-TEST_P(StyledText, EachMarkerGivesItsLooksAndTheyAddUp)
+TEST(StyledText, EachMarkerGivesItsLooksAndTheyAddUp)
 {
-    const auto accent = m_colors.accent();
-    const auto tint = m_colors.sep().withAlpha(0.3);
+    FakeAccessibility accessibility;
+    const Colors colors(true, accessibility);
+    const auto accent = colors.accent();
+    const auto tint = colors.sep().withAlpha(0.3);
     const std::pair<const char*, Runs> cases[] = {
         {"", {}},
         {" a ", {{.text = " a "}}},
@@ -38,11 +34,8 @@ TEST_P(StyledText, EachMarkerGivesItsLooksAndTheyAddUp)
                 .link = "b"}}},
     };
     for (const auto& [text, expected] : cases)
-        EXPECT_EQ(renderInline(text, 17.5, m_colors), expected) << text;
+        EXPECT_EQ(renderInline(text, 17.5, colors), expected) << text;
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Looks, StyledText, testing::Bool(), [](const auto& look) { return look.param ? "Dark" : "Light"; });
 
 } // namespace
 } // namespace cuebright::test

@@ -64,13 +64,16 @@ std::optional<std::string> contentOf(const std::string& json)
     return state ? std::optional(state->decks.at(0).cards.at(0).content) : std::nullopt;
 }
 
+const std::string kMark = "\xef\xbb\xbf"; ///< the byte order mark
+
+std::string nested(std::size_t depth) { return std::string(depth, '[') + std::string(depth, ']'); }
+
 using Values = std::vector<const char*>;
 
 const Values kNoText {"true", "1", "[]", "{}"};
 const Values kNoList {"true", "1", "\"x\"", "{}", "[null]", "[1]", "[{}]", "[[]]"};
 const Values kNoDate {"true", "1", "[]", "{}", "\"\"", "\"2026-02-30T01:21:19Z\"", "\" 2026-11-16T01:21:19Z\""};
-const Values kNoUuid {"true", "1", "[]", "{}", "\"\"", "\"x\"", "\"6B0F5C1E3D0A4E8B9D552F7A1C9E4B21\"",
-    "\" 6B0F5C1E-3D0A-4E8B-9D55-2F7A1C9E4B21\""};
+const Values kNoUuid {"true", "1", "[]", "{}", "\"\"", "\"6B0F5C1E3D0A4E8B9D552F7A1C9E4B21\""};
 const Values kNoNumber {"true", "\"17\"", "[]", "{}", "1e400", "-1e400", "18446744073709551616", "NaN", "Infinity",
     "017", "+17", "17.", ".5"};
 const Values kNoIndex {"true", "\"1\"", "[]", "{}", "1.5", "1e-1", "9223372036854775808", "9223372036854775808.0",
@@ -104,29 +107,6 @@ const struct {
 
 } // namespace
 
-TEST(StateFileReader, AWholeDocumentIsReadMemberByMember)
-{
-    const auto state = decodeState(object(kState));
-    ASSERT_TRUE(state);
-    EXPECT_EQ(state->activeCardIndex, 1);
-    EXPECT_EQ(state->activeDeckId, Uuid::parse("6B0F5C1E-3D0A-4E8B-9D55-2F7A1C9E4B21"));
-    EXPECT_EQ(state->fontSize, 20.5);
-    EXPECT_EQ(state->opacity, 0.85);
-    EXPECT_FALSE(state->windowFrame);
-    ASSERT_EQ(state->decks.size(), 1U);
-    const auto& deck = state->decks.front();
-    EXPECT_EQ(deck.id.text(), "6B0F5C1E-3D0A-4E8B-9D55-2F7A1C9E4B21");
-    EXPECT_EQ(deck.name, "Talk");
-    EXPECT_EQ(iso8601(deck.createdAt), "2026-11-16T01:21:19Z");
-    EXPECT_EQ(iso8601(deck.updatedAt), "2026-11-17T01:21:19Z");
-    ASSERT_EQ(deck.cards.size(), 1U);
-    const auto& card = deck.cards.front();
-    EXPECT_EQ(card.id.text(), "0C8E6A52-9B1F-4C7D-8E2A-5D3B7F1A6C90");
-    EXPECT_EQ(card.content, "# One");
-    EXPECT_EQ(iso8601(card.createdAt), "2026-11-16T01:21:19Z");
-    EXPECT_EQ(iso8601(card.updatedAt), "2026-11-17T01:21:19Z");
-}
-
 TEST(StateFileReader, AFileCutAnywhereIsRefused)
 {
     const auto whole = object(kState);
@@ -152,15 +132,6 @@ TEST(StateFileReader, AMemberOfTheWrongKindIsRefused)
             EXPECT_FALSE(decodeState(documentWith(member.name, value, member.record))) << member.name << " : " << value;
 }
 
-TEST(StateFileReader, OneBadCardAmongGoodOnesIsRefused)
-{
-    auto bad = kCard;
-    bad.erase("updatedAt");
-    const auto good = object(kCard);
-    EXPECT_TRUE(decodeState(documentWith("cards", "[" + good + "," + good + "]", Record::Deck)));
-    EXPECT_FALSE(decodeState(documentWith("cards", "[" + good + "," + object(bad) + "]", Record::Deck)));
-}
-
 TEST(StateFileReader, AWindowFrameIsTwoPairsOfNumbers)
 {
     const auto state = decodeState(documentWith("windowFrame", "[[100, 200.5], [-420, 3e2]]"));
@@ -180,59 +151,17 @@ TEST(StateFileReader, ACardIndexIsAnyNumberThatIsExactlyA64BitInteger)
     }
 }
 
-TEST(StateFileReader, OtherNumbersMayBeAsLargeAsADouble)
+TEST(StateFileReader, OfDuplicateMembersTheFirstCountsHoweverItsNameIsSpelt)
 {
-    EXPECT_TRUE(decodeState(documentWith("fontSize", "1e308")));
-    EXPECT_TRUE(decodeState(documentWith("fontSize", "18446744073709551615")));
-}
-
-TEST(StateFileReader, IdentifiersMayRepeatAndNameNoDeck)
-{
-    const auto deck = object(kDeck);
-    const auto twins = decodeState(documentWith("decks", "[" + deck + "," + deck + "]"));
-    ASSERT_TRUE(twins);
-    EXPECT_EQ(twins->decks.at(0).id, twins->decks.at(1).id);
-    EXPECT_TRUE(decodeState(documentWith("activeDeckId", kCardId)));
-}
-
-TEST(StateFileReader, UnknownMembersAreIgnored)
-{
-    for (const auto record : {Record::Card, Record::Deck, Record::State})
-        EXPECT_TRUE(decodeState(documentWith("zoom", "[{\"deep\":[null,1.5e3,\"x\"]}]", record)));
-    EXPECT_TRUE(decodeState(documentWith("\\u0000", "1")));
-}
-
-TEST(StateFileReader, BadJsonInAnUnknownMemberIsRefused)
-{
-    for (const auto value : {"nul", "[1,]", "{\"a\"}", "\"\\x\"", "01", "1e400", "\"\\ud800\"", "'a'"})
-        EXPECT_FALSE(decodeState(documentWith("zoom", value))) << value;
-}
-
-TEST(StateFileReader, OfDuplicateMembersTheFirstCounts)
-{
-    auto json = object(kState);
-    json.insert(json.size() - 1, R"(,"activeCardIndex":"7","decks":null,"opacity":[])");
-    const auto state = decodeState(json);
+    const auto with = [](std::size_t place, const char* member) { return object(kState).insert(place, member); };
+    const auto end = object(kState).size() - 1;
+    const auto state = decodeState(with(end, R"(,"activeCardIndex":"7","decks":null,"opacity":[])"));
     ASSERT_TRUE(state);
     EXPECT_EQ(state->activeCardIndex, 1);
     EXPECT_EQ(state->decks.size(), 1U);
-
-    json = object(kState);
-    json.insert(1, R"("activeCardIndex":"7",)");
-    EXPECT_FALSE(decodeState(json));
-
-    json = object(kState);
-    json.insert(json.size() - 1, R"(,"opacity":nul)");
-    EXPECT_FALSE(decodeState(json));
-}
-
-TEST(StateFileReader, AnEscapedMemberNameIsTheSameName)
-{
-    auto json = documentWithout("opacity", Record::State);
-    json.insert(1, R"("opa\u0063ity":0.5,)");
-    const auto state = decodeState(json);
-    ASSERT_TRUE(state);
-    EXPECT_EQ(state->opacity, 0.5);
+    EXPECT_EQ(decodeState(with(1, R"("opa\u0063ity":0.5,)"))->opacity, 0.5);
+    EXPECT_FALSE(decodeState(with(1, R"("activeCardIndex":"7",)")));
+    EXPECT_FALSE(decodeState(with(end, R"(,"opacity":nul)")));
 }
 
 TEST(StateFileReader, EscapesInTextsAreResolved)
@@ -244,53 +173,54 @@ TEST(StateFileReader, EscapesInTextsAreResolved)
         {R"(a\u0000b)", std::string("a\0b", 3)},
         {R"(\udbff\udfff)", "\xf4\x8f\xbf\xbf"},
         {"/\x7f", "/\x7f"},
+        {kMark.c_str(), kMark},
         {"", ""},
     };
     for (const auto& [json, expected] : cases)
         EXPECT_EQ(contentOf(documentWithContent(json)), expected) << json;
 }
 
-TEST(StateFileReader, BadEscapesAndControlCharactersInTextsAreRefused)
+TEST(StateFileReader, BadEscapesControlCharactersAndBytesThatAreNotUtf8AreRefusedInTexts)
 {
-    for (const auto json :
-        {R"(\ud800)", R"(\udc00)", R"(\ud800\u0041)", R"(\ud800\ud800)", R"(\ud800\n)", R"(\ud800x\udc00)",
-            R"(\udc00\ud800)", R"(\u00g0)", R"(\u12)", R"(\x41)", R"(\a)", R"(\U0041)", "\n", "\t", "\x01", "\x1f"})
-        EXPECT_FALSE(decodeState(documentWithContent(json))) << testing::PrintToString(json);
-}
-
-TEST(StateFileReader, TextsThatAreNotUtf8AreRefused)
-{
-    for (const std::string bytes : {"\xc0\x80", "\xe0\x80\xaf", "\xf0\x80\x80\xaf", // overlong
-             "\xed\xa0\x80", "\xed\xbf\xbf", "\xed\xa0\xbd\xed\xb8\x80", // surrogates
+    for (const std::string bytes : {R"(\ud800)", R"(\udc00)", R"(\ud800\u0041)", R"(\ud800x\udc00)", R"(\udc00\ud800)",
+             R"(\u00g0)", R"(\u12)", R"(\x41)", "\n", "\x1f", "\xc0\x80", "\xf0\x80\x80\xaf", // overlong
+             "\xed\xa0\x80", "\xed\xa0\xbd\xed\xb8\x80", // surrogates
              "\xf4\x90\x80\x80", "\xe2\x80", "\x80", "\xff", "caf\xe9"}) {
         EXPECT_FALSE(decodeState(documentWithContent(bytes))) << testing::PrintToString(bytes);
         EXPECT_FALSE(decodeState(documentWith("zoom", "\"" + bytes + "\""))) << testing::PrintToString(bytes);
     }
 }
 
-TEST(StateFileReader, OneByteOrderMarkIsSkipped)
+TEST(StateFileReader, WhatDoesNotMatterIsAccepted)
 {
-    const std::string mark = "\xef\xbb\xbf";
-    EXPECT_TRUE(decodeState(mark + object(kState)));
-    EXPECT_FALSE(decodeState(mark + mark + object(kState)));
-    EXPECT_FALSE(decodeState(mark));
-    EXPECT_EQ(contentOf(documentWithContent(mark)), mark);
+    const auto whole = object(kState);
+    const auto deck = object(kDeck);
+    const std::string texts[] = {// unknown members
+        documentWith("zoom", "[{\"deep\":[null,1.5e3,\"x\"]}]", Record::Card),
+        documentWith("zoom", "[{}]", Record::Deck), documentWith("\\u0000", nested(1000)),
+        // identifiers that repeat or name no deck
+        documentWith("decks", "[" + deck + "," + deck + "]"), documentWith("activeDeckId", kCardId),
+        // numbers as large as a double
+        documentWith("fontSize", "1e308"), documentWith("fontSize", "18446744073709551615"),
+        " \t\r\n" + whole + "\r\n\t ", kMark + whole};
+    for (const auto& text : texts)
+        EXPECT_TRUE(decodeState(text)) << text.substr(0, 400);
 }
 
-TEST(StateFileReader, EveryJsonWhiteSpaceIsAccepted)
+TEST(StateFileReader, WhatIsNoSingleObjectOfGoodJsonIsRefused)
 {
-    const auto json = object(kState);
-    EXPECT_TRUE(decodeState(" \t\r\n" + json + "\r\n\t "));
-    EXPECT_FALSE(decodeState("\v" + json));
-    EXPECT_FALSE(decodeState(json + "\xc2\xa0"));
-    EXPECT_FALSE(decodeState(json + std::string(1, '\0')));
-}
-
-TEST(StateFileReader, WhatIsNoSingleObjectIsRefused)
-{
-    const auto json = object(kState);
+    const auto whole = object(kState);
+    auto badCard = kCard;
+    badCard.erase("updatedAt");
+    std::vector<std::string> texts {"", " \n", std::string(64, '\0'), "null", "[]", "1", "\"{}\"", "{}",
+        "[" + whole + "]", whole + whole, whole + "x", "// notes\n" + whole, "\v" + whole, whole + "\xc2\xa0",
+        whole + std::string(1, '\0'), kMark, kMark + kMark + whole, std::string(2'000'000, '['),
+        documentWith("zoom", nested(1025)),
+        documentWith("cards", "[" + object(kCard) + "," + object(badCard) + "]", Record::Deck)};
+    for (const auto value : {"nul", "[1,]", "{\"a\"}", "01", "1e400", "'a'"})
+        texts.push_back(documentWith("zoom", value));
     std::string utf16 = "\xff\xfe";
-    for (const char c : json)
+    for (const char c : whole)
         utf16 += {c, '\0'};
     std::string noise(100'000, '\0');
     std::uint32_t state = 1;
@@ -298,17 +228,9 @@ TEST(StateFileReader, WhatIsNoSingleObjectIsRefused)
         state = state * 1664525U + 1013904223U;
         byte = static_cast<char>(state >> 24);
     }
-    for (const std::string& text : std::vector<std::string> {"", " \n", std::string(64, '\0'), "null", "[]", "1",
-             "\"{}\"", "{}", "[" + json + "]", json + json, json + "x", "// notes\n" + json, utf16, noise, "{" + noise})
-        EXPECT_FALSE(decodeState(text)) << text.substr(0, 40);
-}
-
-TEST(StateFileReader, NestingBeyondALimitIsRefused)
-{
-    const auto nested = [](std::size_t depth) { return std::string(depth, '[') + std::string(depth, ']'); };
-    EXPECT_TRUE(decodeState(documentWith("zoom", nested(1000))));
-    EXPECT_FALSE(decodeState(documentWith("zoom", nested(1025))));
-    EXPECT_FALSE(decodeState(std::string(2'000'000, '[')));
+    texts.insert(texts.end(), {utf16, noise, "{" + noise});
+    for (const auto& text : texts)
+        EXPECT_FALSE(decodeState(text)) << text.substr(0, 400);
 }
 
 TEST(StateFileReader, ATextWithSpareCapacityReadsTheSame)

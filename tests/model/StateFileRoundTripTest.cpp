@@ -32,31 +32,10 @@ struct StateFileRoundTrip : testing::Test {
 
 } // namespace
 
-TEST_F(StateFileRoundTrip, TheDefaultStateComesBackWithDatesCutToSeconds)
+TEST_F(StateFileRoundTrip, TheDefaultStateComesBackWithDatesCutToSecondsAndEmptyToo)
 {
     expectComesBack(state);
     EXPECT_EQ(decodeState(encoded(state))->decks[0].cards[0].updatedAt, clock.now());
-}
-
-TEST_F(StateFileRoundTrip, EveryTextComesBackAsItWas)
-{
-    std::string controls;
-    for (char c = 0; c < 0x20; ++c)
-        controls += c;
-    for (const std::string& text : {std::string(), controls, std::string(" \"quotes\" \\ back/slash\\\\ \n"),
-             std::string("\\n \\u0041 \\"), std::string("\x7f👩‍👩‍👧 \U0010ffff"),
-             std::string("עברית \u202eabc"), std::string("a\u00a0b\u2028c\u2029d\ufeff"), std::string("a\r\nb\rc"),
-             std::string("e\u0301 is not \u00e9"), std::string(70'000, '/')}) {
-        state.decks[0].name = state.decks[0].cards[0].content = text;
-        const auto read = decodeState(encoded(state));
-        ASSERT_TRUE(read) << text;
-        EXPECT_EQ(read->decks[0].name, text);
-        EXPECT_EQ(read->decks[0].cards[0].content, text);
-    }
-}
-
-TEST_F(StateFileRoundTrip, EmptyListsAndAnAbsentDeckComeBack)
-{
     state.decks[0].cards.clear();
     state.activeDeckId.reset();
     expectComesBack(state);

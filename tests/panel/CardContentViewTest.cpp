@@ -157,23 +157,4 @@ TEST_F(CardContentViewTest, TheColumnIsCentredAndNeverTouchesTheEdges)
     EXPECT_EQ(CardContentView::columnPadding(500), 40);
 }
 
-TEST_F(CardContentViewTest, TheEditorTakesItsPlaceAndShowsAnEditOpenedAndClosedInOneTurnAfresh)
-{
-    setCards({"one", "two"});
-    press(view, "Edit card");
-    refresh();
-    EXPECT_FALSE(isShown(view, "Card content"));
-    auto& editor = *view.findChild<QPlainTextEdit*>();
-    editor.setPlainText(u"new"_s);
-    store.saveEdit();
-    EXPECT_EQ(store.activeCard()->content, "new");
-    store.nextCard();
-    store.beginEditing();
-    refresh();
-    EXPECT_EQ(editor.toPlainText(), u"two"_s);
-    press(view, "Cancel editing");
-    refresh();
-    EXPECT_TRUE(isShown(view, "Card content"));
-}
-
 } // namespace cuebright::test

@@ -27,11 +27,6 @@ protected:
     }
     NotesPanel& panel() { return controller().panelWindow(); }
     void restart() { m_controller.reset(); }
-    void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
-    {
-        QTest::keyClick(panel().windowHandle(), key, modifiers);
-        refresh();
-    }
     /// As a user does with the mouse.
     void moveTo(const QPoint& position)
     {
@@ -72,17 +67,6 @@ TEST_F(PanelControllerTest, ShowingAfterMoreThanAMinuteTellsOfTheReturn)
     processEvents();
     EXPECT_TRUE(controller().isPanelVisible());
     EXPECT_EQ(returns, 3) << "minimising is hiding";
-}
-
-TEST_F(PanelControllerTest, WithReducedMotionItIsThereAtOnceAndNeverMoves)
-{
-    store.setOpacity(0.7);
-    const auto frame = panel().geometry();
-    controller().showPanel();
-    EXPECT_NEAR(panel().windowOpacity(), 0.7, 0.01);
-    controller().hidePanel();
-    EXPECT_FALSE(panel().isVisible());
-    EXPECT_EQ(panel().geometry(), frame);
 }
 
 TEST_F(PanelControllerTest, ItComesAndGoesByDegreesWithItsFrameUntouched)
@@ -170,14 +154,24 @@ TEST_F(PanelControllerTest, GlassIsBehindATranslucentPanelUnlessTransparencyIsUn
     EXPECT_EQ(fake.windowSystem.calls.back(), "glass on") << "at once, when the user changes his mind";
 }
 
-TEST_F(PanelControllerTest, WithoutAHotKeyTheSameKeyWorksInThePanel)
+TEST_F(PanelControllerTest, TheTitleFollowsTheDeckAfterAPause)
 {
-    fake.hotKeys.isTaken = true;
+    EXPECT_EQ(panel().windowTitle(), u"Cuebright — Getting Started"_s);
+    store.switchToDeck(1);
+    store.renameDeck("[*] a&b\nc"); // and once more 0.16 s later, when the switch is over
+    fake.mainQueue.advance(Seconds(0.35));
+    EXPECT_EQ(panel().windowTitle(), u"Cuebright — Getting Started"_s);
+    fake.mainQueue.advance(Seconds(0.02));
+    EXPECT_EQ(panel().windowTitle(), u"Cuebright — [*][*] a&b c"_s);
+}
+
+TEST_F(PanelControllerTest, ItOpensInItsSizeAndShrinksNoFurtherThanItsMinimum)
+{
     controller().showPanel();
-    key(Qt::Key_Right);
-    EXPECT_EQ(store.activeCardIndex(), 1);
-    key(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
-    EXPECT_FALSE(panel().isOnScreen());
+    EXPECT_EQ(panel().windowOpacity(), 1.0) << "at once where less motion is wanted";
+    EXPECT_EQ(panel().size(), QSize(720, 560));
+    panel().resize(100, 100);
+    EXPECT_EQ(panel().size(), QSize(480, 360));
 }
 
 TEST_F(PanelControllerTest, TheFirstShowTellsWhatTheAudienceSeesOnceThatIsKnown)

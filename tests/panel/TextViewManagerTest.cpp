@@ -130,9 +130,7 @@ TEST_F(TextViewManagerTest, ToolbarButtonsFormat)
         openAt(u"a ‹bc›"_s);
         PanelFixture::press(toolbar, name);
         EXPECT_EQ(shown(), after);
-        const auto button = find(toolbar, name);
-        EXPECT_EQ(button->toolTip(), name);
-        EXPECT_EQ(button->sizeHint(), QSize(30, 28));
+        EXPECT_EQ(find(toolbar, name)->toolTip(), name);
     }
 }
 

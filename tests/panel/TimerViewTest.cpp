@@ -78,15 +78,6 @@ TEST_F(TimerViewTest, TheMenuOpensByMouseAndKeyboardAndSetsTheTimer)
     openMenu()->close();
 }
 
-TEST_F(TimerViewTest, TabReachesBothPartsAndSpaceStarts)
-{
-    QTest::keyClick(&panel, Qt::Key_Tab);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
-    EXPECT_TRUE(timer.isRunning());
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    EXPECT_EQ(QApplication::focusWidget(), find(panel, "Timer: 00:00"));
-}
-
 TEST_F(TimerViewTest, ColoursTellHowUrgentItIs)
 {
     using enum TimerManager::Urgency;

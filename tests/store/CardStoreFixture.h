@@ -64,16 +64,6 @@ protected:
     /// Checks that operations on these decks change nothing, tell nobody, and leave nothing to undo or save.
     void expectNothing(const std::vector<std::pair<std::string, StoreOperation>>& cases);
 
-    struct Alternation {
-        std::string name;
-        std::string before;
-        StoreOperation operation;
-        std::string after;
-        std::string undone;
-    };
-    /// Checks that each operation can be undone and redone again and again, with a save each time.
-    void expectAlternations(const std::vector<Alternation>& cases);
-
     FakePlatform surroundings;
     std::shared_ptr<UndoManager> undoManager = std::make_shared<UndoManager>();
     std::optional<CardStore> store;

@@ -6,17 +6,8 @@ namespace {
 
 class CardStorePersistence : public CardStoreFixture {
 protected:
-    /// One save with everything that it posts.
-    void save()
-    {
-        store->flushToDisk();
-        advance(0s);
-    }
-
     std::optional<std::string>& writeError = surroundings.fileSystem.writeError;
 };
-
-constexpr const char* kDiskFull = "No space left on device";
 
 TEST_F(CardStorePersistence, TheStateFileLiesInAFolderOfItsOwnThatIsMadeAtOnce)
 {
@@ -64,8 +55,7 @@ TEST_F(CardStorePersistence, WithoutAGoodStateFileTheSampleDecksComeSilently)
 TEST_F(CardStorePersistence, AStoredPositionIsLimitedFromAboveOnly)
 {
     const std::pair<const char*, const char*> cases[] = {
-        {"Talk*[a|b] card 1", "Talk*[a|b*]"}, {"Talk*[a|b] card 2", "Talk*[a|b*]"},
-        {"Talk*[a|b] card 9223372036854775807", "Talk*[a|b*]"},
+        {"Talk*[a|b] card 2", "Talk*[a|b*]"}, {"Talk*[a] card 9223372036854775807", "Talk*[a*]"},
         {"Talk*[a] card -9223372036854775808", "Talk*[a] card -9223372036854775808"},
         {"Talk*[] card 4", "Talk*[] card 0"}, {"Talk*[] card -1", "Talk*[] card -1"},
         {"Talk[a|b|c] Demo*[d|e] card 2", "Talk[a|b|c] Demo*[d|e*]"},
@@ -94,10 +84,7 @@ TEST_F(CardStorePersistence, TheActiveDeckIsTheFirstWithTheStoredIdentifierElseT
 TEST_F(CardStorePersistence, LoadingReplacesDecksAndPositionAndNothingElse)
 {
     open("Talk*[a*] editing 'typed'");
-    store->setFontSize(20);
-    store->setOpacity(0.5);
     stateFile() = stateFileOf("Talk[a] Demo*[b|c*]");
-    (void)takeNotices();
     store->loadFromDisk();
     EXPECT_EQ(describe(*store), "Talk[a] Demo*[b|c*] editing 'typed'");
     EXPECT_EQ(takeNotices(), "decks; activeDeckIndex 0; activeCardIndex 0");
@@ -124,81 +111,68 @@ TEST_F(CardStorePersistence, TheStateFileHoldsDecksPositionAndPreferencesButNoFr
     EXPECT_NE(stateFile().find("\"activeCardIndex\" : 1"), std::string::npos);
 }
 
-TEST_F(CardStorePersistence, ABurstOfChangesIsSavedOnceAQuarterOfASecondAfterTheLast)
+TEST_F(CardStorePersistence, ABurstOfChangesIsSavedOnceAQuarterOfASecondAfterTheLastOrWhenFlushed)
 {
     open("Talk*[a*|b|c]");
     store->moveCardDown();
     advance(200ms);
     store->moveCardDown();
     advance(200ms);
-    store->renameDeck("x");
     store->moveCardDown(); // no change, so it postpones nothing
-    advance(249ms);
+    advance(49ms);
     EXPECT_EQ(saves(), 0U);
     advance(2ms);
     EXPECT_EQ(surroundings.fileSystem.writes, std::vector {std::string(kStateFile)});
-    advance(10s);
-    EXPECT_EQ(saves(), 1U);
-}
-
-TEST_F(CardStorePersistence, FlushToDiskWritesAtOnceAndInsteadOfThePendingSave)
-{
-    open("Talk*[a*|b]");
-    store->moveCardDown();
-    store->flushToDisk();
-    EXPECT_EQ(saves(), 1U);
-    advance(1s);
-    EXPECT_EQ(saves(), 1U);
+    store->renameDeck("x");
     store->flushToDisk();
     EXPECT_EQ(saves(), 2U);
+    advance(10s);
+    EXPECT_EQ(saves(), 2U) << "the pending save is done";
+    store->flushToDisk();
+    EXPECT_EQ(saves(), 3U) << "without a change too";
 }
 
-TEST_F(CardStorePersistence, AFailedSaveIsShownAfterTheEventUntilOneSucceeds)
+TEST_F(CardStorePersistence, AFailedSaveIsLoggedAtOnceAndShownAfterTheEventUntilOneSucceeds)
 {
     const std::string failed = "Talk*[a*] error 'Not saved — check disk space'";
+    const std::string shown = "persistentError 'Not saved — check disk space'; errorDismissed true";
+    const std::string log = "[Cuebright] ERROR: Save failed (";
+    const StoreOperation nothing = [](CardStore&) {};
+    const StoreOperation dismiss = &CardStore::dismissError;
+    const StoreOperation renameTooLate = [this](CardStore& s) {
+        surroundings.clock.wallClock = std::chrono::sys_days(std::chrono::year(10000) / 1 / 1);
+        s.renameDeck("Talk");
+    };
+    const struct {
+        StoreOperation before;
+        std::optional<std::string> writeError;
+        std::vector<std::string> log;
+        std::string notices;
+        std::string after;
+    } steps[] = {
+        {nothing, "No space left", {log + "1x): No space left"}, "persistentError none; errorDismissed false", failed},
+        {dismiss, "Disk full", {log + "2x): Disk full"}, shown, failed}, // it comes back with the next failure
+        {dismiss, {}, {}, shown + "; feedbackMessage none", "Talk*[a*] feedback 'Saved'"},
+        {nothing, {}, {}, "", "Talk*[a*] feedback 'Saved'"}, // said once
+        {renameTooLate, {}, {log + "1x): a date lies outside the years 0 to 9999"},
+            "persistentError none; errorDismissed false",
+            "Talk*[a*] feedback 'Renamed'" + failed.substr(9)}, // a date that the format cannot hold
+    };
     open("Talk*[a*]");
-    writeError = kDiskFull;
-    store->flushToDisk();
-    EXPECT_EQ(takeNotices(), "");
+    for (const auto& step : steps) {
+        surroundings.log.lines.clear();
+        step.before(*store);
+        (void)takeNotices();
+        writeError = step.writeError;
+        store->flushToDisk();
+        EXPECT_EQ(surroundings.log.lines, step.log);
+        EXPECT_EQ(takeNotices(), "");
+        advance(500ms);
+        EXPECT_EQ(takeNotices(), step.notices);
+        EXPECT_EQ(describe(*store), step.after);
+    }
     advance(1h);
-    EXPECT_EQ(takeNotices(), "persistentError none; errorDismissed false");
-    EXPECT_EQ(describe(*store), failed);
-    EXPECT_EQ(saves(), 1U) << "no retry";
-    store->dismissError();
-    EXPECT_EQ(describe(*store), failed + " dismissed");
-    save();
-    EXPECT_EQ(describe(*store), failed) << "it comes back with the next failure";
-
-    store->dismissError();
-    (void)takeNotices();
-    writeError.reset();
-    store->flushToDisk();
-    EXPECT_EQ(takeNotices(), "");
-    advance(0s);
-    EXPECT_EQ(
-        takeNotices(), "persistentError 'Not saved — check disk space'; errorDismissed true; feedbackMessage none");
-    EXPECT_EQ(describe(*store), "Talk*[a*] feedback 'Saved'");
-    save();
-    EXPECT_EQ(takeNotices(), "") << "said once";
-}
-
-TEST_F(CardStorePersistence, FailuresAreLoggedAtOnceAndCountedInARow)
-{
-    open("Talk*[a*]");
-    writeError = kDiskFull;
-    store->flushToDisk();
-    store->flushToDisk();
-    const std::string start = "[Cuebright] ERROR: Save failed (";
-    const std::vector<std::string> expected {start + "1x): " + kDiskFull, start + "2x): " + kDiskFull};
-    EXPECT_EQ(surroundings.log.lines, expected);
-    writeError.reset();
-    save();
-    surroundings.clock.wallClock = std::chrono::sys_days(std::chrono::year(10000) / 1 / 1);
-    store->renameDeck("x"); // a date that the format cannot hold
-    save();
-    ASSERT_EQ(surroundings.log.lines.size(), 3U);
-    EXPECT_TRUE(surroundings.log.lines[2].starts_with(start + "1x): ")) << surroundings.log.lines[2];
-    EXPECT_EQ(saves(), 3U);
+    EXPECT_EQ(saves(), 4U) << "no retry";
 }
 
 TEST_F(CardStorePersistence, WorkThatWaitsForAStoreThatHasGoneDoesNothing)
@@ -207,7 +181,7 @@ TEST_F(CardStorePersistence, WorkThatWaitsForAStoreThatHasGoneDoesNothing)
     store->moveCardUp();
     store->switchToDeck(1);
     store->showFeedback("Hello");
-    writeError = kDiskFull;
+    writeError = "No space left";
     store->flushToDisk(); // its result waits too
     store->renameDeck("x");
     store.reset();
@@ -217,14 +191,15 @@ TEST_F(CardStorePersistence, WorkThatWaitsForAStoreThatHasGoneDoesNothing)
     EXPECT_EQ(surroundings.log.lines.size(), 1U);
 }
 
-TEST_F(CardStorePersistence, ResetStartsAgainFromTheSampleDecksForGoodAndLeavesAnOpenEdit)
+TEST_F(CardStorePersistence, ResetStartsAgainFromTheSampleDecksForGoodAndLeavesAnOpenEditWordCountAndPace)
 {
+    auto& values = surroundings.preferences.values;
+    values = {{"cuebrightTheme", "dark"}, {"cuebrightFontSize", 20.0}, {"cuebrightOpacity", 0.5},
+        {"cuebrightWordCount", true}, {"cuebrightSpeakingPace", std::int64_t {100}},
+        {"cuebrightWindowFrame", Preferences::Numbers {{"x", 1}}}, {"cuebrightOnboardingDone", true}};
     open("Talk[a] Demo*[b|c*]");
-    store->setTheme("dark");
-    store->setFontSize(20);
-    store->setOpacity(0.5);
     store->renameDeck("x");
-    store->createNewDeck("Notes");
+    store->moveCardUp();
     undoManager->undo();
     store->beginEditing();
     advance(3s);
@@ -233,31 +208,21 @@ TEST_F(CardStorePersistence, ResetStartsAgainFromTheSampleDecksForGoodAndLeavesA
     store->resetAllData();
     EXPECT_EQ(store->deckName() + ": " + store->positionLabel(), "Getting Started: CARD 01 / 05");
     EXPECT_TRUE(store->isEditing());
-    EXPECT_EQ(store->editText(), "b");
-    EXPECT_EQ(takeNotices(), "decks; activeDeckIndex 1; activeCardIndex 0; theme 'dark'; fontSize 20; opacity 0.5");
+    EXPECT_EQ(store->editText(), "c");
+    EXPECT_EQ(takeNotices(), "decks; activeDeckIndex 1; activeCardIndex 1; theme 'dark'; fontSize 20; opacity 0.5");
     EXPECT_EQ(surroundings.appearance.choices.back(), Appearance::Choice::FollowSystem);
     EXPECT_EQ(describe(*undoManager), "undo '' redo ''");
+    const FakePreferences::Values expected {{"cuebrightTheme", "system"}, {"cuebrightFontSize", 17.0},
+        {"cuebrightOpacity", 1.0}, {"cuebrightWordCount", true}, {"cuebrightSpeakingPace", std::int64_t {100}}};
+    EXPECT_EQ(values, expected);
+    EXPECT_TRUE(store->showWordCount());
+    EXPECT_EQ(store->speakingPace(), 100);
     advance(10s);
     EXPECT_EQ(saves(), writes);
     EXPECT_TRUE(surroundings.fileSystem.files.empty());
     const auto first = deck(0).id;
     store->resetAllData(); // no file to delete this time
     EXPECT_NE(deck(0).id, first);
-}
-
-TEST_F(CardStorePersistence, ResetKeepsWordCountAndSpeakingPace)
-{
-    auto& values = surroundings.preferences.values;
-    values = {{"cuebrightTheme", "dark"}, {"cuebrightFontSize", 20.0}, {"cuebrightOpacity", 0.5},
-        {"cuebrightWordCount", true}, {"cuebrightSpeakingPace", std::int64_t {100}},
-        {"cuebrightWindowFrame", Preferences::Numbers {{"x", 1}}}, {"cuebrightOnboardingDone", true}};
-    open("Talk*[a*]");
-    store->resetAllData();
-    const FakePreferences::Values expected {{"cuebrightTheme", "system"}, {"cuebrightFontSize", 17.0},
-        {"cuebrightOpacity", 1.0}, {"cuebrightWordCount", true}, {"cuebrightSpeakingPace", std::int64_t {100}}};
-    EXPECT_EQ(values, expected);
-    EXPECT_TRUE(store->showWordCount());
-    EXPECT_EQ(store->speakingPace(), 100);
 }
 
 } // namespace

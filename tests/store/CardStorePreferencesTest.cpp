@@ -27,12 +27,9 @@ TEST_F(CardStorePreferences, StartUpTakesStoredValuesAsTheyAre)
 {
     const std::pair<Values, std::tuple<std::string, double, double, bool, std::int64_t>> cases[] = {
         {{}, {"system", 17, 1, false, 130}},
-        {{{"cuebrightTheme", "dark"}, {"cuebrightFontSize", 20.0}, {"cuebrightOpacity", 0.5},
-             {"cuebrightWordCount", true}, {"cuebrightSpeakingPace", std::int64_t {100}}},
-            {"dark", 20, 0.5, true, 100}},
         {{{"cuebrightTheme", "Pink"}, {"cuebrightFontSize", 400.0}, {"cuebrightOpacity", 3.0},
-             {"cuebrightSpeakingPace", std::int64_t {9999}}},
-            {"Pink", 400, 3, false, 9999}},
+             {"cuebrightWordCount", true}, {"cuebrightSpeakingPace", std::int64_t {9999}}},
+            {"Pink", 400, 3, true, 9999}},
         {{{"cuebrightFontSize", 0.5}, {"cuebrightOpacity", 0.01}, {"cuebrightSpeakingPace", std::int64_t {1}}},
             {"system", 0.5, 0.01, false, 1}},
         {{{"cuebrightFontSize", 0.0}, {"cuebrightOpacity", -0.5}, {"cuebrightSpeakingPace", std::int64_t {0}}},
@@ -63,79 +60,62 @@ TEST_F(CardStorePreferences, TheThemeChoosesTheLookOfTheApplicationNowAndAtTheNe
 
 TEST_F(CardStorePreferences, SettersTellThenLimitAndStoreAtOnce)
 {
-    const auto fontSize = [](double value) { return [value](CardStore& s) { s.setFontSize(value); }; };
-    const auto opacity = [](double value) { return [value](CardStore& s) { s.setOpacity(value); }; };
-    const auto pace = [](std::int64_t value) { return [value](CardStore& s) { s.setSpeakingPace(value); }; };
-    const auto paceOf = [](std::int64_t value) { return Values {{"cuebrightSpeakingPace", value}}; };
-    const auto toggleTwice = [](CardStore& s) { (s.toggleWordCount(), s.toggleWordCount()); };
+    const auto setSize = [](double value) { return [value](CardStore& s) { s.setFontSize(value); }; };
+    const auto setOpacity = [](double value) { return [value](CardStore& s) { s.setOpacity(value); }; };
+    const auto setPace = [](std::int64_t value) { return [value](CardStore& s) { s.setSpeakingPace(value); }; };
+    const auto setTheme = [](CardStore& s) { s.setTheme("Pink"); };
+    const auto size = [](double value) { return Values {{"cuebrightFontSize", value}}; };
+    const auto opacity = [](double value) { return Values {{"cuebrightOpacity", value}}; };
+    const auto pace = [](std::int64_t value) { return Values {{"cuebrightSpeakingPace", value}}; };
+    const auto wordCount = [](bool value) { return Values {{"cuebrightWordCount", value}}; };
+    const StoreOperation larger = &CardStore::increaseFontSize;
+    const StoreOperation smaller = &CardStore::decreaseFontSize;
+    const StoreOperation clearer = &CardStore::decreaseOpacity;
+    const StoreOperation denser = &CardStore::increaseOpacity;
     const struct {
+        Values stored;
         StoreOperation change;
         const char* notice;
-        Values stored;
+        Values after;
     } cases[] = {
-        {fontSize(20.5), "fontSize 17", {{"cuebrightFontSize", 20.5}}},
-        {fontSize(40), "fontSize 17", {{"cuebrightFontSize", 28.0}}},
-        {fontSize(-1), "fontSize 17", {{"cuebrightFontSize", 14.0}}},
-        {&CardStore::increaseFontSize, "fontSize 17", {{"cuebrightFontSize", 18.0}}},
-        {&CardStore::decreaseFontSize, "fontSize 17", {{"cuebrightFontSize", 16.0}}},
-        {&CardStore::resetFontSize, "fontSize 17", {{"cuebrightFontSize", 17.0}}}, // told although it stays
-        {opacity(0.75), "opacity 1", {{"cuebrightOpacity", 0.75}}},
-        {opacity(2), "opacity 1", {{"cuebrightOpacity", 1.0}}},
-        {opacity(0.2), "opacity 1", {{"cuebrightOpacity", 0.4}}},
-        {&CardStore::increaseOpacity, "opacity 1", {{"cuebrightOpacity", 1.0}}},
-        {pace(100), "speakingPace 130", paceOf(100)},
-        {pace(50), "speakingPace 130", paceOf(80)},
-        {pace(300), "speakingPace 130", paceOf(250)},
-        {&CardStore::toggleWordCount, "showWordCount false", {{"cuebrightWordCount", true}}},
-        {toggleTwice, "showWordCount false", {{"cuebrightWordCount", false}}},
-        {[](CardStore& s) { s.setTheme("Pink"); }, "theme 'system'", {{"cuebrightTheme", "Pink"}}},
+        {{}, setSize(20.5), "fontSize 17", size(20.5)},
+        {{}, setSize(40), "fontSize 17", size(28)},
+        {{}, setSize(-1), "fontSize 17", size(14)},
+        {size(27.5), larger, "fontSize 27.5", size(28)},
+        {size(2), larger, "fontSize 2", size(14)},
+        {size(14.5), smaller, "fontSize 14.5", size(14)},
+        {size(400), smaller, "fontSize 400", size(28)},
+        {size(20), &CardStore::resetFontSize, "fontSize 20", size(17)},
+        {{}, &CardStore::resetFontSize, "fontSize 17", size(17)}, // told although it stays
+        {{}, setOpacity(0.75), "opacity 1", opacity(0.75)},
+        {{}, setOpacity(2), "opacity 1", opacity(1)},
+        {{}, setOpacity(0.2), "opacity 1", opacity(0.4)},
+        {opacity(0.7), denser, "opacity 0.7", opacity(0.7999999999999999)}, // not rounded
+        {opacity(0.95), denser, "opacity 0.95", opacity(1)},
+        {opacity(0.8), clearer, "opacity 0.8", opacity(0.7000000000000001)},
+        {opacity(0.45), clearer, "opacity 0.45", opacity(0.4)},
+        {{}, setPace(100), "speakingPace 130", pace(100)},
+        {{}, setPace(50), "speakingPace 130", pace(80)},
+        {{}, setPace(300), "speakingPace 130", pace(250)},
+        {{}, &CardStore::toggleWordCount, "showWordCount false", wordCount(true)},
+        {wordCount(true), &CardStore::toggleWordCount, "showWordCount true", wordCount(false)},
+        {{}, setTheme, "theme 'system'", {{"cuebrightTheme", "Pink"}}},
     };
     for (const auto& c : cases) {
-        openWith({});
+        SCOPED_TRACE(c.notice);
+        openWith(c.stored);
         std::optional<std::size_t> writesWhenTold;
         const auto subscription = store->willChange.subscribe(
-            [&](const Change&) { writesWhenTold = writesWhenTold.value_or(surroundings.preferences.writes.size()); });
+            [&](const Change&) { writesWhenTold = surroundings.preferences.writes.size(); });
         c.change(*store);
         EXPECT_EQ(takeNotices(), c.notice);
         EXPECT_EQ(writesWhenTold, 0U);
-        EXPECT_EQ(surroundings.preferences.values, c.stored);
+        EXPECT_EQ(surroundings.preferences.values, c.after);
         advance(1s);
         EXPECT_EQ(saves(), 0U);
         const auto held = all();
         openWith(surroundings.preferences.values);
         EXPECT_EQ(held, all());
-    }
-}
-
-TEST_F(CardStorePreferences, StepsOfTheTextSizeEndAtTheLimits)
-{
-    const std::tuple<double, double, double> cases[] = {
-        {28, 28, 27}, {27.5, 28, 26.5}, {14, 15, 14}, {400, 28, 28}, {2, 14, 14}};
-    for (const auto& [stored, increased, decreased] : cases) {
-        SCOPED_TRACE(stored);
-        openWith({{"cuebrightFontSize", stored}});
-        store->increaseFontSize();
-        EXPECT_EQ(store->fontSize(), increased);
-        openWith({{"cuebrightFontSize", stored}});
-        store->decreaseFontSize();
-        EXPECT_EQ(store->fontSize(), decreased);
-        store->resetFontSize();
-        EXPECT_EQ(store->fontSize(), 17);
-    }
-}
-
-TEST_F(CardStorePreferences, StepsOfTheOpacityAreNotRoundedAndEndAtTheLimits)
-{
-    openWith({});
-    for (const double expected :
-        {0.9, 0.8, 0.7000000000000001, 0.6000000000000001, 0.5000000000000001, 0.40000000000000013, 0.4, 0.4}) {
-        store->decreaseOpacity();
-        EXPECT_EQ(store->opacity(), expected);
-    }
-    for (const double expected :
-        {0.5, 0.6, 0.7, 0.7999999999999999, 0.8999999999999999, 0.9999999999999999, 1.0, 1.0}) {
-        store->increaseOpacity();
-        EXPECT_EQ(store->opacity(), expected);
     }
 }
 

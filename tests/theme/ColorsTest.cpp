@@ -4,16 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include <ostream>
-
-namespace cuebright {
-
-static void PrintTo(const Color& color, std::ostream* out)
-{
-    *out << color.red << " " << color.green << " " << color.blue << " " << color.alpha;
-}
-
-namespace test {
+namespace cuebright::test {
 
 namespace {
 
@@ -47,6 +38,4 @@ TEST(Colors, FollowTheLookAndTheContrastOfTheMoment)
 
 } // namespace
 
-} // namespace test
-
-} // namespace cuebright
+} // namespace cuebright::test
