@@ -1,9 +1,8 @@
 #include "desktop/DesktopDisplay.h"
 
 #include <algorithm>
-#include <cstdlib>
-#include <fstream>
 #include <stdexcept>
+#include <utility>
 #include <vector>
 
 #include <unistd.h>
@@ -36,21 +35,17 @@ constexpr std::string_view kWindowManagerSettings = R"(<?xml version="1.0" encod
 /// The environment of the tests without anything that leads to the desktop they were started on.
 Environment detachedEnvironment(const std::filesystem::path& folder)
 {
-    Environment environment;
+    constexpr std::string_view kPrefixes[] = {
+        "QT_", "XDG_", "DBUS_", "AT_SPI_", "WAYLAND_", "XAUTHORITY", "SESSION_MANAGER", "LC_", "LANG"};
+    Environment environment {{"HOME", folder / "home"}, {"XDG_RUNTIME_DIR", folder / "run"}, {"LC_ALL", "C.UTF-8"},
+        {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1"}};
     for (char** entry = environ; *entry; ++entry) {
         const std::string_view text = *entry;
+        const auto isOfDesktop = [&](std::string_view prefix) { return text.starts_with(prefix); };
         const auto equals = text.find('=');
-        const auto name = text.substr(0, equals);
-        const auto isOfDesktop = [&](std::string_view prefix) { return name.starts_with(prefix); };
-        constexpr std::string_view kPrefixes[] = {
-            "QT_", "XDG_", "DBUS_", "AT_SPI_", "WAYLAND_", "XAUTHORITY", "SESSION_MANAGER", "LC_", "LANG"};
         if (equals != std::string_view::npos && std::ranges::none_of(kPrefixes, isOfDesktop))
-            environment.emplace(name, text.substr(equals + 1));
+            environment.emplace(text.substr(0, equals), text.substr(equals + 1));
     }
-    environment["HOME"] = folder / "home";
-    environment["XDG_RUNTIME_DIR"] = folder / "run";
-    environment["LC_ALL"] = "C.UTF-8";
-    environment["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1";
     std::filesystem::create_directories(folder / "home");
     std::filesystem::create_directories(folder / "run");
     std::filesystem::permissions(folder / "run", std::filesystem::perms::owner_all);
@@ -59,60 +54,44 @@ Environment detachedEnvironment(const std::filesystem::path& folder)
 
 } // namespace
 
-TemporaryFolder::TemporaryFolder()
-{
-    std::string pattern = std::filesystem::temp_directory_path() / "cuebright-XXXXXX";
-    if (!mkdtemp(pattern.data()))
-        throw std::runtime_error("cannot make a temporary folder");
-    m_path = pattern;
-}
-
-TemporaryFolder::~TemporaryFolder()
-{
-    std::error_code ignored;
-    std::filesystem::remove_all(m_path, ignored);
-}
-
 Desktop::Desktop()
     : m_environment(detachedEnvironment(m_folder.path()))
+    , m_server(start({"Xvfb", "-displayfd", "1", "-screen", "0", kScreen, "-nolisten", "tcp", "-noreset"}))
+    , m_bus(start({"dbus-daemon", "--session", "--nofork", "--nopidfile", "--print-address=1"}))
 {
-    const auto& folder = m_folder.path();
-    m_server = std::make_unique<Process>(
-        Process::Start {{"Xvfb", "-displayfd", "1", "-screen", "0", kScreen, "-nolisten", "tcp", "-noreset"},
-            m_environment, folder / "display", folder / "display.log"});
     m_environment["DISPLAY"] = ":" + m_server->firstLine();
-
-    m_bus = std::make_unique<Process>(
-        Process::Start {{"dbus-daemon", "--session", "--nofork", "--nopidfile", "--print-address=1"}, m_environment,
-            folder / "bus", folder / "bus.log"});
     m_environment["DBUS_SESSION_BUS_ADDRESS"] = m_bus->firstLine();
-
-    std::ofstream(folder / "openbox.xml") << kWindowManagerSettings;
     m_display = std::make_unique<Display>(m_environment["DISPLAY"]);
+    m_folder.write("openbox.xml", kWindowManagerSettings);
     startWindowManager();
 }
 
 Desktop::~Desktop() = default;
 
+std::unique_ptr<Process> Desktop::start(std::vector<std::string> command) const
+{
+    const auto output = m_folder.file(command.front());
+    return std::make_unique<Process>(
+        Process::Start {std::move(command), m_environment, output, output.string() + ".log"});
+}
+
 void Desktop::startWindowManager()
 {
-    const auto& folder = m_folder.path();
-    m_windowManager = std::make_unique<Process>(Process::Start {
-        {"openbox", "--config-file", folder / "openbox.xml"}, m_environment, folder / "openbox.log", {}});
+    m_windowManager = start({"openbox", "--config-file", m_folder.file("openbox.xml")});
     // While it comes up it overlooks new windows, though it has named itself already.
     if (!waitUntil([this] { return hasProperty(m_display->root, kReady) && managesNewWindows(); }))
-        throw std::runtime_error("the window manager does not come up: " + m_windowManager->output());
+        throw std::runtime_error("the window manager does not come up: " + readFile(m_folder.file("openbox.log")));
 }
 
 void Desktop::restartWindowManager()
 {
     m_windowManager.reset();
     // The former one leaves it behind.
-    XDeleteProperty(m_display->connection, m_display->root, XInternAtom(m_display->connection, kReady, False));
+    XDeleteProperty(m_display->connection, m_display->root, m_display->atom(kReady));
     startWindowManager();
 }
 
-bool Desktop::managesNewWindows()
+bool Desktop::managesNewWindows() const
 {
     const WindowId probe = XCreateSimpleWindow(m_display->connection, m_display->root, 0, 0, 1, 1, 0, 0, 0);
     XMapWindow(m_display->connection, probe);
@@ -125,11 +104,10 @@ bool Desktop::managesNewWindows()
 
 std::unique_ptr<Process> Desktop::startCompositor() const
 {
-    auto compositor =
-        std::make_unique<Process>(Process::Start {{"xcompmgr"}, m_environment, m_folder.path() / "compositor.log", {}});
-    const Atom selection = XInternAtom(m_display->connection, "_NET_WM_CM_S0", False);
+    auto compositor = start({"xcompmgr"});
+    const Atom selection = m_display->atom("_NET_WM_CM_S0");
     if (!waitUntil([&] { return XGetSelectionOwner(m_display->connection, selection) != None; }))
-        throw std::runtime_error("the compositor does not come up: " + compositor->output());
+        throw std::runtime_error("the compositor does not come up: " + readFile(m_folder.file("xcompmgr.log")));
     return compositor;
 }
 
@@ -186,10 +164,8 @@ bool Desktop::hasProperty(WindowId window, const char* name) const
 {
     int count = 0;
     Atom* const atoms = XListProperties(m_display->connection, window, &count);
-    const Atom wanted = XInternAtom(m_display->connection, name, False);
-    const bool isThere = atoms && std::find(atoms, atoms + count, wanted) != atoms + count;
-    if (atoms)
-        XFree(atoms);
+    const bool isThere = std::find(atoms, atoms + count, m_display->atom(name)) != atoms + count;
+    XFree(atoms);
     return isThere;
 }
 
@@ -209,32 +185,26 @@ void Desktop::resize(WindowId window, int width, int height)
 {
     XResizeWindow(m_display->connection, window, static_cast<unsigned>(width), static_cast<unsigned>(height));
     XSync(m_display->connection, False);
-    const auto hasSize = [&] {
-        const auto area = clientArea(window);
-        return area.width == width && area.height == height;
-    };
-    if (!waitUntil(hasSize))
+    const auto has = [&](const Area& area) { return area.width == width && area.height == height; };
+    if (!waitUntil([&] { return has(clientArea(window)); }))
         throw std::runtime_error("the window does not take its new size");
 }
 
 void Desktop::takePicture(WindowId window, const std::filesystem::path& file) const
 {
     constexpr int kStill = 3;
-    const auto log = m_folder.path() / "import.log";
+    const std::vector<std::string> command {
+        "import", "-silent", "-window", std::to_string(window), "-define", "png:exclude-chunks=date,time", file};
     std::string last;
     int same = 0;
     const bool taken = waitUntil([&] {
-        Process import(
-            {{"import", "-silent", "-window", std::to_string(window), "-define", "png:exclude-chunks=date,time", file},
-                m_environment, log, {}});
-        const bool isGood = import.exitStatus() == 0;
-        const auto picture = isGood ? readFile(file) : std::string();
+        auto picture = start(command)->exitStatus() == 0 ? readFile(file) : std::string();
         same = !picture.empty() && picture == last ? same + 1 : 0;
-        last = picture;
+        last = std::move(picture);
         return same == kStill;
     });
     if (!taken)
-        throw std::runtime_error("no picture could be taken: " + readFile(log));
+        throw std::runtime_error("no picture could be taken: " + readFile(m_folder.file("import.log")));
 }
 
 } // namespace cuebright::test

@@ -2,7 +2,6 @@
 
 #include "desktop/Process.h"
 
-#include <filesystem>
 #include <memory>
 #include <optional>
 #include <string>
@@ -10,20 +9,6 @@
 #include <vector>
 
 namespace cuebright::test {
-
-/// A folder that is there as long as its object.
-class TemporaryFolder final {
-public:
-    TemporaryFolder();
-    ~TemporaryFolder();
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-
-    [[nodiscard]] const std::filesystem::path& path() const { return m_path; }
-
-private:
-    std::filesystem::path m_path;
-};
 
 /// A desktop of our own: a virtual display, a window manager without key bindings, a message bus, and the hands of a
 /// user on keyboard and mouse. Nothing of it touches the desktop on which the tests are started.
@@ -89,14 +74,16 @@ public:
     void drag(int fromX, int fromY, int toX, int toY);
     /// A key with its modifiers, as in "Right", "ctrl+e", "ctrl+shift+Return": the key has its X11 name.
     void press(std::string_view chord);
-    /// Letters, digits, blanks and line feeds, as on a US keyboard.
+    /// Small letters, digits, blanks and line feeds, as on a US keyboard.
     void type(std::string_view text);
 
 private:
     struct Display;
+    /// Prints to a file of its name in our folder.
+    [[nodiscard]] std::unique_ptr<Process> start(std::vector<std::string> command) const;
     void startWindowManager();
-    [[nodiscard]] bool managesNewWindows();
-    void askWindowManager(WindowId window, const char* request, const std::vector<long>& data);
+    [[nodiscard]] bool managesNewWindows() const;
+    void askWindowManager(WindowId window, const char* request, const std::vector<long>& data) const;
 
     TemporaryFolder m_folder;
     Environment m_environment;

@@ -28,6 +28,8 @@ struct Desktop::Display {
     Display(const Display&) = delete;
     Display& operator=(const Display&) = delete;
 
+    [[nodiscard]] Atom atom(const char* name) const { return XInternAtom(connection, name, False); }
+
     template <typename Item> std::vector<Item> property(WindowId window, const char* name) const
     {
         Atom type = None;
@@ -36,20 +38,13 @@ struct Desktop::Display {
         unsigned long left = 0;
         unsigned char* data = nullptr;
         std::vector<Item> items;
-        if (XGetWindowProperty(connection, window, XInternAtom(connection, name, False), 0, 4096, False,
-                AnyPropertyType, &type, &format, &count, &left, &data)
-                == Success
-            && data) {
-            const auto* first = reinterpret_cast<const Item*>(data);
+        XGetWindowProperty(
+            connection, window, atom(name), 0, 4096, False, AnyPropertyType, &type, &format, &count, &left, &data);
+        if (const auto* const first = reinterpret_cast<const Item*>(data))
             items.assign(first, first + count);
-        }
-        if (data)
-            XFree(data);
+        XFree(data);
         return items;
     }
-
-    /// `delay` in milliseconds.
-    void move(KeyCode key, Bool down, unsigned long delay = 0) { XTestFakeKeyEvent(connection, key, down, delay); }
 
     void tap(const std::vector<KeySym>& keys)
     {
@@ -58,10 +53,10 @@ struct Desktop::Display {
             codes.push_back(XKeysymToKeycode(connection, key));
         // A press at the moment of the last release would be taken for a key that repeats.
         for (const KeyCode code : codes)
-            move(code, True, 1);
+            XTestFakeKeyEvent(connection, code, True, 1); // a millisecond later
         std::ranges::reverse(codes);
         for (const KeyCode code : codes)
-            move(code, False);
+            XTestFakeKeyEvent(connection, code, False, CurrentTime);
         XSync(connection, False);
     }
 

@@ -1,6 +1,6 @@
 #include "desktop/DesktopDisplay.h"
 
-#include <X11/XKBlib.h>
+#include <map>
 
 namespace cuebright::test {
 
@@ -8,13 +8,10 @@ namespace {
 
 KeySym keyNamed(std::string_view name)
 {
-    if (name == "ctrl")
-        return XStringToKeysym("Control_L");
-    if (name == "alt")
-        return XStringToKeysym("Alt_L");
-    if (name == "shift")
-        return XStringToKeysym("Shift_L");
-    const KeySym key = XStringToKeysym(std::string(name).c_str());
+    const std::map<std::string_view, const char*> modifiers {
+        {"ctrl", "Control_L"}, {"alt", "Alt_L"}, {"shift", "Shift_L"}};
+    const auto modifier = modifiers.find(name);
+    const KeySym key = XStringToKeysym(modifier == modifiers.end() ? std::string(name).c_str() : modifier->second);
     if (key == NoSymbol)
         throw std::runtime_error("no key is called " + std::string(name));
     return key;
@@ -56,12 +53,8 @@ void Desktop::press(std::string_view chord)
 
 void Desktop::type(std::string_view text)
 {
-    for (const char letter : text) {
-        const KeySym key = letter == '\n' ? keyNamed("Return") : static_cast<unsigned char>(letter);
-        const KeyCode code = XKeysymToKeycode(m_display->connection, key);
-        const bool needsShift = XkbKeycodeToKeysym(m_display->connection, code, 0, 0) != key;
-        m_display->tap(needsShift ? std::vector<KeySym> {keyNamed("shift"), key} : std::vector<KeySym> {key});
-    }
+    for (const char letter : text)
+        m_display->tap({letter == '\n' ? keyNamed("Return") : static_cast<unsigned char>(letter)});
 }
 
 } // namespace cuebright::test

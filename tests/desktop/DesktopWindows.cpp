@@ -2,12 +2,12 @@
 
 namespace cuebright::test {
 
-void Desktop::askWindowManager(WindowId window, const char* request, const std::vector<long>& data)
+void Desktop::askWindowManager(WindowId window, const char* request, const std::vector<long>& data) const
 {
     XEvent event {};
     event.xclient.type = ClientMessage;
     event.xclient.window = window;
-    event.xclient.message_type = XInternAtom(m_display->connection, request, False);
+    event.xclient.message_type = m_display->atom(request);
     event.xclient.format = 32;
     std::ranges::copy(data, event.xclient.data.l);
     XSendEvent(
@@ -20,9 +20,9 @@ Desktop::WindowId Desktop::openWindow(Size size)
     const WindowId window =
         XCreateSimpleWindow(m_display->connection, m_display->root, 20, 20, 300, 200, 0, 0, 0x336699);
     if (size == Size::FullScreen) {
-        const Atom fullScreen = XInternAtom(m_display->connection, "_NET_WM_STATE_FULLSCREEN", False);
-        XChangeProperty(m_display->connection, window, XInternAtom(m_display->connection, "_NET_WM_STATE", False),
-            XA_ATOM, 32, PropModeReplace, reinterpret_cast<const unsigned char*>(&fullScreen), 1);
+        const Atom fullScreen = m_display->atom("_NET_WM_STATE_FULLSCREEN");
+        XChangeProperty(m_display->connection, window, m_display->atom("_NET_WM_STATE"), XA_ATOM, 32, PropModeReplace,
+            reinterpret_cast<const unsigned char*>(&fullScreen), 1);
     }
     XMapWindow(m_display->connection, window);
     if (!waitUntil([&] { return isOnScreen(window); }))
@@ -45,7 +45,7 @@ void Desktop::closeWindow(WindowId window)
 
 void Desktop::leaveFullScreen(WindowId window)
 {
-    const Atom fullScreen = XInternAtom(m_display->connection, "_NET_WM_STATE_FULLSCREEN", False);
+    const Atom fullScreen = m_display->atom("_NET_WM_STATE_FULLSCREEN");
     askWindowManager(window, "_NET_WM_STATE", {0, static_cast<long>(fullScreen), 0, 2, 0}); // 0: remove
 }
 

@@ -20,17 +20,14 @@ TEST_P(Leaving, KeepsWhatIsStillBeingTyped)
 {
     const Home home;
     RunningPanel panel(home);
-    panel.press("ctrl+e");
-    ASSERT_TRUE(panel.editorHolds("Cue cards"));
-    panel.type("unfinished thought");
-    ASSERT_TRUE(panel.editorHolds("unfinished thought"));
+    follow(panel, {{"ctrl+e", kEditorHolds, "Cue cards"}, {"h a l f w a y", kEditorHolds, "halfway"}});
 
     GetParam().leave(panel);
 
     const auto status = panel.exitStatus();
     ASSERT_TRUE(status) << panel.console();
     EXPECT_EQ(*status == 0, GetParam().isOrderly) << *status << panel.console();
-    EXPECT_NE(readFile(home.stateFile()).find("unfinished thought"), std::string::npos);
+    EXPECT_NE(readFile(home.stateFile()).find("halfway"), std::string::npos);
 }
 
 INSTANTIATE_TEST_SUITE_P(Ways, Leaving,

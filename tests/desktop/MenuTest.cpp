@@ -5,15 +5,6 @@
 namespace cuebright::test {
 namespace {
 
-/// Opens the menu with that letter and goes down to an item; separators and what is disabled are passed over.
-void choose(const RunningPanel& panel, const char* letter, int item)
-{
-    panel.press(std::string("alt+") + letter);
-    for (int i = 0; i < item; ++i)
-        panel.press("Down");
-    panel.press("Return");
-}
-
 constexpr int kDark = 60;
 
 TEST(DesktopMenus, AnEveningOfWorkByKeyboardAloneIsThereTheNextMorning)
@@ -22,28 +13,21 @@ TEST(DesktopMenus, AnEveningOfWorkByKeyboardAloneIsThereTheNextMorning)
     {
         RunningPanel panel(home);
         ASSERT_TRUE(panel.shows("File"));
-        choose(panel, "f", 2); // New Deck
-        ASSERT_TRUE(panel.hasTitle("Cuebright — New Deck"));
-        choose(panel, "f", 3); // Rename Deck…: with one card there is none to delete
-        ASSERT_TRUE(panel.shows("Rename Deck"));
-        panel.type("talk\n");
-        ASSERT_TRUE(panel.hasTitle("Cuebright — talk"));
-        choose(panel, "f", 0); // New Card
-        ASSERT_TRUE(panel.editorHolds("# "));
-        panel.type("first words");
-        choose(panel, "e", 1); // Save Card: below Undo, there is nothing to redo
-        ASSERT_TRUE(panel.shows("Card 2 of 2"));
-        choose(panel, "d", 0); // Move Card Up
-        ASSERT_TRUE(panel.shows("Card 1 of 2"));
-        panel.press("Right");
-        ASSERT_TRUE(panel.shows("Card 2 of 2"));
-        panel.press("alt+v"); // Appearance, Dark
-        for (const auto* const key : {"Return", "Down", "Down", "Return"})
-            panel.press(key);
+        // In a menu, separators and what is disabled are passed over.
+        follow(panel,
+            {
+                {"alt+f Down Down Return", kHasTitle, "Cuebright — New Deck"}, // New Deck
+                {"alt+f Down Down Down Return", kShows, "Rename Deck"}, // with one card there is none to delete
+                {"t a l k Return", kHasTitle, "Cuebright — talk"},
+                {"alt+f Return", kEditorHolds, "# "}, // New Card
+                {"f i r s t space w o r d s", kEditorHolds, "first words"},
+                {"alt+e Down Return", kShows, "Card 2 of 2"}, // Save Card: below Undo, there is nothing to redo
+                {"alt+d Return", kShows, "Card 1 of 2"}, // Move Card Up
+                {"Right", kShows, "Card 2 of 2"},
+            });
+        panel.press("alt+v Return Down Down Return"); // Appearance, Dark
         ASSERT_TRUE(panel.hasBrightness(0, kDark));
-        panel.press("alt+c");
-        panel.press("Up"); // Quit Cuebright
-        panel.press("Return");
+        panel.press("alt+c Up Return"); // Quit Cuebright
         ASSERT_EQ(panel.exitStatus(), 0) << panel.console();
     }
     const RunningPanel panel(home);
@@ -58,11 +42,12 @@ TEST(DesktopMenus, SettingsAreReachedAndLeftByKeyboardAndTheirKeysAreTheMenus)
 {
     const Home home;
     RunningPanel panel(home);
-    panel.press("ctrl+comma");
-    ASSERT_TRUE(panel.shows("Reset All Data…"));
-    panel.press("ctrl+shift+n"); // the main menu's, while the settings have the keyboard
-    EXPECT_TRUE(panel.hasTitle("Cuebright — New Deck"));
-
+    follow(panel,
+        {
+            {"ctrl+comma", kShows, "Reset All Data…"},
+            {"ctrl+shift+n", kHasTitle,
+                "Cuebright — New Deck"}, // the main menu's, while the settings have the keyboard
+        });
     ASSERT_TRUE(panel.pressButton("Reset All Data…"));
     ASSERT_TRUE(panel.pressButton("Reset Everything"));
     EXPECT_TRUE(panel.hasTitle("Cuebright — Getting Started"));
@@ -80,11 +65,12 @@ TEST(DesktopMenus, WithoutABusEverythingElseWorks)
     const Home home;
     Process program(home.program({{"DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere"}}));
     Desktop::WindowId window = 0;
+    const auto isOnScreen = [&] { return desktop().isOnScreen(window); };
     ASSERT_TRUE(waitUntil([&] { return (window = desktop().windowOf(program.pid()).value_or(0)) != 0; }));
     desktop().press("ctrl+shift+s");
-    EXPECT_TRUE(waitUntil([&] { return !desktop().isOnScreen(window); }));
+    EXPECT_TRUE(waitUntil(std::not_fn(isOnScreen)));
     desktop().press("ctrl+shift+s");
-    EXPECT_TRUE(waitUntil([&] { return desktop().isOnScreen(window); }));
+    EXPECT_TRUE(waitUntil(isOnScreen));
     const auto place = desktop().clientArea(window);
     desktop().click(place.x + 12, place.y + place.height - 8);
     ASSERT_TRUE(waitUntil([&] { return desktop().isActive(window); }));

@@ -1,101 +1,101 @@
-#include "desktop/RunningPanel.h"
+#include "desktop/DesktopBus.h"
+#include "support/FakeKWin.h"
+#include "support/FakePortal.h"
 
-#include <fstream>
-
-#include <sys/stat.h>
+#include <QDBusPendingCall>
+#include <QThread>
 
 namespace cuebright::test {
 namespace {
 
-/// Another process of the desktop: what it was asked, and a hand to move it.
-class Neighbour final {
+/// The compositor or the portal of the desktop, in a thread of its own.
+template <typename Fake> class Neighbour final {
 public:
-    explicit Neighbour(const char* program)
-        : m_input(m_folder.path() / "input")
-        , m_isMade(::mkfifo(m_input.c_str(), 0600) == 0)
-        , m_hand(m_input, std::ios::in | std::ios::out) // both, or it would wait for the other end
-        , m_program({{"sh", "-c", "exec \"$0\" < \"$1\"", program, m_input}, desktop().environment(),
-              m_folder.path() / "output", {}})
+    explicit Neighbour(const QString& name)
+        : m_name(name)
     {
-        if (!m_isMade || m_program.firstLine() != "ready")
-            throw std::runtime_error("the neighbour does not come up");
+        m_fake.moveToThread(&m_thread);
+        m_thread.start();
+    }
+    Neighbour(const Neighbour&) = delete;
+    Neighbour& operator=(const Neighbour&) = delete;
+    ~Neighbour()
+    {
+        m_thread.quit();
+        m_thread.wait();
+        QDBusConnection::disconnectFromBus(m_name);
     }
 
-    void order(std::string_view line) { m_hand << line << std::endl; }
-    [[nodiscard]] testing::AssertionResult wasAsked(std::string_view call) const
+    template <typename Work> void order(Work work)
     {
-        return waitUntil([&] { return m_program.output().find(call) != std::string::npos; })
-            ? testing::AssertionSuccess()
-            : testing::AssertionFailure() << "it was asked:\n"
-                                          << m_program.output();
+        QMetaObject::invokeMethod(
+            &m_fake, [&] { work(m_fake); }, Qt::BlockingQueuedConnection);
+    }
+    [[nodiscard]] testing::AssertionResult wasAsked(const char* call)
+    {
+        QString calls;
+        const auto isThere = [&] {
+            order([&](const Fake& fake) { calls = fake.calls.join(QLatin1Char('\n')); });
+            return calls.contains(QString::fromLatin1(call));
+        };
+        return waitUntil(isThere) ? testing::AssertionSuccess() : testing::AssertionFailure() << calls.toStdString();
     }
 
 private:
-    TemporaryFolder m_folder;
-    std::filesystem::path m_input;
-    bool m_isMade;
-    std::fstream m_hand;
-    Process m_program;
+    QString m_name;
+    Fake m_fake {connectToDesktop(m_name)};
+    QThread m_thread;
 };
 
-TEST(DesktopNeighbours, InAWaylandSessionTheHotKeyComesFromThePortal)
+TEST(DesktopNeighbours, InAPlasmaSessionTheHotKeyComesFromThePortalAndKWinHidesThePanelFromShares)
 {
-    Neighbour portal(FAKE_PORTAL);
-    const Home home;
-    const RunningPanel panel(home, {{"XDG_SESSION_TYPE", "wayland"}});
-    ASSERT_TRUE(portal.wasAsked("BindShortcuts toggle-panel CTRL+SHIFT+s"));
-    portal.order("activate toggle-panel");
-    EXPECT_TRUE(panel.isOffScreen());
-    portal.order("activate toggle-panel");
-    EXPECT_TRUE(panel.isOnScreen());
-}
-
-TEST(DesktopNeighbours, KWinIsAskedInOrderAndWhatWasLostIsAppliedAgain)
-{
-    Neighbour kwin(FAKE_KWIN);
-    Neighbour portal(FAKE_PORTAL);
+    Neighbour<FakeKWin> kwin(QStringLiteral("kwin"));
+    Neighbour<FakePortal> portal(QStringLiteral("portal"));
+    const auto pressHotKey = [](FakePortal& fake) { EXPECT_TRUE(fake.activate(QStringLiteral("toggle-panel"))); };
     const Home home;
     const RunningPanel panel(home, {{"XDG_SESSION_TYPE", "wayland"}, {"XDG_CURRENT_DESKTOP", "KDE"}});
-    EXPECT_TRUE(kwin.wasAsked("unloadScript(s) cuebright\n/Scripting org.kde.kwin.Scripting.loadScript(ss) "));
-    EXPECT_TRUE(kwin.wasAsked(" cuebright\n/Scripting/Script5 org.kde.kwin.Script.run()\n"));
-
-    ASSERT_TRUE(portal.wasAsked("BindShortcuts"));
-    kwin.order("now refused");
+    EXPECT_TRUE(kwin.wasAsked(" cuebright\n/Scripting/Script5 org.kde.kwin.Script.run()"));
+    ASSERT_TRUE(portal.wasAsked("BindShortcuts toggle-panel CTRL+SHIFT+s"));
+    kwin.order([](FakeKWin& fake) {
+        fake.report = QStringLiteral("omitted"); // once it is asked again
+        fake.connection.asyncCall(fake.reportOf(QStringLiteral("refused")));
+    });
     ASSERT_TRUE(panel.shows("Visible in screen shares"));
-    portal.order("activate toggle-panel");
+    portal.order(pressHotKey);
     ASSERT_TRUE(panel.isOffScreen());
-    kwin.order("omitted");
-    ASSERT_TRUE(kwin.wasAsked("will report omitted"));
-    portal.order("activate toggle-panel");
+    portal.order(pressHotKey);
+    EXPECT_TRUE(panel.isOnScreen());
     EXPECT_TRUE(panel.shows("Protection re-applied"));
     EXPECT_EQ(panel.console(), "[Cuebright] WARNING: sharingType was reset — re-applied .none\n");
 }
 
 TEST(DesktopNeighbours, TheLookFollowsTheDesktopWhileRunning)
 {
-    Neighbour portal(FAKE_PORTAL);
+    Neighbour<FakePortal> portal(QStringLiteral("portal"));
     const Home home;
     const RunningPanel panel(home);
     ASSERT_TRUE(panel.hasBrightness(200, 255));
-    portal.order("set org.freedesktop.appearance color-scheme 1");
-    EXPECT_TRUE(panel.hasBrightness(0, 60));
-    portal.order("set org.freedesktop.appearance color-scheme 2");
-    EXPECT_TRUE(panel.hasBrightness(200, 255));
+    for (const auto& [scheme, least, most] : {std::tuple(1U, 0, 60), std::tuple(2U, 200, 255)}) {
+        portal.order([wanted = scheme](FakePortal& fake) {
+            fake.changeSetting(QStringLiteral("org.freedesktop.appearance"), QStringLiteral("color-scheme"), wanted);
+        });
+        EXPECT_TRUE(panel.hasBrightness(least, most));
+    }
 }
 
 TEST(DesktopNeighbours, GlassComesAndGoesWithTheCompositor)
 {
-    constexpr const char* kGlass = "_KDE_NET_WM_BLUR_BEHIND_REGION";
     const Home home;
     home.prefer("cuebrightOpacity", "0.8");
     const RunningPanel panel(home);
-    EXPECT_FALSE(desktop().hasProperty(panel.window(), kGlass));
+    const auto hasGlass = [&] { return desktop().hasProperty(panel.window(), "_KDE_NET_WM_BLUR_BEHIND_REGION"); };
+    EXPECT_FALSE(hasGlass());
     {
         const auto compositor = desktop().startCompositor();
-        EXPECT_TRUE(waitUntil([&] { return desktop().hasProperty(panel.window(), kGlass); }));
+        EXPECT_TRUE(panel.reaches("glass", hasGlass));
         EXPECT_TRUE(panel.hasBrightness(150, 230)) << "the desktop shows through";
     }
-    EXPECT_TRUE(waitUntil([&] { return !desktop().hasProperty(panel.window(), kGlass); }));
+    EXPECT_TRUE(panel.reaches("no glass", std::not_fn(hasGlass)));
 }
 
 } // namespace

@@ -1,8 +1,10 @@
-#include "desktop/BusClient.h"
-#include "desktop/RunningPanel.h"
+#include "desktop/DesktopBus.h"
+
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <QDBusReply>
 
 #include <csignal>
-#include <memory>
 #include <ostream>
 
 namespace cuebright::test {
@@ -22,10 +24,8 @@ protected:
     const Home home;
     const TemporaryFolder folder;
 
-    [[nodiscard]] std::filesystem::path messages() const { return folder.path() / "messages"; }
-
-    /// It has no display to go to: who merely hands over needs none.
-    [[nodiscard]] std::unique_ptr<Process> launch() const
+    /// It has no display to go to: who merely hands over needs none. Returns what it says.
+    [[nodiscard]] std::string launch() const
     {
         Environment environment {{"DISPLAY", ":65000"}};
         if (!GetParam().sharesBus)
@@ -33,8 +33,9 @@ protected:
         if (!GetParam().sharesFolder)
             environment["XDG_RUNTIME_DIR"] = folder.path();
         auto start = home.program(environment);
-        start.output = messages();
-        return std::make_unique<Process>(start);
+        start.output = folder.file("messages");
+        EXPECT_EQ(Process(start).exitStatus(), 0);
+        return readFile(start.output);
     }
 };
 
@@ -43,18 +44,15 @@ TEST_P(FurtherLaunch, ShowsThePanelOfTheFirstWithTheKeyboardAndEndsEvenThoughTha
     const RunningPanel panel(home);
     panel.press("ctrl+shift+s");
     ASSERT_TRUE(panel.isOffScreen());
-    const auto other = desktop().openWindow(Desktop::Size::Small);
-    EXPECT_EQ(launch()->exitStatus(), 0) << readFile(messages());
+    const OtherWindow other;
+    EXPECT_EQ(launch(), "");
     EXPECT_TRUE(panel.isOnScreen());
-    EXPECT_TRUE(waitUntil([&] { return desktop().isActive(panel.window()); }));
-    EXPECT_EQ(readFile(messages()), "");
-    desktop().closeWindow(other);
+    EXPECT_TRUE(panel.isActive());
 
     panel.press("ctrl+shift+s");
     ASSERT_TRUE(panel.isOffScreen());
     panel.send(SIGSTOP);
-    EXPECT_EQ(launch()->exitStatus(), 0);
-    EXPECT_NE(readFile(messages()).find("does not answer"), std::string::npos) << readFile(messages());
+    EXPECT_EQ(launch(), "Cuebright is running already but does not answer; it shows its panel when it does.\n");
     panel.send(SIGCONT);
     EXPECT_TRUE(panel.isOnScreen());
 }
@@ -62,16 +60,6 @@ TEST_P(FurtherLaunch, ShowsThePanelOfTheFirstWithTheKeyboardAndEndsEvenThoughTha
 INSTANTIATE_TEST_SUITE_P(Ways, FurtherLaunch,
     testing::Values(Way {"BusAndFolder", true, true}, Way {"FolderAlone", false, true}, Way {"BusAlone", true, false}),
     [](const auto& way) { return way.param.name; });
-
-TEST(OneInstance, AKilledProgramKeepsNobodyOut)
-{
-    const Home home;
-    RunningPanel killed(home);
-    killed.send(SIGKILL);
-    ASSERT_EQ(killed.exitStatus(), 128 + SIGKILL);
-    const RunningPanel next(home);
-    EXPECT_TRUE(next.isOnScreen());
-}
 
 TEST(OneInstance, TwoStartedAtOnceEndAsOne)
 {
@@ -85,55 +73,67 @@ TEST(OneInstance, TwoStartedAtOnceEndAsOne)
     EXPECT_TRUE(waitUntil([&] { return desktop().windowOf(running.pid()).has_value(); }));
 }
 
+const QString kName = QStringLiteral("app.cuebright.Cuebright");
+const QString kBus = QStringLiteral("org.freedesktop.DBus");
+
+/// Somebody else on the message bus, who asks the program for its actions.
 class Remote : public testing::Test {
 protected:
     const Home home;
-    const BusClient bus {desktop().environment().at("DBUS_SESSION_BUS_ADDRESS")};
+    const QDBusConnection bus = connectToDesktop(QStringLiteral("remote"));
     pid_t startedByBus = 0;
 
     Remote() { home.keepDeck("Talk", {"# One", "# Two", "# Three"}); }
 
-    void TearDown() override
+    ~Remote() override
     {
-        if (startedByBus == 0)
-            return;
-        kill(startedByBus, SIGKILL);
-        EXPECT_TRUE(waitUntil([this] { return !bus.owner(kName); }));
+        if (startedByBus != 0)
+            kill(startedByBus, SIGKILL);
+        EXPECT_TRUE(waitUntil([this] { return startedByBus == 0 || owner() == 0; }));
+        QDBusConnection::disconnectFromBus(bus.name());
     }
+
+    /// Starts the program where it does not run. True once it has answered.
+    [[nodiscard]] bool activate(const char* action) const
+    {
+        auto call = QDBusMessage::createMethodCall(kName, QStringLiteral("/app/cuebright/Cuebright"),
+            QStringLiteral("org.freedesktop.Application"), QStringLiteral("ActivateAction"));
+        call << QString::fromLatin1(action) << QVariantList() << QVariantMap();
+        return bus.call(call).type() == QDBusMessage::ReplyMessage;
+    }
+    /// The process that has the program's name; 0 where none has it.
+    [[nodiscard]] pid_t owner() const { return static_cast<pid_t>(bus.interface()->servicePid(kName).value()); }
 
     /// The bus knows the program as if it were installed.
     void install() const
     {
-        const std::filesystem::path script = home.stateFolder().parent_path() / "start";
+        const auto script = home.stateFolder().parent_path() / "start";
         std::string text = "#!/bin/sh\n";
         for (const auto& [name, value] : home.environment())
             text += "export " + name + "='" + value + "'\n";
         Home::write(script, text + "exec " CUEBRIGHT_PROGRAM "\n");
         std::filesystem::permissions(script, std::filesystem::perms::owner_all);
-        const std::filesystem::path services = desktop().environment().at("XDG_RUNTIME_DIR") + "/dbus-1/services";
-        Home::write(services / (std::string(kName) + ".service"),
-            "[D-BUS Service]\nName=" + std::string(kName) + "\nExec=" + script.string() + "\n");
-        bus.reloadServices();
+        Home::write(desktop().environment().at("XDG_RUNTIME_DIR") + "/dbus-1/services/app.cuebright.Cuebright.service",
+            "[D-BUS Service]\nName=app.cuebright.Cuebright\nExec=" + script.string() + "\n");
+        bus.call(QDBusMessage::createMethodCall(
+            kBus, QStringLiteral("/org/freedesktop/DBus"), kBus, QStringLiteral("ReloadConfig")));
     }
-
-    static constexpr const char* kName = "app.cuebright.Cuebright";
 };
 
 TEST_F(Remote, ActionsStepAndToggleWithoutTheKeyboard)
 {
-    const auto other = desktop().openWindow(Desktop::Size::Small);
+    const OtherWindow other;
     const RunningPanel panel(home, {}, RunningPanel::Keyboard::Left);
     ASSERT_TRUE(panel.shows("CARD 01 / 03"));
-    EXPECT_TRUE(bus.activateAction(kName, "next-card"));
+    EXPECT_TRUE(activate("next-card"));
     EXPECT_TRUE(panel.shows("CARD 02 / 03"));
-    EXPECT_TRUE(bus.activateAction(kName, "previous-card"));
+    EXPECT_TRUE(activate("previous-card"));
     EXPECT_TRUE(panel.shows("CARD 01 / 03"));
-    EXPECT_TRUE(bus.activateAction(kName, "toggle-panel"));
+    EXPECT_TRUE(activate("toggle-panel"));
     EXPECT_TRUE(panel.isOffScreen());
-    EXPECT_TRUE(bus.activateAction(kName, "toggle-panel"));
+    EXPECT_TRUE(activate("toggle-panel"));
     EXPECT_TRUE(panel.isOnScreen());
-    EXPECT_TRUE(desktop().isActive(other));
-    desktop().closeWindow(other);
+    EXPECT_TRUE(other.hasKeyboard());
 }
 
 TEST_F(Remote, NothingStepsWhileAQuestionIsOpen)
@@ -141,7 +141,8 @@ TEST_F(Remote, NothingStepsWhileAQuestionIsOpen)
     const RunningPanel panel(home);
     panel.press("ctrl+d");
     ASSERT_TRUE(panel.showsButton("Delete"));
-    EXPECT_TRUE(bus.activateAction(kName, "next-card"));
+    ASSERT_TRUE(panel.reaches("the question's keyboard", [&] { return !desktop().isActive(panel.window()); }));
+    EXPECT_TRUE(activate("next-card"));
     panel.press("Return");
     EXPECT_TRUE(panel.shows("CARD 01 / 02"));
 }
@@ -149,14 +150,13 @@ TEST_F(Remote, NothingStepsWhileAQuestionIsOpen)
 TEST_F(Remote, AToggleThatStartsTheProgramLeavesThePanelOnTheScreen)
 {
     install();
-    ASSERT_TRUE(bus.activateAction(kName, "toggle-panel"));
-    startedByBus = bus.owner(kName).value_or(0);
+    ASSERT_TRUE(activate("toggle-panel"));
+    startedByBus = owner();
     ASSERT_GT(startedByBus, 0);
-    std::optional<Desktop::WindowId> window;
-    ASSERT_TRUE(waitUntil([&] { return (window = desktop().windowOf(startedByBus)).has_value(); }));
+    ASSERT_TRUE(waitUntil([&] { return desktop().windowOf(startedByBus).has_value(); }));
     // The answer to a later call comes after everything that the first one did.
-    EXPECT_TRUE(bus.activateAction(kName, "next-card"));
-    EXPECT_TRUE(desktop().isOnScreen(*window));
+    EXPECT_TRUE(activate("next-card"));
+    EXPECT_TRUE(desktop().isOnScreen(*desktop().windowOf(startedByBus)));
 }
 
 } // namespace

@@ -1,7 +1,5 @@
 #include "desktop/Process.h"
 
-#include <fstream>
-#include <iterator>
 #include <stdexcept>
 #include <thread>
 
@@ -14,18 +12,24 @@ namespace cuebright::test {
 
 namespace {
 
-std::vector<char*> pointersTo(std::vector<std::string>& texts)
+/// Turns the process that was forked off the test into the program.
+[[noreturn]] void become(Process::Start program, pid_t test)
 {
-    std::vector<char*> pointers;
-    for (auto& text : texts)
-        pointers.push_back(text.data());
-    pointers.push_back(nullptr);
-    return pointers;
-}
-
-int openForOutput(const std::filesystem::path& path)
-{
-    return open(path.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0600);
+    prctl(PR_SET_PDEATHSIG, program.lastSignal);
+    const auto redirect = [](int stream, const std::filesystem::path& file) {
+        return dup2(open(file.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0600), stream) >= 0;
+    };
+    clearenv();
+    for (const auto& [name, value] : program.environment)
+        setenv(name.c_str(), value.c_str(), 1);
+    std::vector<char*> arguments;
+    for (auto& argument : program.command)
+        arguments.push_back(argument.data());
+    arguments.push_back(nullptr);
+    if (getppid() == test && redirect(STDOUT_FILENO, program.output)
+        && redirect(STDERR_FILENO, program.errors.empty() ? program.output : program.errors))
+        execvp(arguments.front(), arguments.data());
+    _exit(127);
 }
 
 } // namespace
@@ -41,61 +45,31 @@ bool waitUntil(const std::function<bool()>& condition, std::chrono::milliseconds
     return true;
 }
 
-std::string readFile(const std::filesystem::path& path)
-{
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
 Process::Process(Start start)
     : m_start(std::move(start))
 {
-    std::vector<std::string> arguments = m_start.command;
-    std::vector<std::string> variables;
-    for (const auto& [name, value] : m_start.environment)
-        variables.push_back(name + "=" + value);
-    const auto argv = pointersTo(arguments);
-    const auto envp = pointersTo(variables);
-    const int output = openForOutput(m_start.output);
-    const int errors = m_start.errors.empty() ? dup(output) : openForOutput(m_start.errors);
     const pid_t test = getpid();
-
     m_pid = fork();
-    if (m_pid == 0) {
-        prctl(PR_SET_PDEATHSIG, m_start.lastSignal);
-        if (getppid() != test)
-            _exit(127);
-        dup2(output, STDOUT_FILENO);
-        dup2(errors, STDERR_FILENO);
-        execvpe(argv.front(), argv.data(), envp.data());
-        _exit(127);
-    }
-    close(output);
-    close(errors);
     if (m_pid < 0)
         throw std::runtime_error("cannot start " + m_start.command.front());
+    if (m_pid == 0)
+        become(m_start, test);
 }
 
 Process::~Process()
 {
-    if (hasEnded())
-        return;
-    send(m_start.lastSignal);
-    if (!waitUntil([this] { return hasEnded(); }, std::chrono::seconds(5))) {
-        send(SIGKILL);
-        (void)waitUntil([this] { return hasEnded(); });
+    for (const int signal : {m_start.lastSignal, SIGKILL}) {
+        send(signal);
+        if (waitUntil([this] { return hasEnded(); }, std::chrono::seconds(5)))
+            return;
     }
 }
 
 std::string Process::firstLine() const
 {
-    std::string text;
-    const bool came = waitUntil([&] {
-        text = output();
-        return text.find('\n') != std::string::npos;
-    });
-    if (!came)
-        throw std::runtime_error(m_start.command.front() + " does not come up: " + text + readFile(m_start.errors));
+    if (!waitUntil([this] { return output().find('\n') != std::string::npos; }))
+        throw std::runtime_error(m_start.command.front() + " does not come up: " + output() + readFile(m_start.errors));
+    const auto text = output();
     return text.substr(0, text.find('\n'));
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/TemporaryFolder.h"
+
 #include <chrono>
 #include <csignal>
 #include <filesystem>
@@ -22,9 +24,6 @@ constexpr std::chrono::seconds kPatience {20};
 /// Asks again and again until `condition` holds; false when it still does not after `patience`.
 [[nodiscard]] bool waitUntil(const std::function<bool()>& condition, std::chrono::milliseconds patience = kPatience);
 
-/// The whole text of a file; empty where there is none.
-[[nodiscard]] std::string readFile(const std::filesystem::path& path);
-
 /// A program that a test started. It ends with its owner, and by the system's hand when the test itself is killed.
 class Process final {
 public:
@@ -32,7 +31,7 @@ public:
         std::vector<std::string> command;
         Environment environment;
         std::filesystem::path output; ///< takes what the program prints
-        std::filesystem::path errors; ///< empty: in with the output
+        std::filesystem::path errors {}; ///< empty: in with the output
         int lastSignal = SIGTERM; ///< what it gets when it has to go
     };
 
@@ -54,7 +53,7 @@ public:
 
 private:
     Start m_start;
-    pid_t m_pid = -1;
+    pid_t m_pid;
     std::optional<int> m_status;
 };
 

@@ -4,6 +4,7 @@
 #include <fstream>
 #include <sstream>
 #include <stdexcept>
+#include <utility>
 
 namespace cuebright::test {
 
@@ -37,19 +38,18 @@ void Home::prefer(std::string_view key, std::string_view value) const
 
 void Home::keepDeck(std::string_view name, const std::vector<std::string_view>& cards, int activeCard) const
 {
-    constexpr std::string_view kDates = R"("createdAt":"2026-11-16T01:21:19Z","updatedAt":"2026-11-16T01:21:19Z")";
-    constexpr std::string_view kIds = R"("id":"6b0f5c1e-3d0a-4e8b-9d55-2f7a1c9e4b)";
-    std::ostringstream text;
-    text << R"({"opacity":1,"fontSize":17,"activeCardIndex":)" << activeCard << R"(,"decks":[{)" << kIds
-         << R"(10","name":")" << name << "\"," << kDates << R"(,"cards":[)";
     int number = 10;
-    for (const auto card : cards) {
-        text << (number == 10 ? "{" : ",{") << kIds << number + 1 << R"(","content":")" << card << "\"," << kDates
-             << "}";
-        ++number;
-    }
-    text << "]}]}";
-    write(stateFile(), text.str());
+    const auto record = [&number](const char* key, std::string_view text) {
+        constexpr auto kDates = R"("createdAt":"2026-11-16T01:21:19Z","updatedAt":"2026-11-16T01:21:19Z",")";
+        return R"({"id":"6b0f5c1e-3d0a-4e8b-9d55-2f7a1c9e4b)" + std::to_string(++number) + "\"," + kDates + key
+            + "\":\"" + std::string(text) + '"';
+    };
+    std::string text = R"({"opacity":1,"fontSize":17,"activeCardIndex":)" + std::to_string(activeCard) + R"(,"decks":[)"
+        + record("name", name) + R"(,"cards":[)";
+    const char* separator = "";
+    for (const auto card : cards)
+        text += std::exchange(separator, ",") + record("content", card) + '}';
+    write(stateFile(), text + "]}]}");
 }
 
 std::filesystem::path Home::preferencesFile() const
@@ -81,105 +81,118 @@ void Home::write(const std::filesystem::path& path, std::string_view text)
 RunningPanel::RunningPanel(const Home& home, const Environment& more, Keyboard keyboard)
     : m_program(home.program(more))
 {
-    bool up = false;
-    (void)waitUntil([&] {
+    const auto isUp = [&] {
         m_window = desktop().windowOf(m_program.pid()).value_or(0);
-        up = m_window != 0 && !find(title()).empty();
-        return up || m_program.hasEnded();
-    });
-    if (!up)
+        return m_window != 0 && !screenReader().find(m_program.pid(), title()).empty();
+    };
+    if (!waitUntil([&] { return isUp() || m_program.hasEnded(); }) || m_program.hasEnded())
         throw std::runtime_error("the panel does not come up, the program printed: " + console());
     if (keyboard == Keyboard::Left)
         return;
     const auto place = area();
     // The corner is empty: in the middle there may be a link.
     desktop().click(place.x + 12, place.y + place.height - 8);
-    if (!waitUntil([this] { return desktop().isActive(m_window); }))
+    if (!isActive())
         throw std::runtime_error("a click does not give the panel the keyboard");
 }
 
-std::vector<ScreenReader::Element> RunningPanel::find(std::string_view name) const
+testing::AssertionResult RunningPanel::reaches(std::string_view what, const std::function<bool()>& condition) const
 {
-    return screenReader().find(m_program.pid(), name);
+    if (waitUntil(condition))
+        return testing::AssertionSuccess();
+    const auto pid = m_program.pid();
+    return testing::AssertionFailure() << "waited for: " << what << "\nthe panel, " << title() << ", shows:\n"
+                                       << screenReader().describe(pid)
+                                       << "the editor holds: " << screenReader().editableText(pid)
+                                       << "\nit printed: " << console();
 }
 
 testing::AssertionResult RunningPanel::isOnScreen() const
 {
-    return outcome(waitUntil([&] { return desktop().isOnScreen(m_window); }), "the panel on the screen");
+    return reaches("the panel on the screen", [&] { return desktop().isOnScreen(m_window); });
 }
 
 testing::AssertionResult RunningPanel::isOffScreen() const
 {
-    return outcome(waitUntil([&] { return !desktop().isOnScreen(m_window); }), "the panel off the screen");
+    return reaches("the panel off the screen", [&] { return !desktop().isOnScreen(m_window); });
+}
+
+testing::AssertionResult RunningPanel::isActive() const
+{
+    return reaches("the keyboard", [&] { return desktop().isActive(m_window); });
 }
 
 testing::AssertionResult RunningPanel::hasTitle(std::string_view wanted) const
 {
-    const bool seen = waitUntil([&] { return title() == wanted; });
-    return seen ? testing::AssertionSuccess() : testing::AssertionFailure() << "the title is " << title();
+    return reaches(wanted, [&] { return title() == wanted; });
+}
+
+testing::AssertionResult RunningPanel::showsOne(std::string_view name, const Condition& isRight) const
+{
+    return reaches(name, [&] { return std::ranges::any_of(screenReader().find(m_program.pid(), name), isRight); });
 }
 
 testing::AssertionResult RunningPanel::shows(std::string_view name) const
 {
-    return outcome(waitUntil([&] { return !find(name).empty(); }), name);
+    return showsOne(name, [](const auto&) { return true; });
 }
 
 testing::AssertionResult RunningPanel::showsNoLonger(std::string_view name) const
 {
-    return outcome(waitUntil([&] { return find(name).empty(); }), name);
+    return reaches(name, [&] { return screenReader().find(m_program.pid(), name).empty(); }) << " gone";
 }
 
 testing::AssertionResult RunningPanel::showsButton(std::string_view name) const { return hasRole(name, "push button"); }
 
 testing::AssertionResult RunningPanel::hasDisabled(std::string_view name) const
 {
-    const auto isOff = [](const ScreenReader::Element& element) { return !element.isEnabled; };
-    return outcome(waitUntil([&] { return std::ranges::any_of(find(name), isOff); }), name);
+    return showsOne(name, [](const auto& element) { return !element.isEnabled; });
 }
 
 testing::AssertionResult RunningPanel::hints(std::string_view name, std::string_view hint) const
 {
-    const auto hints = [&](const ScreenReader::Element& element) { return element.hint == hint; };
-    return outcome(waitUntil([&] { return std::ranges::any_of(find(name), hints); }), hint);
+    return showsOne(name, [&](const auto& element) { return element.hint == hint; }) << " with hint " << hint;
 }
 
 testing::AssertionResult RunningPanel::hasRole(std::string_view name, std::string_view role) const
 {
-    const auto hasRole = [&](const ScreenReader::Element& element) { return element.role == role; };
-    return outcome(waitUntil([&] { return std::ranges::any_of(find(name), hasRole); }), name) << " as " << role;
+    return showsOne(name, [&](const auto& element) { return element.role == role; }) << " as " << role;
 }
 
 testing::AssertionResult RunningPanel::editorHolds(std::string_view part) const
 {
-    std::string text;
-    const bool seen = waitUntil([&] {
-        text = screenReader().editableText(m_program.pid());
-        return text.find(part) != std::string::npos;
-    });
-    return outcome(seen, part) << "\nthe editor holds: " << text;
+    return reaches(part, [&] { return screenReader().editableText(m_program.pid()).find(part) != std::string::npos; });
 }
 
 testing::AssertionResult RunningPanel::hasBrightness(int least, int most) const
 {
     int seen = -1;
-    const bool isSo = waitUntil([&] {
-        seen = desktop().brightness(m_window, 20, 200);
-        return least <= seen && seen <= most;
-    });
-    return isSo ? testing::AssertionSuccess() : testing::AssertionFailure() << "its brightness is " << seen;
+    return reaches("another brightness",
+               [&] {
+                   seen = desktop().brightness(m_window, 20, 200);
+                   return least <= seen && seen <= most;
+               })
+        << "it was " << seen;
 }
 
 testing::AssertionResult RunningPanel::pressButton(std::string_view name) const
 {
-    return outcome(waitUntil([&] { return screenReader().press(m_program.pid(), name); }), name);
+    return reaches(name, [&] { return screenReader().press(m_program.pid(), name); });
 }
 
-testing::AssertionResult RunningPanel::outcome(bool seen, std::string_view what) const
+void RunningPanel::press(std::string_view chords) const
 {
-    if (seen)
-        return testing::AssertionSuccess();
-    return testing::AssertionFailure() << "waited for: " << what << "\nthe panel shows:\n"
-                                       << screenReader().describe(m_program.pid()) << "it printed: " << console();
+    std::istringstream in {std::string(chords)};
+    for (std::string chord; in >> chord;)
+        desktop().press(chord);
+}
+
+void follow(const RunningPanel& panel, const std::vector<Step>& steps)
+{
+    for (const auto& [keys, isSeen, expected] : steps) {
+        panel.press(keys);
+        ASSERT_TRUE((panel.*isSeen)(expected)) << "after " << keys;
+    }
 }
 
 } // namespace cuebright::test

@@ -4,6 +4,7 @@
 #include "desktop/ScreenReader.h"
 
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -42,6 +43,24 @@ private:
 /// One for all tests of a run: the accessibility library cannot change its bus.
 [[nodiscard]] Desktop& desktop();
 
+/// Another program's window with the keyboard, for as long as the test needs it.
+class OtherWindow final {
+public:
+    explicit OtherWindow(Desktop::Size size = Desktop::Size::Small)
+        : m_window(desktop().openWindow(size))
+    {
+    }
+    ~OtherWindow() { desktop().closeWindow(m_window); }
+    OtherWindow(const OtherWindow&) = delete;
+    OtherWindow& operator=(const OtherWindow&) = delete;
+
+    [[nodiscard]] Desktop::WindowId id() const { return m_window; }
+    [[nodiscard]] bool hasKeyboard() const { return desktop().isActive(m_window); }
+
+private:
+    Desktop::WindowId m_window;
+};
+
 /// Cuebright as a user meets it: started, on the screen and with the keyboard.
 ///
 /// What `shows` and its kind look for is waited for.
@@ -56,8 +75,11 @@ public:
     [[nodiscard]] Desktop::Area area() const { return desktop().clientArea(m_window); }
     [[nodiscard]] Desktop::WindowId window() const { return m_window; }
     [[nodiscard]] pid_t process() const { return m_program.pid(); }
+    /// Whether the condition comes true; says what was waited for where it does not.
+    [[nodiscard]] testing::AssertionResult reaches(std::string_view what, const std::function<bool()>& condition) const;
     [[nodiscard]] testing::AssertionResult isOnScreen() const;
     [[nodiscard]] testing::AssertionResult isOffScreen() const;
+    [[nodiscard]] testing::AssertionResult isActive() const;
     [[nodiscard]] testing::AssertionResult hasTitle(std::string_view title) const;
     /// Something on the panel has that accessible name.
     [[nodiscard]] testing::AssertionResult shows(std::string_view name) const;
@@ -71,8 +93,8 @@ public:
     /// In the empty margin on its left, from 0 to 255.
     [[nodiscard]] testing::AssertionResult hasBrightness(int least, int most) const;
 
-    /// The keys go to the panel, as long as it has the keyboard.
-    void press(std::string_view chord) const { desktop().press(chord); }
+    /// The keys go to the panel, as long as it has the keyboard; there is a blank between them.
+    void press(std::string_view chords) const;
     void type(std::string_view text) const { desktop().type(text); }
     /// The way of a screen reader; waits for the button.
     [[nodiscard]] testing::AssertionResult pressButton(std::string_view name) const;
@@ -84,11 +106,24 @@ public:
     [[nodiscard]] std::string console() const { return m_program.output(); }
 
 private:
-    [[nodiscard]] std::vector<ScreenReader::Element> find(std::string_view name) const;
-    testing::AssertionResult outcome(bool seen, std::string_view what) const;
+    using Condition = std::function<bool(const ScreenReader::Element&)>;
+    [[nodiscard]] testing::AssertionResult showsOne(std::string_view name, const Condition& isRight) const;
 
     Process m_program;
     Desktop::WindowId m_window = 0;
 };
+
+constexpr auto kShows = &RunningPanel::shows;
+constexpr auto kShowsNoLonger = &RunningPanel::showsNoLonger;
+constexpr auto kHasTitle = &RunningPanel::hasTitle;
+constexpr auto kEditorHolds = &RunningPanel::editorHolds;
+
+/// Keys with blanks between them, and what is to be seen after them.
+struct Step {
+    std::string_view keys;
+    testing::AssertionResult (RunningPanel::*isSeen)(std::string_view) const;
+    std::string_view expected;
+};
+void follow(const RunningPanel& panel, const std::vector<Step>& steps);
 
 } // namespace cuebright::test

@@ -1,9 +1,10 @@
 #include "desktop/ScreenReader.h"
 
+#include <algorithm>
 #include <cstdlib>
-#include <functional>
 #include <memory>
 #include <stdexcept>
+#include <utility>
 
 #include <atspi/atspi.h>
 
@@ -43,40 +44,39 @@ bool doPress(AtspiAccessible* accessible)
     return false;
 }
 
-std::string textOf(AtspiAccessible* accessible)
+using Elements = std::vector<Owned<AtspiAccessible>>;
+
+Elements childrenOf(AtspiAccessible* parent)
 {
-    const Owned<AtspiText> text(atspi_accessible_get_text_iface(accessible));
-    const int length = text ? atspi_text_get_character_count(text.get(), nullptr) : 0;
-    return text ? taken(atspi_text_get_text(text.get(), 0, length, nullptr)) : std::string();
+    Elements children;
+    const int count = atspi_accessible_get_child_count(parent, nullptr);
+    for (int i = 0; i < count; ++i)
+        if (Owned<AtspiAccessible> child {atspi_accessible_get_child_at_index(parent, i, nullptr)})
+            children.push_back(std::move(child));
+    return children;
 }
 
-/// Gets each element with its depth; its answer says whether to go on.
-using Visitor = std::function<bool(AtspiAccessible*, std::size_t)>;
-
-bool visitBelow(AtspiAccessible* parent, std::size_t depth, const Visitor& goesOn)
+void addShowing(Elements& elements, AtspiAccessible* parent)
 {
-    constexpr std::size_t kDeepest = 40;
-    const int count = depth < kDeepest ? atspi_accessible_get_child_count(parent, nullptr) : 0;
-    for (int i = 0; i < count; ++i) {
-        const Owned<AtspiAccessible> child(atspi_accessible_get_child_at_index(parent, i, nullptr));
-        if (!child || !hasState(child.get(), ATSPI_STATE_SHOWING))
+    for (auto& child : childrenOf(parent)) {
+        if (!hasState(child.get(), ATSPI_STATE_SHOWING))
             continue;
-        if (!goesOn(child.get(), depth + 1) || !visitBelow(child.get(), depth + 1, goesOn))
-            return false;
+        auto* const added = child.get();
+        elements.push_back(std::move(child));
+        addShowing(elements, added);
     }
-    return true;
 }
 
-void visit(pid_t program, const Visitor& goesOn)
+/// What a program shows, in the order of the tree.
+Elements elementsOf(pid_t program)
 {
     while (g_main_context_iteration(nullptr, FALSE)) { }
+    Elements elements;
     const Owned<AtspiAccessible> root(atspi_get_desktop(0));
-    const int count = atspi_accessible_get_child_count(root.get(), nullptr);
-    for (int i = 0; i < count; ++i) {
-        const Owned<AtspiAccessible> application(atspi_accessible_get_child_at_index(root.get(), i, nullptr));
-        if (application && atspi_accessible_get_process_id(application.get(), nullptr) == static_cast<guint>(program))
-            visitBelow(application.get(), 0, goesOn);
-    }
+    for (const auto& application : childrenOf(root.get()))
+        if (atspi_accessible_get_process_id(application.get(), nullptr) == static_cast<guint>(program))
+            addShowing(elements, application.get());
+    return elements;
 }
 
 } // namespace
@@ -95,46 +95,38 @@ ScreenReader::ScreenReader(const Environment& desktop)
 std::vector<ScreenReader::Element> ScreenReader::find(pid_t program, std::string_view name) const
 {
     std::vector<Element> found;
-    visit(program, [&](AtspiAccessible* one, std::size_t) {
-        if (nameOf(one) == name)
-            found.push_back({roleOf(one), taken(atspi_accessible_get_description(one, nullptr)),
-                hasState(one, ATSPI_STATE_ENABLED)});
-        return true;
-    });
+    for (const auto& one : elementsOf(program))
+        if (nameOf(one.get()) == name)
+            found.push_back({roleOf(one.get()), taken(atspi_accessible_get_description(one.get(), nullptr)),
+                hasState(one.get(), ATSPI_STATE_ENABLED)});
     return found;
 }
 
 bool ScreenReader::press(pid_t program, std::string_view name) const
 {
-    bool pressed = false;
-    visit(program, [&](AtspiAccessible* one, std::size_t) {
-        pressed = nameOf(one) == name && doPress(one);
-        return !pressed;
-    });
-    return pressed;
+    const auto isPressed = [&](const auto& one) { return nameOf(one.get()) == name && doPress(one.get()); };
+    return std::ranges::any_of(elementsOf(program), isPressed);
 }
 
 std::string ScreenReader::editableText(pid_t program) const
 {
-    std::string text;
-    visit(program, [&](AtspiAccessible* one, std::size_t) {
-        const bool isField = hasState(one, ATSPI_STATE_EDITABLE);
-        if (isField)
-            text = textOf(one);
-        return !isField;
-    });
-    return text;
+    for (const auto& one : elementsOf(program)) {
+        if (!hasState(one.get(), ATSPI_STATE_EDITABLE))
+            continue;
+        const Owned<AtspiText> text(atspi_accessible_get_text_iface(one.get()));
+        const int length = text ? atspi_text_get_character_count(text.get(), nullptr) : 0;
+        return text ? taken(atspi_text_get_text(text.get(), 0, length, nullptr)) : std::string();
+    }
+    return {};
 }
 
 std::string ScreenReader::describe(pid_t program) const
 {
     std::string lines;
-    visit(program, [&](AtspiAccessible* one, std::size_t depth) {
-        lines += std::string(depth * 2, ' ') + roleOf(one) + ": " + nameOf(one)
-            + (hasState(one, ATSPI_STATE_ENABLED) ? "\n" : " (off)\n");
-        return true;
-    });
-    return lines.empty() ? "the program shows nothing to a screen reader" : lines;
+    for (const auto& one : elementsOf(program))
+        lines += roleOf(one.get()) + ": " + nameOf(one.get())
+            + (hasState(one.get(), ATSPI_STATE_ENABLED) ? "\n" : " (off)\n");
+    return lines.empty() ? "nothing\n" : lines;
 }
 
 } // namespace cuebright::test

@@ -13,125 +13,113 @@ const std::vector<std::string_view> kCards = {
     R"(# Thank you\n\nQuestions?)",
 };
 
-struct PreparedHome final : Home {
-    explicit PreparedHome(std::string_view theme = "light")
-    {
-        keepDeck("Release talk", kCards);
-        prefer("cuebrightTheme", theme);
-    }
-};
-
+/// Throws where the panel is not as wanted.
 void require(const testing::AssertionResult& result)
 {
     if (!result)
         throw std::runtime_error(result.message());
 }
 
-/// Takes every picture in one scale. A panel ends with its picture.
+/// A home with the cards, and a picture that is taken once the panel is as wanted. The panel ends with it.
+struct Picture final : Home {
+    explicit Picture(const std::string& pictureName, Introduction introduction = Introduction::Seen)
+        : Home(introduction)
+        , name(pictureName)
+    {
+        if (introduction == Introduction::Seen)
+            keepDeck("Release talk", kCards);
+        prefer("cuebrightTheme", name == "dark" ? "dark" : "light");
+    }
+
+    std::string name;
+    Environment environment {};
+};
+
+/// Takes every picture in one scale.
 class Photographer final {
 public:
     Photographer(std::filesystem::path folder, int scale)
         : m_folder(std::move(folder))
         , m_scale(scale)
-        , m_environment {{"QT_SCALE_FACTOR", std::to_string(scale)}}
     {
     }
 
     void takeAll() const
     {
-        for (const auto* const theme : {"light", "dark"})
-            takeLook(theme);
-        takeEditing();
+        for (const auto* const theme : {"light", "dark"}) {
+            const Picture look(theme);
+            look.prefer("cuebrightWordCount", "true");
+            take(look, [](const RunningPanel& panel) { require(panel.shows("Card 1 of 3")); });
+        }
+        take(Picture("editing"), [](const RunningPanel& panel) {
+            require(panel.pressButton("Edit card"));
+            require(panel.editorHolds("Why we ship"));
+        });
         takeCriticalCountdown();
         takeError();
         takeOnboarding();
-        takeSizes();
+        for (const auto& [name, width, height] : {std::tuple("narrow", 480, 360), std::tuple("wide", 1400, 700)})
+            take(Picture(name), [&, w = width * m_scale, h = height * m_scale](const RunningPanel& panel) {
+                desktop().resize(panel.window(), w, h);
+            });
     }
 
 private:
-    void take(const std::string& name, const RunningPanel& panel) const
+    void take(const Picture& picture, const std::function<void(const RunningPanel&)>& prepare) const
     {
-        const auto file = name + (m_scale == 1 ? "" : "@" + std::to_string(m_scale) + "x") + ".png";
+        auto environment = picture.environment;
+        environment["QT_SCALE_FACTOR"] = std::to_string(m_scale);
+        const RunningPanel panel(picture, environment);
+        prepare(panel);
+        const auto file = picture.name + (m_scale == 1 ? "" : "@" + std::to_string(m_scale) + "x") + ".png";
         desktop().takePicture(panel.window(), m_folder / file);
         std::cout << file << std::endl;
     }
 
-    void takeLook(const char* theme) const
-    {
-        const PreparedHome home(theme);
-        home.prefer("cuebrightWordCount", "true");
-        const RunningPanel panel(home, m_environment);
-        require(panel.shows("Card 1 of 3"));
-        take(theme, panel);
-    }
-
-    void takeEditing() const
-    {
-        const PreparedHome home;
-        const RunningPanel panel(home, m_environment);
-        require(panel.pressButton("Edit card"));
-        require(panel.editorHolds("Why we ship"));
-        take("editing", panel);
-    }
-
     void takeCriticalCountdown() const
     {
-        const PreparedHome home;
-        const auto time = home.stateFolder() / "time";
-        auto environment = m_environment;
-        environment.insert({{"LD_PRELOAD", STILL_CLOCK}, {"STILL_CLOCK", time}});
-        const RunningPanel panel(home, environment);
-        require(panel.pressButton("Timer: 00:00"));
-        require(panel.pressButton("5 minutes"));
-        require(panel.shows("Timer: 05:00"));
-        require(panel.pressButton("Start timer"));
-        require(panel.showsButton("Pause timer"));
-        Home::write(time, "1253");
-        require(panel.shows("Timer: 00:47"));
-        take("countdown-critical", panel);
+        Picture picture("countdown-critical");
+        const auto time = picture.stateFolder() / "time";
+        picture.environment = {{"LD_PRELOAD", STILL_CLOCK}, {"STILL_CLOCK", time}};
+        take(picture, [&](const RunningPanel& panel) {
+            for (const auto* const button : {"Timer: 00:00", "5 minutes", "Start timer"})
+                require(panel.pressButton(button));
+            require(panel.showsButton("Pause timer"));
+            Home::write(time, "1253");
+            require(panel.shows("Timer: 00:47"));
+        });
     }
 
     void takeError() const
     {
-        const PreparedHome home;
-        const RunningPanel panel(home, m_environment);
-        require(panel.shows("Edit card"));
-        std::filesystem::remove_all(home.stateFolder());
-        Home::write(home.stateFolder(), "in the way");
-        require(panel.pressButton("Edit card"));
-        require(panel.pressButton("Save card"));
-        require(panel.showsButton("Dismiss error"));
-        take("error", panel);
+        const Picture picture("error");
+        take(picture, [&](const RunningPanel& panel) {
+            require(panel.shows("Edit card"));
+            std::filesystem::remove_all(picture.stateFolder());
+            Home::write(picture.stateFolder(), "in the way");
+            for (const auto* const button : {"Edit card", "Save card"})
+                require(panel.pressButton(button));
+            require(panel.showsButton("Dismiss error"));
+        });
     }
 
     void takeOnboarding() const
     {
-        const Home home(Home::Introduction::NotSeen);
-        home.prefer("cuebrightTheme", "light");
-        const RunningPanel panel(home, m_environment);
-        int page = 0;
-        for (const auto* const title : {"Cue cards your audience can't see", "Invisible to screen share",
-                 "Quick shortcuts", "Write in markdown"}) {
-            if (page > 0)
-                require(panel.pressButton("Next page"));
-            require(panel.shows(title));
-            take("onboarding-" + std::to_string(++page), panel);
+        const std::vector<const char*> titles {
+            "Cue cards your audience can't see", "Invisible to screen share", "Quick shortcuts", "Write in markdown"};
+        for (std::size_t last = 0; last < titles.size(); ++last) {
+            const Picture picture("onboarding-" + std::to_string(last + 1), Home::Introduction::NotSeen);
+            take(picture, [&](const RunningPanel& panel) {
+                for (std::size_t page = 0; page <= last; ++page) {
+                    require(page == 0 ? testing::AssertionSuccess() : panel.pressButton("Next page"));
+                    require(panel.shows(titles[page]));
+                }
+            });
         }
-    }
-
-    void takeSizes() const
-    {
-        const PreparedHome home;
-        const RunningPanel panel(home, m_environment);
-        desktop().resize(panel.window(), 480 * m_scale, 360 * m_scale);
-        take("narrow", panel);
-        desktop().resize(panel.window(), 1400 * m_scale, 700 * m_scale);
-        take("wide", panel);
     }
 
     std::filesystem::path m_folder;
     int m_scale;
-    Environment m_environment;
 };
 
 } // namespace

@@ -1,12 +1,22 @@
 #include "platform/linux/HyprlandCaptureExclusion.h"
 
+#include "platform/TemporaryFolder.h"
+#include "platform/linux/FileDescriptor.h"
 #include "platform/linux/HyprlandMessages.h"
+#include "platform/linux/HyprlandSocket.h"
+#include "support/EventLoop.h"
 #include "support/FakePlatform.h"
+
+#include <QSocketNotifier>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <tuple>
 
+#include <sys/socket.h>
+#include <sys/un.h>
 #include <unistd.h>
 
 namespace cuebright::test {
@@ -14,74 +24,99 @@ namespace cuebright::test {
 namespace {
 
 using State = CaptureExclusion::State;
+using Answers = std::map<std::string, std::optional<std::string>>;
 
-/// Answers by the first word of a request; one that has no answer waits.
-class FakeHyprlandIpc final : public HyprlandIpc {
+FileDescriptor listenAt(const std::filesystem::path& path)
+{
+    FileDescriptor socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
+    sockaddr_un address {AF_UNIX, {}};
+    std::ranges::copy(path.native(), address.sun_path);
+    ::bind(socket.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address);
+    ::listen(socket.get(), 4);
+    return socket;
+}
+
+FileDescriptor accept(const FileDescriptor& socket) { return FileDescriptor(::accept(socket.get(), nullptr, nullptr)); }
+
+void say(const FileDescriptor& peer, std::string_view text)
+{
+    ::send(peer.get(), text.data(), text.size(), MSG_NOSIGNAL);
+}
+
+/// The compositor, which answers by the first word of a request. One that has no answer waits.
+class FakeHyprland final {
 public:
-    void start() override
+    explicit FakeHyprland(const std::filesystem::path& folder)
+        : m_commands(listenAt(folder / ".socket.sock"))
+        , m_notifier(m_commands.get(), QSocketNotifier::Read)
     {
-        if (isDeaf)
-            lost.notify();
-    }
-    void request(std::string_view request, Reply reply) override
-    {
-        requests.emplace_back(request);
-        m_waiting.push_back(std::move(reply));
-    }
-    void abandonRequests() override { m_waiting.clear(); }
-
-    void answerAll()
-    {
-        while (!m_waiting.empty()) {
-            const auto& request = requests.back();
-            const auto answer = answers.find(request.substr(0, request.find(' ')));
-            if (answer == answers.end())
-                return;
-            const auto reply = std::move(m_waiting.back());
-            m_waiting.pop_back();
-            reply(answer->second);
-        }
+        QObject::connect(&m_notifier, &QSocketNotifier::activated, &m_notifier, [this] { take(accept(m_commands)); });
     }
 
-    bool isDeaf = false;
-    std::map<std::string, std::optional<std::string>> answers;
+    Answers answers;
     std::vector<std::string> requests;
+    std::vector<FileDescriptor> waiting;
 
 private:
-    std::vector<Reply> m_waiting;
+    void take(FileDescriptor peer)
+    {
+        char buffer[200];
+        const auto size = ::recv(peer.get(), buffer, sizeof buffer, 0);
+        const auto& request = requests.emplace_back(buffer, static_cast<std::size_t>(std::max<ssize_t>(size, 0)));
+        const auto answer = answers.find(request.substr(0, request.find(' ')));
+        waiting.push_back(std::move(peer));
+        if (answer == answers.end())
+            return;
+        const auto text = answer->second.value_or("");
+        say(waiting.back(), text.substr(0, text.size() / 2));
+        QTimer::singleShot(0, &m_notifier, [this, place = waiting.size() - 1, rest = text.substr(text.size() / 2)] {
+            say(waiting[place], rest);
+            ::shutdown(waiting[place].get(), SHUT_WR);
+        });
+    }
+
+    FileDescriptor m_commands;
+    QSocketNotifier m_notifier;
 };
 
 const std::string kQuestion = "/getprop address:0xab no_screen_share";
 
-using Answers = std::map<std::string, std::optional<std::string>>;
-
 Answers answersOf(const std::string& version)
 {
-    return {{"j/version", R"({"version":")" + version + "\"}"}, {"j/status", R"({"configProvider":"hyprlang"})"},
-        {"/keyword", "ok"}, {"/eval", "ok"}, {"/getprop", "true\n"},
+    const std::string filling(10'000, ' '); // more than comes in one piece
+    return {{"j/version", R"({"version":")" + version + "\"}" + filling},
+        {"j/status", R"({"configProvider":"hyprlang"})"}, {"/keyword", "ok"}, {"/eval", "ok"}, {"/getprop", "true\n"},
         {"j/clients",
             R"([{"address":"0xab","pid":)" + std::to_string(::getpid()) + R"(},{"address":"0xcd","pid":1}])"}};
 }
 
 /// An exclusion with the compositor that it talks to.
-struct Compositor {
+struct Conversation {
     void start(Answers answers)
     {
-        ipc->answers = std::move(answers);
+        compositor.answers = std::move(answers);
         exclusion.start();
-        ipc->answerAll();
     }
-    void expect(State state, bool isSettled = true)
+    [[nodiscard]] bool reaches(State state, bool isSettled = true)
     {
-        EXPECT_EQ(std::pair(exclusion.state(), exclusion.isSettled()), std::pair(state, isSettled));
+        return waitUntil(
+            [&] { return std::pair(exclusion.state(), exclusion.isSettled()) == std::pair(state, isSettled); });
+    }
+    /// Whether the connection of the first request has no other end any more.
+    [[nodiscard]] bool isHungUp() const
+    {
+        char nothing = 0;
+        return ::recv(compositor.waiting.front().get(), &nothing, 1, MSG_DONTWAIT) == 0;
     }
 
+    TemporaryFolder folder;
+    FakeHyprland compositor {folder.path()};
+    FileDescriptor events = listenAt(folder.file(".socket2.sock"));
     FakePlatform platform;
-    FakeHyprlandIpc* ipc = new FakeHyprlandIpc;
-    HyprlandCaptureExclusion exclusion {std::unique_ptr<HyprlandIpc>(ipc), platform.mainQueue};
+    HyprlandCaptureExclusion exclusion {std::make_unique<HyprlandSocket>(folder.path()), platform.mainQueue};
 };
 
-class HyprlandCaptureExclusionTest : public testing::Test, protected Compositor { };
+class HyprlandCaptureExclusionTest : public testing::Test, protected Conversation { };
 
 const std::string kPattern = "^(Cuebright|cuebright|app[.]cuebright[.]Cuebright)$";
 const std::string kFirst = "/keyword windowrule noscreenshare, class:" + kPattern;
@@ -134,44 +169,57 @@ TEST(HyprlandConversation, UsesTheRuleOfEachVersionAndEndsInWhatTheCompositorCon
         SCOPED_TRACE(name);
         auto answers = differently;
         answers.merge(answersOf(version));
-        Compositor compositor;
-        compositor.start(std::move(answers));
-        compositor.expect(state);
-        EXPECT_EQ(compositor.ipc->requests, requests);
+        Conversation conversation;
+        conversation.start(std::move(answers));
+        EXPECT_TRUE(conversation.reaches(state));
+        EXPECT_EQ(conversation.compositor.requests, requests);
+        EXPECT_TRUE(conversation.isHungUp());
     }
 }
 
-TEST_F(HyprlandCaptureExclusionTest, WithoutAnAnswerItIsUnknownAfterThreeSeconds)
+TEST_F(HyprlandCaptureExclusionTest, WithoutAnAnswerItIsUnknownAfterThreeSecondsAndTheConnectionClosed)
 {
     start({});
-    expect(State::Unknown, false);
+    EXPECT_TRUE(waitUntil([&] { return compositor.requests.size() == 1; }));
+    EXPECT_FALSE(exclusion.isSettled() || isHungUp());
     platform.mainQueue.advance(Seconds(3));
-    expect(State::Unknown);
-    ipc->answers = answersOf("0.52.0");
-    ipc->answerAll(); // too late: the connection is closed
-    EXPECT_EQ(ipc->requests.size(), 1U);
+    EXPECT_TRUE(exclusion.isSettled() && isHungUp());
+    EXPECT_EQ(exclusion.state(), State::Unknown);
 }
 
-TEST_F(HyprlandCaptureExclusionTest, AfterAReloadTheRuleIsSentAgainAndUntilThenNothingIsKnown)
+TEST_F(HyprlandCaptureExclusionTest, AfterAReloadTheRuleIsSentAgainHoweverTheLinesOfTheNewsArrive)
 {
     start(answersOf("0.52.0"));
-    expect(State::Blackout);
-    ipc->configReloaded.notify();
-    ipc->configReloaded.notify();
-    expect(State::Unknown, false);
-    ipc->answerAll();
-    expect(State::Blackout);
-    EXPECT_EQ(ipc->requests.size(), 5U);
-    ipc->lost.notify(); // whether there is another one cannot be heard any more
-    expect(State::Unknown);
+    EXPECT_TRUE(reaches(State::Blackout));
+    std::vector<std::pair<State, bool>> told;
+    const auto subscription =
+        exclusion.changed.subscribe([&] { told.emplace_back(exclusion.state(), exclusion.isSettled()); });
+    auto peer = std::make_optional(accept(events));
+    say(*peer, "activewindow>>kitty,configreloaded>>\nconfigrel");
+    processEvents();
+    EXPECT_TRUE(told.empty());
+    say(*peer, "oaded>>\nworkspace>>2\nconfigreloaded>>\n");
+    EXPECT_TRUE(waitUntil([&] { return told.size() == 2; }));
+    EXPECT_EQ(told, (std::vector {std::pair(State::Unknown, false), std::pair(State::Blackout, true)}));
+    EXPECT_EQ(compositor.requests.size(), 5U);
+    peer.reset(); // whether there is another reload cannot be heard any more
+    EXPECT_TRUE(reaches(State::Unknown));
 }
 
-TEST_F(HyprlandCaptureExclusionTest, NothingIsClaimedWhileReloadsGoUnnoticed)
+TEST_F(HyprlandCaptureExclusionTest, NothingIsClaimedWhereACompositorCannotBeReachedOrHeard)
 {
-    ipc->isDeaf = true;
-    start(answersOf("0.52.0"));
-    expect(State::Unknown);
-    EXPECT_TRUE(ipc->requests.empty());
+    std::filesystem::remove(folder.file(".socket.sock"));
+    start({});
+    EXPECT_FALSE(exclusion.isSettled()) << "a failure comes later, as an answer would";
+    EXPECT_TRUE(reaches(State::Unknown));
+
+    Conversation deaf;
+    std::filesystem::remove(deaf.folder.file(".socket2.sock"));
+    deaf.start(answersOf("0.52.0"));
+    EXPECT_TRUE(deaf.exclusion.isSettled());
+    EXPECT_EQ(deaf.exclusion.state(), State::Unknown);
+    processEvents();
+    EXPECT_TRUE(deaf.compositor.requests.empty());
 }
 
 } // namespace cuebright::test

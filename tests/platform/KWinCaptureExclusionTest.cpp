@@ -1,171 +1,184 @@
 #include "platform/linux/KWinCaptureExclusion.h"
 
+#include "platform/TemporaryFolder.h"
+#include "platform/linux/BusKWinScripting.h"
+#include "platform/linux/KWinScript.h"
+#include "support/EventLoop.h"
+#include "support/FakeKWin.h"
 #include "support/FakePlatform.h"
+#include "support/PrivateBus.h"
+
+#include <QDBusError>
+#include <QDBusMessage>
+#include <QDBusPendingCall>
 
 #include <gtest/gtest.h>
+
+#include <unistd.h>
 
 namespace cuebright::test {
 
 namespace {
 
-using Presence = KWinScripting::Presence;
+using enum CaptureExclusion::State;
 using State = CaptureExclusion::State;
 
-/// Records the calls; answers when a test says so.
-class FakeKWinScripting final : public KWinScripting {
-public:
-    void start() override { calls.emplace_back("start"); }
-    std::string busName() const override { return ":1.7"; }
-    void unload(std::string_view plugin, std::function<void(bool)> done) override
-    {
-        calls.push_back("unload " + std::string(plugin));
-        unloaded = std::move(done);
-    }
-    void load(std::string_view script, std::string_view plugin, std::function<void(std::optional<int>)> done) override
-    {
-        calls.push_back("load " + std::string(plugin));
-        hasOurName = script.find("\":1.7\"") != std::string_view::npos;
-        loaded = std::move(done);
-    }
-    void run(int id, std::function<void(bool)> done) override
-    {
-        calls.push_back("run " + std::to_string(id));
-        ran = std::move(done);
-    }
-
-    std::vector<std::string> calls;
-    bool hasOurName = false;
-    std::function<void(bool)> unloaded;
-    std::function<void(std::optional<int>)> loaded;
-    std::function<void(bool)> ran;
-};
+const QString kUnload = QStringLiteral("/Scripting org.kde.kwin.Scripting.unloadScript(s) cuebright");
+const QString kRun = QStringLiteral("/Scripting/Script5 org.kde.kwin.Script.run()");
 
 class KWinCaptureExclusionTest : public testing::Test {
 protected:
-    void findKWin() { kwin->presenceChanged.notify(Presence::Present); }
-    void letRun()
+    FakeKWin& startWith(const char* report)
     {
-        kwin->unloaded(true);
-        kwin->loaded(3);
-        kwin->ran(true);
+        kwin.emplace(bus.connect());
+        kwin->report = QString::fromLatin1(report);
+        exclusion->start();
+        EXPECT_TRUE(waitUntil([&] { return !told.empty(); }));
+        return *kwin;
     }
-    void report(std::string_view word) { kwin->reported.notify(word); }
-    void reach(std::string_view word)
+    std::unique_ptr<KWinCaptureExclusion> makeExclusion(const QDBusConnection& connection)
     {
-        exclusion.start();
-        findKWin();
-        letRun();
-        report(word);
+        auto scripting = std::make_unique<BusKWinScripting>([connection] { return connection; }, folder.path());
+        return std::make_unique<KWinCaptureExclusion>(std::move(scripting), platform.mainQueue);
     }
-    void expect(State state, bool isSettled = true)
+    void restartKWin()
     {
-        EXPECT_EQ(std::pair(exclusion.state(), exclusion.isSettled()), std::pair(state, isSettled));
+        kwin->vanish();
+        EXPECT_TRUE(waitUntil([&] { return exclusion->state() == Unknown && exclusion->isSettled(); }));
+        kwin->calls.clear();
+        told.clear();
+        kwin->appear();
     }
-    void reapply()
+    /// The error that KWin gets for what its script reports of one more window.
+    QDBusError::ErrorType report(const char* word, const std::optional<QDBusConnection>& from = {})
     {
-        exclusion.reapplyIfLost([this] { ++reapplied; });
+        const auto call = from.value_or(kwin->connection).asyncCall(kwin->reportOf(QString::fromLatin1(word)));
+        EXPECT_TRUE(waitUntil([&] { return call.isFinished(); }));
+        return call.error().type();
+    }
+    [[nodiscard]] bool hasCalls(int count) const
+    {
+        return waitUntil([&] { return kwin->calls.size() == count; });
+    }
+    [[nodiscard]] QString load() const
+    {
+        return QStringLiteral("/Scripting org.kde.kwin.Scripting.loadScript(ss) %1 cuebright")
+            .arg(QString::fromStdString(file));
     }
 
+    using Told = std::vector<std::pair<State, bool>>;
+    PrivateBus bus;
+    std::optional<FakeKWin> kwin;
+    TemporaryFolder folder;
+    const std::filesystem::path file = folder.path() / "cuebright/capture-exclusion.js";
     FakePlatform platform;
-    FakeKWinScripting* kwin = new FakeKWinScripting;
-    KWinCaptureExclusion exclusion {std::unique_ptr<KWinScripting>(kwin), platform.mainQueue};
-    int changes = 0;
-    int reapplied = 0;
-    Subscription subscription = exclusion.changed.subscribe([this] { ++changes; });
+    QDBusConnection ours = bus.connect();
+    std::unique_ptr<KWinCaptureExclusion> exclusion = makeExclusion(ours);
+    Told told; ///< each state, and whether it is settled
+    Subscription subscription =
+        exclusion->changed.subscribe([this] { told.emplace_back(exclusion->state(), exclusion->isSettled()); });
 };
 
 } // namespace
 
-TEST_F(KWinCaptureExclusionTest, TheScriptIsUnloadedLoadedRunAndBelievedOnlyWhenItHasReported)
+TEST_F(KWinCaptureExclusionTest, KWinGetsTheDocumentedCallsAndAFileForItsEyesOnlyAndWhatItReportsOfEachWindowCounts)
 {
-    EXPECT_TRUE(kwin->calls.empty());
-    exclusion.start();
-    findKWin();
-    report("omitted"); // by a copy that was left behind
-    letRun();
-    EXPECT_EQ(kwin->calls, (std::vector<std::string> {"start", "unload cuebright", "load cuebright", "run 3"}));
-    EXPECT_TRUE(kwin->hasOurName);
-    expect(State::Unknown, false);
-    EXPECT_EQ(changes, 0);
-    report("omitted");
-    expect(State::Excluded);
-    EXPECT_EQ(changes, 1);
-    platform.mainQueue.advance(Seconds(10));
-    expect(State::Excluded);
-}
-
-TEST_F(KWinCaptureExclusionTest, WhatALaterWindowReportsCountsToo)
-{
-    const std::pair<std::string_view, State> reports[] = {{"refused", State::Visible}, {"omitted", State::Excluded},
-        {"unsupported", State::Visible}, {"bananas", State::Unknown}};
-    reach("omitted");
-    for (const auto& [word, state] : reports) {
-        report(word);
-        EXPECT_EQ(exclusion.state(), state) << word;
+    EXPECT_EQ(std::pair(exclusion->state(), exclusion->isSettled()), std::pair(Unknown, false));
+    startWith("omitted");
+    EXPECT_EQ(kwin->calls, (QStringList {kUnload, load(), kRun}));
+    EXPECT_EQ(kwin->script, kwinScript(::getpid(), ours.baseService().toStdString()));
+    EXPECT_EQ(kwin->modes, (std::vector<unsigned> {0600, 0700}));
+    EXPECT_TRUE(waitUntil([&] { return !std::filesystem::exists(file); }));
+    for (const auto* const word : {"omitted", "refused", "omitted", "unsupported", "bananas"}) {
+        platform.mainQueue.advance(Seconds(10));
+        EXPECT_EQ(report(word), QDBusError::NoError);
     }
+    EXPECT_EQ(told, (Told {{Excluded, true}, {Visible, true}, {Excluded, true}, {Visible, true}, {Unknown, true}}));
+    EXPECT_EQ(report("omitted", bus.connect()), QDBusError::AccessDenied);
+    EXPECT_EQ(exclusion->state(), Unknown) << "after a report from anyone else";
 }
 
 TEST_F(KWinCaptureExclusionTest, EveryFailureOnTheWayIsSettledAsUnknown)
 {
-    const std::pair<const char*, std::function<void()>> cases[] = {
-        {"KWin is gone", [this] { kwin->presenceChanged.notify(Presence::Absent); }},
-        {"no scripting", [this] { kwin->unloaded(false); }},
-        {"no reply", [this] { kwin->unloaded(true), kwin->loaded(std::nullopt); }},
-        {"script refused", [this] { kwin->unloaded(true), kwin->loaded(-1); }},
-        {"not run", [this] { kwin->unloaded(true), kwin->loaded(0), kwin->ran(false); }},
-        {"no report", [this] { letRun(), platform.mainQueue.advance(Seconds(3)); }},
-    };
-    exclusion.start();
-    platform.mainQueue.advance(Seconds(3)); // nobody says whether there is a KWin
-    expect(State::Unknown);
-    for (const auto& [name, fail] : cases) {
-        SCOPED_TRACE(name);
-        findKWin();
-        expect(State::Unknown, false);
-        fail();
-        expect(State::Unknown);
+    const std::tuple<const char*, int, const char*> cases[] = {
+        {"unloadScript", 5, "omitted"}, {"loadScript", 5, "omitted"}, {"nothing", -1, "omitted"}, {"run", 0, ""}};
+    startWith("omitted");
+    for (const auto& [refused, number, word] : cases) {
+        kwin->refused = QString::fromLatin1(refused);
+        kwin->scriptNumber = number;
+        kwin->report = QString::fromLatin1(word);
+        restartKWin();
+        EXPECT_TRUE(waitUntil([&] { return told == Told {{Unknown, false}, {Unknown, true}}; })) << refused;
     }
+    kwin->refused.clear();
+    restartKWin();
+    EXPECT_TRUE(hasCalls(3));
+    EXPECT_EQ(told, (Told {{Unknown, false}}));
+    platform.mainQueue.advance(Seconds(3)); // no report
     report("omitted"); // the first window came late
-    expect(State::Excluded);
+    EXPECT_EQ(told, (Told {{Unknown, false}, {Unknown, true}, {Excluded, true}}));
 }
 
-TEST_F(KWinCaptureExclusionTest, ARestartedCompositorIsAskedAnewAndBelievedOnlyThen)
+TEST_F(KWinCaptureExclusionTest, WithoutKWinABusOrAnAnswerItIsUnknown)
 {
-    reach("omitted");
-    kwin->calls.clear();
-    findKWin();
-    const auto lateReply = kwin->unloaded;
-    findKWin(); // restarted once more
-    lateReply(true);
-    report("omitted");
-    expect(State::Unknown, false);
-    letRun();
-    EXPECT_EQ(
-        kwin->calls, (std::vector<std::string> {"unload cuebright", "unload cuebright", "load cuebright", "run 3"}));
-    report("omitted");
-    expect(State::Excluded);
+    exclusion->start();
+    EXPECT_TRUE(waitUntil([&] { return told == Told {{Unknown, true}}; }));
+    const auto silent = makeExclusion(bus.connect());
+    silent->start();
+    platform.mainQueue.advance(Seconds(3));
+    const auto without = makeExclusion(QDBusConnection(QStringLiteral("none")));
+    without->start();
+    for (auto* const one : {silent.get(), without.get()})
+        EXPECT_EQ(std::pair(one->state(), one->isSettled()), std::pair(Unknown, true));
+}
+
+TEST_F(KWinCaptureExclusionTest, ARestartedKWinIsAskedAnewAndBelievedOnlyThen)
+{
+    startWith("omitted");
+    bool isAsked = false;
+    kwin->called = [&](const QString&) {
+        if (std::exchange(isAsked, true))
+            return;
+        kwin->connection.asyncCall(kwin->reportOf(QStringLiteral("omitted"))); // by a copy that was left behind
+        kwin->vanish(); // once more, before it has answered
+        kwin->appear();
+    };
+    restartKWin();
+    EXPECT_TRUE(waitUntil([&] { return told.size() == 4; }));
+    EXPECT_EQ(told, (Told {{Unknown, false}, {Unknown, true}, {Unknown, false}, {Excluded, true}}));
+    EXPECT_EQ(kwin->calls, (QStringList {kUnload, kUnload, load(), kRun}));
 }
 
 TEST_F(KWinCaptureExclusionTest, OnlyALostExclusionIsReappliedAndConfirmedOnce)
 {
-    reach("refused");
+    int reapplied = 0;
+    const auto reapply = [&] { exclusion->reapplyIfLost([&] { ++reapplied; }); };
+    startWith("refused");
     kwin->calls.clear();
     reapply(); // was never excluded
     report("omitted");
     reapply(); // is excluded
-    EXPECT_TRUE(kwin->calls.empty());
-    EXPECT_EQ(reapplied, 0);
-
     report("refused");
+    EXPECT_TRUE(kwin->calls.isEmpty());
     reapply();
     reapply(); // shown again before the answer
-    letRun();
-    EXPECT_EQ(kwin->calls, (std::vector<std::string> {"unload cuebright", "load cuebright", "run 3"}));
+    EXPECT_TRUE(hasCalls(3));
     report("refused");
     EXPECT_EQ(reapplied, 0);
     report("omitted");
     report("omitted");
     EXPECT_EQ(reapplied, 1);
+    EXPECT_EQ(kwin->calls.size(), 3);
+}
+
+TEST_F(KWinCaptureExclusionTest, TheScriptIsUnloadedEvenIfTheProgramEndsAtOnce)
+{
+    startWith("omitted");
+    kwin->calls.clear();
+    exclusion.reset();
+    QDBusConnection::disconnectFromBus(ours.name());
+    ours = QDBusConnection(QString());
+    EXPECT_TRUE(waitUntil([&] { return kwin->calls == QStringList {kUnload}; }));
 }
 
 } // namespace cuebright::test

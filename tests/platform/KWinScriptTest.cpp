@@ -29,7 +29,10 @@ function makeWindow(pid, kind) {
 const windows = [makeWindow(7)];
 const workspace = {windowList: () => ({length: windows.length, ...windows}), windowAdded: signal()};
 function add(w) { windows.push(w); workspace.windowAdded.emit(w); return w; }
-function callDBus(...words) { print(words.join(" ")); }
+function callDBus(...words) {
+    const isRight = words.slice(0, 4).join(" ") === ":1.9 /CaptureExclusion app.cuebright.CaptureExclusion Report";
+    print(isRight ? words[4] : words.join(" "));
+}
 )js";
 
 } // namespace
@@ -39,17 +42,16 @@ TEST(KWinScript, ReportsTheWorstOfAllWindowsOfOurs)
     const auto node = QStandardPaths::findExecutable(QStringLiteral("node"));
     if (node.isEmpty())
         GTEST_SKIP() << "needs node, to run the script as KWin would";
-    const std::tuple<const char*, std::string, std::string, std::vector<std::string>> cases[] = {
+    const std::tuple<const char*, std::string, std::string, const char*> cases[] = {
         {"no window of ours", "", "add(makeWindow(8)); if (windows.some(w => w.excludeFromCapture)) print('foreign')",
-            {}},
-        {"a window that is there", "windows.push(makeWindow(42))", "", {"omitted"}},
-        {"a later window", "", "add(makeWindow(42))", {"omitted"}},
-        {"too old", "windows.push(makeWindow(42, 'old'))", "", {"unsupported"}},
-        {"one of two refuses", "windows.push(makeWindow(42, 'stubborn'))", "add(makeWindow(42))",
-            {"refused", "refused"}},
+            ""},
+        {"a window that is there", "windows.push(makeWindow(42))", "", "omitted\n"},
+        {"a later window", "", "add(makeWindow(42))", "omitted\n"},
+        {"too old", "windows.push(makeWindow(42, 'old'))", "", "unsupported\n"},
+        {"one of two refuses", "windows.push(makeWindow(42, 'stubborn'))", "add(makeWindow(42))", "refused\nrefused\n"},
         {"a menu that refuses", "windows.push(makeWindow(42))", "add(makeWindow(42, 'stubborn'))",
-            {"omitted", "refused"}},
-        {"somebody resets the flag", "const w = makeWindow(42); windows.push(w)", "w.reset()", {"omitted", "refused"}},
+            "omitted\nrefused\n"},
+        {"somebody resets the flag", "const w = makeWindow(42); windows.push(w)", "w.reset()", "omitted\nrefused\n"},
     };
     for (const auto& [name, before, after, reports] : cases) {
         SCOPED_TRACE(name);
@@ -58,10 +60,7 @@ TEST(KWinScript, ReportsTheWorstOfAllWindowsOfOurs)
             {QStringLiteral("-e"),
                 QString::fromStdString(kWorkspace + before + "\n" + kwinScript(42, ":1.9") + after)});
         ASSERT_TRUE(process.waitForFinished(30'000));
-        std::string expected;
-        for (const auto& report : reports)
-            expected += ":1.9 /CaptureExclusion app.cuebright.CaptureExclusion Report " + report + "\n";
-        EXPECT_EQ(process.readAllStandardOutput().toStdString(), expected);
+        EXPECT_EQ(process.readAllStandardOutput().toStdString(), reports);
         EXPECT_EQ(process.readAllStandardError().toStdString(), "");
     }
 }

@@ -18,41 +18,34 @@ namespace cuebright::test {
 
 namespace {
 
-using Choice = Appearance::Choice;
-
 class QtAppearanceTest : public testing::Test {
 protected:
-    QtAppearanceTest() { QApplication::setPalette(QPalette()); }
-    ~QtAppearanceTest() override { QApplication::setPalette(QPalette()); }
-
-    QtAppearance& appearance()
+    /// On a desktop with this palette.
+    void start(const QPalette& desktop = {})
     {
-        if (!m_appearance) {
-            m_appearance.emplace();
-            m_subscription = m_appearance->changed.subscribe([this] { ++m_changes; });
-        }
-        return *m_appearance;
+        QApplication::setPalette(desktop);
+        appearance.emplace();
+        subscription = appearance->changed.subscribe([this] { ++changes; });
     }
+    ~QtAppearanceTest() override { QApplication::setPalette(QPalette()); }
     /// Whether it is dark, with the papers' colours to match, and how often that has changed.
-    void expect(bool isDark, int changes)
+    void expect(bool isDark, int changed)
     {
-        EXPECT_EQ(appearance().isDark(), isDark);
+        EXPECT_EQ(std::pair(appearance->isDark(), changes), std::pair(isDark, changed));
         const auto paper = toQColor(Palette::windowBackground.resolved(isDark));
         EXPECT_EQ(QApplication::palette().color(QPalette::Window), paper);
-        EXPECT_EQ(m_changes, changes);
     }
-    static void makeDesktopDark() { QApplication::setPalette(QPalette(QColor(40, 40, 40))); }
 
-private:
-    std::optional<QtAppearance> m_appearance;
-    int m_changes = 0;
-    Subscription m_subscription;
+    std::optional<QtAppearance> appearance;
+    int changes = 0;
+    Subscription subscription;
 };
 
 } // namespace
 
 TEST_F(QtAppearanceTest, EveryWidgetGetsFusionStyleAndThePapersColours)
 {
+    start();
     expect(false, 0);
     const auto style = qobject_cast<QProxyStyle*>(QApplication::style());
     ASSERT_TRUE(style);
@@ -60,26 +53,20 @@ TEST_F(QtAppearanceTest, EveryWidgetGetsFusionStyleAndThePapersColours)
     EXPECT_EQ(QToolTip::palette().color(QPalette::ToolTipText), toQColor(Palette::textPrimary.light));
 }
 
-TEST_F(QtAppearanceTest, TheChoiceOverrulesTheSystemAndClearingItFollowsAgain)
+TEST_F(QtAppearanceTest, TheChoiceOverrulesTheSystemWhoseReportsCountOnlyWhileItIsFollowed)
 {
-    const std::tuple<Choice, bool, int> steps[] = {{Choice::Light, false, 0}, {Choice::Dark, true, 1},
-        {Choice::Dark, true, 1}, {Choice::FollowSystem, false, 2}, {Choice::Dark, true, 3}, {Choice::Light, false, 4}};
-    for (const auto& [choice, isDark, changes] : steps) {
-        appearance().choose(choice);
-        expect(isDark, changes);
+    start();
+    using enum Appearance::Choice;
+    const std::tuple<std::optional<bool>, Appearance::Choice, bool, int> steps[] = {{{}, Light, false, 0},
+        {{}, Dark, true, 1}, {{}, Dark, true, 1}, {{}, FollowSystem, false, 2}, {{}, Dark, true, 3},
+        {{}, Light, false, 4}, {true, FollowSystem, true, 5}, {{}, Light, false, 6}, {false, Light, false, 6},
+        {true, Light, false, 6}, {{}, FollowSystem, true, 7}, {false, FollowSystem, false, 8}};
+    for (const auto& [reported, choice, isDark, changed] : steps) {
+        if (reported)
+            appearance->setSystemIsDark(*reported);
+        appearance->choose(choice);
+        expect(isDark, changed);
     }
-}
-
-TEST_F(QtAppearanceTest, AReportOfTheSystemsSettingCountsOnlyWhileItIsFollowed)
-{
-    appearance().setSystemIsDark(true);
-    expect(true, 1);
-    appearance().choose(Choice::Light);
-    appearance().setSystemIsDark(false);
-    appearance().setSystemIsDark(true);
-    expect(false, 2);
-    appearance().choose(Choice::FollowSystem);
-    expect(true, 3);
 }
 
 TEST_F(QtAppearanceTest, TheDesktopsPaletteIsFollowedUntilTheSystemIsReported)
@@ -91,11 +78,11 @@ TEST_F(QtAppearanceTest, TheDesktopsPaletteIsFollowedUntilTheSystemIsReported)
         QCoreApplication::sendEvent(&window, &event);
         processEvents();
     };
-    makeDesktopDark();
+    start(QPalette(QColor(40, 40, 40)));
     expect(true, 0); // from here on the desktop is light again: its own palette shows below ours
     announceTheme();
     expect(false, 1);
-    appearance().setSystemIsDark(true);
+    appearance->setSystemIsDark(true);
     announceTheme();
     expect(true, 2);
 }

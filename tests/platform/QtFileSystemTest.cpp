@@ -14,6 +14,11 @@ namespace {
 namespace fs = std::filesystem;
 using Readers = FileSystem::Readers;
 
+/// Whether it is a link, its permissions and content.
+using File = std::tuple<bool, unsigned, std::string>;
+
+File fileAt(const fs::path& path) { return {fs::is_symlink(path), TemporaryFolder::modeOf(path), readFile(path)}; }
+
 class QtFileSystemTest : public testing::Test {
 protected:
     /// What went wrong; empty when the file is written.
@@ -22,15 +27,6 @@ protected:
         const auto error = files.writeFileAtomically(path, content, readers);
         return error ? error->description : std::string();
     }
-    /// As an ordinary user to whom the folder belongs with these permissions.
-    std::string writeAsUser(const fs::path& path, fs::perms folderPermissions)
-    {
-        fs::permissions(folder.path(), folderPermissions);
-        const AsOrdinaryUser user;
-        return write(path);
-    }
-    static std::string contentOf(const fs::path& path) { return TemporaryFolder::contentOf(path); }
-    static unsigned modeOf(const fs::path& path) { return TemporaryFolder::modeOf(path); }
 
     TemporaryFolder folder;
     QtFileSystem files;
@@ -46,14 +42,12 @@ TEST_F(QtFileSystemTest, AFullDiskKeepsTheOldFileSaysWhyAndRecovers)
         SCOPED_TRACE(std::to_string(room) + " of " + std::to_string(size));
         const auto path = folder.write("state.json", "old content");
         const std::string content(size, 'x');
-        {
-            const FileSizeLimit limit(room);
-            EXPECT_EQ(write(path, content), "File too large");
-        }
-        EXPECT_EQ(contentOf(path), "old content");
-        EXPECT_EQ(folder.entryCount(), 1u) << "a temporary file was left behind";
+        withRoomFor(room, [&] { EXPECT_EQ(write(path, content), "File too large"); });
+        EXPECT_EQ(readFile(path), "old content");
+        const fs::directory_iterator entries(folder.path());
+        EXPECT_EQ(std::distance(begin(entries), end(entries)), 1) << "a temporary file was left behind";
         EXPECT_EQ(write(path, content), "");
-        EXPECT_EQ(contentOf(path), content);
+        EXPECT_EQ(readFile(path), content);
     }
 }
 
@@ -62,28 +56,24 @@ TEST_F(QtFileSystemTest, ANewFileIsForItsOwnerOnlyOrAsTheUserHasHisFilesAndAnOld
     const auto former = ::umask(027);
     EXPECT_EQ(write(folder.file("shared"), "text", Readers::AsUsual), "");
     ::umask(former);
-    EXPECT_EQ(modeOf(folder.file("shared")), 0640u);
+    EXPECT_EQ(fileAt(folder.file("shared")), File(false, 0640, "text"));
     EXPECT_EQ(write(folder.file("shared"), ""), "");
-    EXPECT_EQ(contentOf(folder.file("shared")), "");
-    EXPECT_EQ(modeOf(folder.file("shared")), 0640u);
+    EXPECT_EQ(fileAt(folder.file("shared")), File(false, 0640, ""));
     EXPECT_EQ(write(folder.file("new"), "text"), "");
-    EXPECT_EQ(contentOf(folder.file("new")), "text");
-    EXPECT_EQ(modeOf(folder.file("new")), 0600u);
+    EXPECT_EQ(fileAt(folder.file("new")), File(false, 0600, "text"));
 }
 
 TEST_F(QtFileSystemTest, ASymbolicLinkStaysAndItsTargetIsReplacedOrMade)
 {
     fs::create_directory(folder.file("elsewhere"));
-    const auto target = folder.file("elsewhere/target");
     fs::create_symlink("elsewhere/target", folder.file("link"));
     fs::create_symlink("link", folder.file("link to the link"));
-    EXPECT_EQ(write(folder.file("link"), "old"), "");
-    EXPECT_EQ(contentOf(target), "old");
-    EXPECT_EQ(modeOf(target), 0600u);
-    EXPECT_EQ(write(folder.file("link to the link"), "new"), "");
-    EXPECT_EQ(contentOf(target), "new");
-    EXPECT_TRUE(fs::is_symlink(folder.file("link to the link")));
-    EXPECT_TRUE(fs::is_symlink(folder.file("link")));
+    for (const auto& [link, text] : {std::pair("link", "made"), std::pair("link to the link", "replaced")}) {
+        EXPECT_EQ(write(folder.file(link), text), "");
+        EXPECT_EQ(fileAt(folder.file("elsewhere/target")), File(false, 0600, text));
+        EXPECT_EQ(fileAt(folder.file("link to the link")), File(true, 0600, text));
+        EXPECT_EQ(fileAt(folder.file("link")), File(true, 0600, text));
+    }
 }
 
 TEST_F(QtFileSystemTest, AFolderIsNoTargetForAWriteAndNoneIsMadeForOne)
@@ -97,26 +87,25 @@ TEST_F(QtFileSystemTest, AFolderIsNoTargetForAWriteAndNoneIsMadeForOne)
     EXPECT_FALSE(fs::exists(folder.file("missing")));
 }
 
-TEST_F(QtFileSystemTest, PermissionsOfTheFolderAndOfTheFileKeepWritersAndReadersOut)
+TEST_F(QtFileSystemTest, PermissionsKeepWritersAndReadersOutButForAFileOfTheProgramsOwn)
 {
-    const auto path = folder.write("file", "old");
-    fs::permissions(path, fs::perms(0666));
-    EXPECT_EQ(writeAsUser(path, fs::perms(0555)), "Permission denied");
-    EXPECT_EQ(contentOf(path), "old");
-}
-
-TEST_F(QtFileSystemTest, AFileThatMayNotBeWrittenIsReplacedOnlyWhereItIsTheProgramsOwn)
-{
-    fs::permissions(folder.path(), fs::perms(0777));
-    const AsOrdinaryUser user;
-    for (const auto mode : {fs::perms::none, fs::perms(0444)}) {
-        const auto path = folder.write("file" + std::to_string(static_cast<unsigned>(mode)), "old");
-        fs::permissions(path, mode);
-        EXPECT_EQ(files.readFile(path, 0).has_value(), mode != fs::perms::none);
-        EXPECT_TRUE(files.writeFileAtomically(path, "exported", FileSystem::Readers::AsUsual));
-        EXPECT_FALSE(files.writeFileAtomically(path, "new", FileSystem::Readers::Owner));
-        EXPECT_EQ(files.readFile(path, 0), "new");
+    for (const auto mode : {0000, 0444, 0666}) {
+        fs::permissions(folder.path(), fs::perms(0777));
+        asOrdinaryUser([&] {
+            const auto path = folder.write("file" + std::to_string(mode), "old");
+            fs::permissions(path, fs::perms(mode));
+            EXPECT_EQ(files.readFile(path, 0).has_value(), mode != 0);
+            EXPECT_EQ(write(path, "old", Readers::AsUsual).empty(), mode == 0666);
+            EXPECT_EQ(write(path, "new"), "");
+            EXPECT_EQ(files.readFile(path, 0), "new");
+        });
+        fs::permissions(folder.path(), fs::perms(0555));
+        asOrdinaryUser([&] {
+            EXPECT_EQ(write(folder.file("file" + std::to_string(mode)), "newest"), "Permission denied");
+            EXPECT_EQ(readFile(folder.file("file" + std::to_string(mode))), "new");
+        });
     }
+    fs::permissions(folder.path(), fs::perms(0777)); // or it could not go
 }
 
 TEST_F(QtFileSystemTest, AFileIsReadWholeWithRoomBehindIt)
@@ -147,10 +136,10 @@ TEST_F(QtFileSystemTest, NewFoldersAreForTheirOwnerOnlyAndWhatExistsStaysAsItIs)
     fs::create_directory(folder.file("open"));
     fs::permissions(folder.file("open"), fs::perms(0755));
     EXPECT_TRUE(files.createDirectories(folder.file("open/a/b/")));
-    EXPECT_EQ(modeOf(folder.file("open")), 0755u);
-    EXPECT_EQ(modeOf(folder.file("open/a")), 0700u);
-    EXPECT_EQ(modeOf(folder.file("open/a/b")), 0700u);
     EXPECT_TRUE(files.createDirectories(folder.file("open/a/b")));
+    const std::pair<const char*, unsigned> modes[] = {{"open", 0755}, {"open/a", 0700}, {"open/a/b", 0700}};
+    for (const auto& [path, mode] : modes)
+        EXPECT_EQ(TemporaryFolder::modeOf(folder.file(path)), mode) << path;
     folder.write("file", "text");
     EXPECT_FALSE(files.createDirectories(folder.file("file")));
     EXPECT_FALSE(files.createDirectories(folder.file("file/below")));
@@ -159,14 +148,14 @@ TEST_F(QtFileSystemTest, NewFoldersAreForTheirOwnerOnlyAndWhatExistsStaysAsItIs)
 TEST_F(QtFileSystemTest, RemovingTakesFilesAndLinksButNoFolders)
 {
     fs::create_directory(folder.file("folder"));
-    const auto target = folder.write("target", "text");
+    folder.write("target", "text");
     fs::create_symlink("target", folder.file("link"));
-    EXPECT_TRUE(files.removeFile(folder.file("link")));
-    EXPECT_TRUE(files.exists(target));
-    EXPECT_TRUE(files.removeFile(target));
-    EXPECT_FALSE(files.exists(target));
-    EXPECT_FALSE(files.removeFile(target));
-    EXPECT_FALSE(files.removeFile(folder.file("folder")));
+    const std::pair<const char*, bool> removals[] = {
+        {"link", true}, {"target", true}, {"target", false}, {"folder", false}};
+    for (const auto& [name, isTaken] : removals) {
+        EXPECT_EQ(files.exists(folder.file("target")), isTaken);
+        EXPECT_EQ(files.removeFile(folder.file(name)), isTaken) << name;
+    }
     EXPECT_TRUE(files.exists(folder.file("folder")));
 }
 

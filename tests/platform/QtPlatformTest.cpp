@@ -23,10 +23,10 @@ TEST(QtPlatform, ItsClocksGoAndUnwrittenPreferencesAreSavedWhenItEnds)
         QtPlatform platform(file);
         auto& clock = platform.services().clock;
         EXPECT_LT(std::chrono::abs(clock.now() - std::chrono::system_clock::now()), std::chrono::minutes(1));
-        EXPECT_NEAR(clock.uptime().count(), std::stod(TemporaryFolder::contentOf("/proc/uptime")), 60);
+        EXPECT_NEAR(clock.uptime().count(), std::stod(readFile("/proc/uptime")), 60);
         platform.services().preferences.setText(preferenceKeys::kTheme, "dark");
     }
-    EXPECT_EQ(TemporaryFolder::contentOf(file), "[General]\ncuebrightTheme=dark\n");
+    EXPECT_EQ(readFile(file), "[General]\ncuebrightTheme=dark\n");
     QApplication::setPalette(QPalette());
 }
 
@@ -51,7 +51,7 @@ TEST(StdoutLog, ALineIsThereAtOnceAlsoAfterOneThatAClosedOutputHasSwallowed)
     ::dup2(file, STDOUT_FILENO);
     StdoutLog().writeLine("[Cuebright] first");
     StdoutLog().writeLine("second");
-    const auto arrived = TemporaryFolder::contentOf(path);
+    const auto arrived = readFile(path);
     ::dup2(standardOutput, STDOUT_FILENO);
     ::close(standardOutput);
     ::close(file);

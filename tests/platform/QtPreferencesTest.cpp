@@ -25,7 +25,12 @@ protected:
         std::ofstream(path, std::ios::binary) << content;
         return open();
     }
-    std::string content() { return TemporaryFolder::contentOf(path); }
+    /// The file's, once it is written.
+    std::string content()
+    {
+        queue.runPosted();
+        return readFile(path);
+    }
 
     TemporaryFolder folder;
     std::filesystem::path path = folder.file("config/Cuebright/Cuebright.conf");
@@ -34,46 +39,34 @@ protected:
     FakeMainQueue queue {clock};
 };
 
-using Reading = std::tuple<std::string, std::optional<bool>, std::optional<std::int64_t>, std::optional<double>>;
+using Reading = std::tuple<std::optional<bool>, std::optional<std::int64_t>, std::optional<double>>;
 
 } // namespace
 
 TEST_F(QtPreferencesTest, AStoredValueIsReadAsTheKindAskedForOrNotAtAll)
 {
     constexpr auto kLargest = std::numeric_limits<std::int64_t>::max();
-    const Reading readings[] = {
-        {"true", true, {}, {}},
-        {"TRUE", true, {}, {}},
-        {"Yes", true, {}, {}},
-        {"1", true, 1, 1.0},
-        {"\"1\"", true, 1, 1.0},
-        {"false", false, {}, {}},
-        {"no", false, {}, {}},
-        {"banana", false, {}, {}},
-        {"", false, {}, {}},
-        {"2", false, 2, 2.0},
-        {"-3", false, -3, -3.0},
-        {"0", false, 0, 0.0},
-        {"17.5", false, {}, 17.5},
-        {"1e2", false, {}, 100.0},
-        {"17,5", false, {}, {}},
-        {"17 pt", false, {}, {}},
-        {"0x11", false, {}, {}},
-        {"nan", false, {}, {}},
-        {"inf", false, {}, {}},
-        {"-INFINITY", false, {}, {}},
-        {"1e999", false, {}, {}},
-        {"9223372036854775807", false, kLargest, 9223372036854775807.0},
-        {"9223372036854775808", false, {}, 9223372036854775808.0},
-        {"-9223372036854775809", false, {}, -9223372036854775809.0},
-        {"@Variant(\\0\\0\\0\\x1)", {}, {}, {}},
+    const std::pair<Reading, std::vector<std::string>> readings[] = {
+        {{true, {}, {}}, {"true", "TRUE", "Yes"}},
+        {{true, 1, 1.0}, {"1", "\"1\""}},
+        {{false, {}, {}}, {"false", "no", "banana", "", "17,5", "17 pt", "0x11", "nan", "inf", "-INFINITY", "1e999"}},
+        {{false, 0, 0.0}, {"0"}},
+        {{false, 2, 2.0}, {"2"}},
+        {{false, -3, -3.0}, {"-3"}},
+        {{false, {}, 17.5}, {"17.5"}},
+        {{false, {}, 100.0}, {"1e2"}},
+        {{false, kLargest, 9223372036854775807.0}, {"9223372036854775807"}},
+        {{false, {}, 9223372036854775808.0}, {"9223372036854775808"}},
+        {{false, {}, -9223372036854775809.0}, {"-9223372036854775809"}},
+        {{{}, {}, {}}, {"@Variant(\\0\\0\\0\\x1)"}},
     };
-    for (const auto& reading : readings) {
-        const auto& inFile = std::get<0>(reading);
-        auto preferences = openWith("[General]\nkey=" + inFile + '\n');
-        EXPECT_EQ(
-            Reading(inFile, preferences.boolean("key"), preferences.integer("key"), preferences.number("key")), reading)
-            << inFile;
+    for (const auto& [reading, texts] : readings) {
+        for (const auto& text : texts) {
+            auto preferences = openWith("[General]\nkey=" + text + '\n');
+            EXPECT_EQ(
+                Reading(preferences.boolean("key"), preferences.integer("key"), preferences.number("key")), reading)
+                << text;
+        }
     }
 }
 
@@ -91,13 +84,11 @@ TEST_F(QtPreferencesTest, EveryKindComesBackExactlyAndWhatIsNotThereIsAbsent)
             preferences.setNumbers("group", {{"x", value}});
         }
         auto read = open();
-        EXPECT_EQ(std::tuple(read.boolean("yes"), read.boolean("no"), read.boolean("none")),
-            std::tuple(true, false, std::nullopt));
-        EXPECT_EQ(std::tuple(read.integer("least"), read.integer("none")), std::tuple(kLeast, std::nullopt));
-        EXPECT_EQ(std::tuple(read.text("text"), read.text("none")), std::tuple("one, two; three", std::nullopt));
-        EXPECT_EQ(std::tuple(read.number("number"), read.number("none")), std::tuple(value, std::nullopt));
-        EXPECT_EQ(read.numbers("group"), (Preferences::Numbers {{"x", value}}));
-        EXPECT_TRUE(read.numbers("none").empty());
+        EXPECT_EQ(std::tuple(read.boolean("yes"), read.boolean("no"), read.integer("least"), read.text("text"),
+                      read.number("number"), read.numbers("group")),
+            std::tuple(true, false, kLeast, "one, two; three", value, Preferences::Numbers {{"x", value}}));
+        EXPECT_EQ(std::tuple(read.boolean("?"), read.integer("?"), read.text("?"), read.number("?"), read.numbers("?")),
+            std::tuple(std::nullopt, std::nullopt, std::nullopt, std::nullopt, Preferences::Numbers {}));
     }
 }
 
@@ -106,19 +97,16 @@ TEST_F(QtPreferencesTest, OnlyFiniteMembersOfAGroupCountAndSettingItReplacesItWh
     auto preferences = openWith("[frame]\nh=560\nw=nan\nx=12.5\ny=left\n[frames]\nx=7\n");
     EXPECT_EQ(preferences.numbers("frame"), (Preferences::Numbers {{"h", 560}, {"x", 12.5}}));
     preferences.setNumbers("frame", {{"x", 3}});
-    queue.runPosted();
     EXPECT_EQ(content(), "[frame]\nx=3\n\n[frames]\nx=7\n");
 }
 
 TEST_F(QtPreferencesTest, RemovingTakesTheValueOfWhateverKind)
 {
     auto preferences = openWith("a=1\nb=2\n[frame]\nx=1\n");
-    preferences.remove("a");
-    preferences.remove("frame");
-    preferences.remove("missing");
+    for (const auto* const key : {"a", "frame", "missing"})
+        preferences.remove(key);
     EXPECT_FALSE(preferences.text("a"));
     EXPECT_TRUE(preferences.numbers("frame").empty());
-    queue.runPosted();
     EXPECT_EQ(content(), "[General]\nb=2\n");
 }
 
@@ -130,27 +118,21 @@ TEST_F(QtPreferencesTest, ChangesHoldAtOnceAndReachTheFileTogetherAtTheEndOfTheT
     preferences.setNumber("size", 19);
     EXPECT_EQ(preferences.number("size"), 19.0);
     EXPECT_FALSE(std::filesystem::exists(path));
-    queue.runPosted();
     EXPECT_EQ(content(), "[General]\nsize=19\ntheme=dark\n");
 }
 
 TEST_F(QtPreferencesTest, AnUnchangedValueIsNotWritten)
 {
     auto preferences = openWith("[General]\na=1\n# by hand\n");
-    preferences.setInteger("a", 1);
-    queue.runPosted();
     preferences.setInteger("a", 2);
     preferences.setInteger("a", 1);
-    queue.runPosted();
     EXPECT_EQ(content(), "[General]\na=1\n# by hand\n");
 }
 
 TEST_F(QtPreferencesTest, NonsenseInTheFileBreaksNothing)
 {
     for (const auto nonsense : {"\0\x1\xff\xfe[[[=\n=", "[General\na=\"b\nc=\\x", "a=1\n[%%%]\n\\=2"}) {
-        auto preferences = openWith(nonsense);
-        preferences.setInteger("key", 2);
-        queue.runPosted();
+        openWith(nonsense).setInteger("key", 2);
         EXPECT_EQ(open().integer("key"), 2) << nonsense;
     }
     std::filesystem::remove(path);
@@ -162,40 +144,28 @@ TEST_F(QtPreferencesTest, AFullDiskCostsOnlyTheChangeAndTheNextOneMakesUpForIt)
 {
     auto preferences = open();
     preferences.setText("theme", "dark");
-    queue.runPosted();
+    EXPECT_EQ(content(), "[General]\ntheme=dark\n");
     EXPECT_EQ(TemporaryFolder::modeOf(path), 0600u);
-    for (const int limit : {0, 5, 12}) {
-        const FileSizeLimit full(static_cast<rlim_t>(limit));
+    for (const rlim_t room : {0u, 5u, 12u}) {
         preferences.setText("theme", "light");
-        queue.runPosted();
+        withRoomFor(room, [&] { EXPECT_EQ(content(), "[General]\ntheme=dark\n"); });
         EXPECT_EQ(preferences.text("theme"), "light");
-        EXPECT_EQ(content(), "[General]\ntheme=dark\n");
     }
     preferences.setText("other", "x");
-    queue.runPosted();
     EXPECT_EQ(content(), "[General]\nother=x\ntheme=light\n");
 }
 
-TEST_F(QtPreferencesTest, WhatAKilledRunLeftBehindIsNotInTheWay)
-{
-    openWith("[General]\na=1\n");
-    for (const auto* const name : {"Cuebright.conf.new", "Cuebright.conf.new1"})
-        std::ofstream(path.parent_path() / name) << "[General]\na=";
-    auto preferences = open();
-    preferences.setInteger("a", 2);
-    queue.runPosted();
-    EXPECT_EQ(content(), "[General]\na=2\n");
-}
-
-TEST_F(QtPreferencesTest, ALinkToTheFileStaysALink)
+TEST_F(QtPreferencesTest, WhatAKilledRunLeftBehindIsNotInTheWayAndALinkToTheFileStaysALink)
 {
     openWith("[General]\na=1\n");
     const auto real = folder.file("real.conf");
     std::filesystem::rename(path, real);
     std::filesystem::create_symlink(real, path);
+    for (const auto* const scratch : {"real.conf.new", "real.conf.new1"})
+        folder.write(scratch, "[General]\na=");
     open().setInteger("a", 2);
     EXPECT_TRUE(std::filesystem::is_symlink(path));
-    EXPECT_EQ(TemporaryFolder::contentOf(real), "[General]\na=2\n");
+    EXPECT_EQ(readFile(real), "[General]\na=2\n");
 }
 
 } // namespace cuebright::test

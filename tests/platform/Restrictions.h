@@ -8,48 +8,27 @@
 
 namespace cuebright::test {
 
-/// Behaves like a disk that has room for so many bytes of each file.
-class FileSizeLimit final {
-public:
-    explicit FileSizeLimit(rlim_t bytes)
-        : m_oldHandler(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        getrlimit(RLIMIT_FSIZE, &m_oldLimit);
-        const rlimit limit {bytes, m_oldLimit.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    FileSizeLimit(const FileSizeLimit&) = delete;
-    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-    ~FileSizeLimit()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_oldLimit);
-        std::signal(SIGXFSZ, m_oldHandler);
-    }
+/// Does the work as on a disk that has room for so many bytes of each file.
+template <typename Work> void withRoomFor(rlim_t bytes, Work work)
+{
+    rlimit usual {};
+    getrlimit(RLIMIT_FSIZE, &usual);
+    const rlimit limit {bytes, usual.rlim_max};
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    setrlimit(RLIMIT_FSIZE, &limit);
+    work();
+    setrlimit(RLIMIT_FSIZE, &usual);
+    std::signal(SIGXFSZ, handler);
+}
 
-private:
-    void (*m_oldHandler)(int);
-    rlimit m_oldLimit {};
-};
-
-/// The administrator may read and write everything; for as long as this lives, the process is nobody.
-class AsOrdinaryUser final {
-public:
-    AsOrdinaryUser()
-    {
-        if (m_wasRoot && setresuid(kNobody, kNobody, 0) != 0)
-            m_wasRoot = false;
-    }
-    AsOrdinaryUser(const AsOrdinaryUser&) = delete;
-    AsOrdinaryUser& operator=(const AsOrdinaryUser&) = delete;
-    ~AsOrdinaryUser()
-    {
-        if (m_wasRoot && setresuid(0, 0, 0) != 0)
-            std::abort();
-    }
-
-private:
-    static constexpr uid_t kNobody = 65534;
-    bool m_wasRoot = geteuid() == 0;
-};
+/// Does the work as nobody: the administrator may read and write everything.
+template <typename Work> void asOrdinaryUser(Work work)
+{
+    constexpr uid_t kNobody = 65534;
+    const bool wasRoot = geteuid() == 0 && setresuid(kNobody, kNobody, 0) == 0;
+    work();
+    if (wasRoot && setresuid(0, 0, 0) != 0)
+        std::abort();
+}
 
 } // namespace cuebright::test

@@ -1,21 +1,39 @@
 #pragma once
 
-#include <QTemporaryDir>
-
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <stdexcept>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace cuebright::test {
+
+/// The whole content of a file; empty where there is none.
+[[nodiscard]] inline std::string readFile(const std::filesystem::path& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
 
 /// A folder on the real disk that goes away with its content.
 class TemporaryFolder final {
 public:
-    TemporaryFolder() { } // not defaulted: clang has no constants of such classes as members
-    [[nodiscard]] std::filesystem::path path() const { return m_folder.path().toStdString(); }
+    TemporaryFolder()
+    {
+        if (!mkdtemp(m_path.data()))
+            throw std::runtime_error("cannot make a temporary folder");
+    }
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+    ~TemporaryFolder()
+    {
+        std::error_code ignored;
+        std::filesystem::remove_all(m_path, ignored);
+    }
+
+    [[nodiscard]] std::filesystem::path path() const { return m_path; }
     [[nodiscard]] std::filesystem::path file(std::string_view name) const { return path() / name; }
 
     /// Makes or replaces a file and returns its path.
@@ -25,25 +43,13 @@ public:
         return file(name);
     }
 
-    [[nodiscard]] static std::string contentOf(const std::filesystem::path& path)
-    {
-        std::ifstream in(path, std::ios::binary);
-        return {std::istreambuf_iterator<char>(in), {}};
-    }
-
     [[nodiscard]] static unsigned modeOf(const std::filesystem::path& path)
     {
         return static_cast<unsigned>(std::filesystem::status(path).permissions());
     }
 
-    [[nodiscard]] std::size_t entryCount() const
-    {
-        const std::filesystem::directory_iterator entries(path());
-        return static_cast<std::size_t>(std::distance(begin(entries), end(entries)));
-    }
-
 private:
-    QTemporaryDir m_folder;
+    std::string m_path = std::filesystem::temp_directory_path() / "cuebright-XXXXXX";
 };
 
 } // namespace cuebright::test

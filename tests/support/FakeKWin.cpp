@@ -2,6 +2,7 @@
 
 #include "platform/TemporaryFolder.h"
 
+#include <QDBusError>
 #include <QDBusPendingCall>
 #include <QRegularExpression>
 
@@ -43,15 +44,18 @@ bool FakeKWin::handleMessage(const QDBusMessage& message, const QDBusConnection&
         calls.back() += u' ' + argument.toString();
     if (called)
         called(calls.back());
+    if (member == refused)
+        return connection.send(message.createErrorReply(QDBusError::Failed, refused));
     if (member == QStringLiteral("unloadScript"))
         return connection.send(message.createReply(false));
     if (member == QStringLiteral("loadScript")) {
         const std::filesystem::path file = message.arguments().at(0).toString().toStdString();
-        script = TemporaryFolder::contentOf(file);
+        script = readFile(file);
         modes = {TemporaryFolder::modeOf(file), TemporaryFolder::modeOf(file.parent_path())};
-        return connection.send(message.createReply(5));
+        return connection.send(message.createReply(scriptNumber));
     }
-    connection.asyncCall(reportOf(report));
+    if (!report.isEmpty())
+        connection.asyncCall(reportOf(report));
     return connection.send(message.createReply());
 }
 

@@ -25,7 +25,9 @@ public:
     bool handleMessage(const QDBusMessage& message, const QDBusConnection&) override;
 
     QDBusConnection connection;
-    QString report = QStringLiteral("omitted");
+    QString report = QStringLiteral("omitted"); ///< of the script that is run; empty: none
+    QString refused; ///< the method that is answered with an error
+    int scriptNumber = 5;
     QStringList calls;
     std::function<void(const QString& call)> called;
     std::string script;

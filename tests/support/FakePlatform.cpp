@@ -1,5 +1,6 @@
 #include "support/FakePlatform.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace cuebright::test {
@@ -19,7 +20,7 @@ PendingTask FakeMainQueue::every(Seconds interval, std::function<void()> work)
 PendingTask FakeMainQueue::schedule(Seconds delay, std::optional<Seconds> interval, std::function<void()> work)
 {
     const int order = m_nextOrder++;
-    m_timed.emplace(order, Timed {m_clock.up + delay, order, interval, std::move(work)});
+    m_timed.emplace(order, Timed {m_clock.up + delay, interval, std::move(work)});
     return PendingTask([this, order, alive = std::weak_ptr<const char>(m_alive)] {
         if (!alive.expired())
             m_timed.erase(order);
@@ -44,12 +45,8 @@ void FakeMainQueue::advance(Seconds duration)
     const auto end = m_clock.up + duration;
     runPosted();
     for (;;) {
-        auto next = m_timed.end();
-        for (auto it = m_timed.begin(); it != m_timed.end(); ++it) {
-            if (it->second.due <= end + kRounding && (next == m_timed.end() || it->second.due < next->second.due))
-                next = it;
-        }
-        if (next == m_timed.end())
+        const auto next = std::ranges::min_element(m_timed, {}, [](const auto& entry) { return entry.second.due; });
+        if (next == m_timed.end() || next->second.due > end + kRounding)
             break;
         moveTo(std::max(m_clock.up, next->second.due));
         const auto work = next->second.work; // a copy: the work may cancel itself

@@ -70,7 +70,6 @@ public:
 private:
     struct Timed {
         Seconds due;
-        int order;
         std::optional<Seconds> interval;
         std::function<void()> work;
     };
@@ -175,6 +174,17 @@ public:
 
 /// One key at a time; presses it when a test says so.
 class FakeHotKeys final : public HotKeys {
+    struct Registration final : HotKeyRegistration {
+        explicit Registration(FakeHotKeys& hotKeys)
+            : owner(hotKeys)
+        {
+        }
+        ~Registration() override { owner.press = nullptr; }
+        bool isSystemWide() const override { return true; }
+
+        FakeHotKeys& owner;
+    };
+
 public:
     std::unique_ptr<HotKeyRegistration> registerHotKey(const HotKey& key, std::function<void()> pressed) override
     {
@@ -188,20 +198,6 @@ public:
     bool isTaken = false;
     std::vector<HotKey> keys; ///< that were asked for
     std::function<void()> press; ///< null without a registration
-
-private:
-    class Registration final : public HotKeyRegistration {
-    public:
-        explicit Registration(FakeHotKeys& owner)
-            : m_owner(owner)
-        {
-        }
-        ~Registration() override { m_owner.press = nullptr; }
-        bool isSystemWide() const override { return true; }
-
-    private:
-        FakeHotKeys& m_owner;
-    };
 };
 
 /// Records what is asked of it.

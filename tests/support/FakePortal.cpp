@@ -32,24 +32,25 @@ void require(bool condition, const char* complaint)
         throw std::runtime_error(complaint);
 }
 
-QString checkedToken(const QVariantMap& options, const QString& name)
+/// The path of a session or a request, with the token that the client has chosen for it.
+QString handle(const QDBusMessage& message, const QString& kind, const QVariant& token)
 {
     static const QRegularExpression allowed(QStringLiteral("^[A-Za-z0-9_]+$"));
-    const auto token = options.value(name).toString();
-    require(allowed.match(token).hasMatch(), "invalid token");
-    return token;
+    require(allowed.match(token.toString()).hasMatch(), "invalid token");
+    const auto sender = message.service().mid(1).replace(QLatin1Char('.'), QLatin1Char('_'));
+    return QStringList {kPath, kind, sender, token.toString()}.join(QLatin1Char('/'));
 }
 
-QString handle(const QDBusMessage& message, const QString& kind, const QString& token)
-{
-    auto sender = message.service().mid(1);
-    sender.replace(QLatin1Char('.'), QLatin1Char('_'));
-    return kPath + QLatin1Char('/') + kind + QLatin1Char('/') + sender + QLatin1Char('/') + token;
-}
+Shortcuts shortcutsIn(const QDBusMessage& message) { return qdbus_cast<Shortcuts>(message.arguments().value(1)); }
 
-QVariantMap mapAt(const QDBusMessage& message, int index)
+/// The method, then what matters of its arguments.
+QString lineOf(const QDBusMessage& message)
 {
-    return qdbus_cast<QVariantMap>(message.arguments().value(index));
+    auto words = QStringList(message.member()) + message.arguments().value(0).toStringList();
+    for (const auto& [id, properties] : shortcutsIn(message))
+        words << id << properties.value(QStringLiteral("preferred_trigger")).toString()
+              << properties.value(QStringLiteral("description")).toString();
+    return words.join(QLatin1Char(' '));
 }
 
 } // namespace
@@ -94,23 +95,22 @@ void FakePortal::sendActivated(const QString& session, const QString& id)
 
 void FakePortal::closeSession(const QString& session)
 {
-    auto signal = QDBusMessage::createSignal(session, kSession, QStringLiteral("Closed"));
-    m_bus.send(signal << QVariantMap());
+    m_bus.send(QDBusMessage::createSignal(session, kSession, QStringLiteral("Closed")) << QVariantMap());
     sessions.removeIf([&](const Session& one) { return one.path == session; });
 }
 
 bool FakePortal::handleMessage(const QDBusMessage& message, const QDBusConnection&)
 {
-    const QStringList known {kSettings, kShortcuts, kRegistry, kSession};
-    if (!known.contains(message.interface()))
+    const auto interface = message.interface();
+    if (!QStringList {kSettings, kShortcuts, kRegistry, kSession}.contains(interface))
         return false; // an unknown method, says the toolkit
-    if ((message.interface() == kShortcuts && !hasShortcuts) || (message.interface() == kRegistry && !hasRegistry)) {
-        note(message.member());
+    calls << lineOf(message);
+    if ((interface == kShortcuts && !hasShortcuts) || (interface == kRegistry && !hasRegistry))
         return false;
-    }
+    if (isSilent)
+        return true;
     try {
-        const auto answer = answerTo(message);
-        if (!isSilent && message.isReplyRequired())
+        if (const auto answer = answerTo(message); message.isReplyRequired())
             m_bus.send(message.createReply(answer));
     } catch (const std::runtime_error& refusal) {
         m_bus.send(message.createErrorReply(
@@ -122,39 +122,26 @@ bool FakePortal::handleMessage(const QDBusMessage& message, const QDBusConnectio
 QVariantList FakePortal::answerTo(const QDBusMessage& message)
 {
     const auto method = message.member();
-    const auto first = message.arguments().value(0);
-    if (method == QLatin1String("ReadAll"))
-        return readAll(first.toStringList());
-    if (method == QLatin1String("Register")) {
-        note(method + QLatin1Char(' ') + first.toString());
+    if (method == QLatin1String("Register"))
         return {};
-    }
+    if (method == QLatin1String("ReadAll"))
+        return {QVariant::fromValue(settings)};
     if (method == QLatin1String("CreateSession"))
         return createSession(message);
     if (method == QLatin1String("BindShortcuts"))
         return bind(message);
     require(method == QLatin1String("Close"), "unknown method");
-    close(message);
+    require(sessions.removeIf([&](const Session& one) { return one.path == message.path(); }) > 0, "invalid session");
     return {};
-}
-
-QVariantList FakePortal::readAll(const QStringList& groups)
-{
-    note(QStringLiteral("ReadAll ") + groups.join(QLatin1Char(' ')));
-    auto answer = settings;
-    answer.removeIf([&](const auto& group) { return !groups.isEmpty() && !groups.contains(group.key()); });
-    return {QVariant::fromValue(answer)};
 }
 
 QVariantList FakePortal::createSession(const QDBusMessage& message)
 {
-    note(message.member());
     require(message.signature() == QLatin1String("a{sv}"), "wrong signature");
-    const auto options = mapAt(message, 0);
-    const auto path =
-        handle(message, QStringLiteral("session"), checkedToken(options, QStringLiteral("session_handle_token")));
-    require(!findSession(path), "session exists");
-    if (responseToCreate == 0 && !isSilent)
+    const auto options = qdbus_cast<QVariantMap>(message.arguments()[0]);
+    const auto path = handle(message, QStringLiteral("session"), options.value(QStringLiteral("session_handle_token")));
+    require(!std::ranges::count(sessions, path, &Session::path), "session exists");
+    if (responseToCreate == 0)
         sessions.append({path, message.service(), {}});
     return respond(message, options, responseToCreate, {{QStringLiteral("session_handle"), path}});
 }
@@ -162,54 +149,27 @@ QVariantList FakePortal::createSession(const QDBusMessage& message)
 QVariantList FakePortal::bind(const QDBusMessage& message)
 {
     require(message.signature() == QLatin1String("oa(sa{sv})sa{sv}"), "wrong signature");
-    const auto shortcuts = qdbus_cast<Shortcuts>(message.arguments().at(1));
-    Shortcuts bound;
-    for (const auto& [id, properties] : shortcuts) {
-        note(message.member() + QLatin1Char(' ') + id + QLatin1Char(' ')
-            + properties.value(QStringLiteral("preferred_trigger")).toString());
-        lastShortcut = properties;
-        bound.append({id,
-            {{QStringLiteral("description"), properties.value(QStringLiteral("description"))},
-                {QStringLiteral("trigger_description"), triggerDescription}}});
-    }
-    auto* const session = findSession(message.arguments().at(0).value<QDBusObjectPath>().path());
-    require(session && session->client == message.service(), "invalid session");
+    const auto path = message.arguments()[0].value<QDBusObjectPath>().path();
+    const auto session = std::ranges::find(sessions, path, &Session::path);
+    require(session != sessions.end() && session->client == message.service(), "invalid session");
     require(!std::exchange(session->wasBound, true), "bound before");
-    if (responseToBind == 0)
-        for (const auto& shortcut : shortcuts)
-            session->shortcuts << shortcut.first;
-    return respond(
-        message, mapAt(message, 3), responseToBind, {{QStringLiteral("shortcuts"), QVariant::fromValue(bound)}});
-}
-
-void FakePortal::close(const QDBusMessage& message)
-{
-    note(message.member());
-    require(findSession(message.path()), "invalid session");
-    sessions.removeIf([&](const Session& one) { return one.path == message.path(); });
+    auto bound = shortcutsIn(message);
+    for (auto& [id, properties] : bound) {
+        properties.insert(QStringLiteral("trigger_description"), triggerDescription);
+        if (responseToBind == 0)
+            session->shortcuts << id;
+    }
+    return respond(message, qdbus_cast<QVariantMap>(message.arguments()[3]), responseToBind,
+        {{QStringLiteral("shortcuts"), QVariant::fromValue(bound)}});
 }
 
 QVariantList FakePortal::respond(
     const QDBusMessage& request, const QVariantMap& options, uint response, const QVariantMap& results)
 {
-    const auto path = handle(request, QStringLiteral("request"), checkedToken(options, QStringLiteral("handle_token")));
-    if (!isSilent) {
-        auto signal = QDBusMessage::createTargetedSignal(request.service(), path, kRequest, QStringLiteral("Response"));
-        m_bus.send(signal << response << (response == 0 ? results : QVariantMap()));
-    }
+    const auto path = handle(request, QStringLiteral("request"), options.value(QStringLiteral("handle_token")));
+    auto signal = QDBusMessage::createTargetedSignal(request.service(), path, kRequest, QStringLiteral("Response"));
+    m_bus.send(signal << response << (response == 0 ? results : QVariantMap()));
     return {QVariant::fromValue(QDBusObjectPath(path))};
-}
-
-FakePortal::Session* FakePortal::findSession(const QString& path)
-{
-    const auto session = std::ranges::find(sessions, path, &Session::path);
-    return session == sessions.end() ? nullptr : &*session;
-}
-
-void FakePortal::note(const QString& call)
-{
-    calls << call;
-    called(call);
 }
 
 } // namespace cuebright::test

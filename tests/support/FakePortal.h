@@ -8,8 +8,6 @@
 #include <QStringList>
 #include <QVariantMap>
 
-#include <functional>
-
 namespace cuebright::test {
 
 /// A desktop's portal: Settings, GlobalShortcuts and the Registry, as documented by XDG Desktop Portal. A response
@@ -20,8 +18,6 @@ class FakePortal final : public QDBusVirtualObject {
 public:
     /// On the bus from now on, until the connection ends or `leave`.
     explicit FakePortal(QDBusConnection bus);
-    FakePortal(const FakePortal&) = delete;
-    FakePortal& operator=(const FakePortal&) = delete;
     ~FakePortal() override { leave(); }
 
     void leave();
@@ -50,22 +46,16 @@ public:
     };
     QList<Session> sessions; ///< that are open
     QStringList calls; ///< one line each, in order: the method, then what matters of its arguments
-    QVariantMap lastShortcut; ///< as it was to be bound
-    std::function<void(const QString&)> called = [](const QString&) {}; ///< hears each line as well
 
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& bus) override;
     QString introspect(const QString&) const override { return {}; }
 
 private:
-    void note(const QString& call);
     QVariantList answerTo(const QDBusMessage& message);
-    QVariantList readAll(const QStringList& groups);
     QVariantList createSession(const QDBusMessage& message);
     QVariantList bind(const QDBusMessage& message);
-    void close(const QDBusMessage& message);
     QVariantList respond(
         const QDBusMessage& request, const QVariantMap& options, uint response, const QVariantMap& results);
-    Session* findSession(const QString& path);
 
     QDBusConnection m_bus;
 };

@@ -9,7 +9,7 @@ PrivateBus::PrivateBus()
 {
     m_daemon.start(QStringLiteral("dbus-daemon"),
         {QStringLiteral("--session"), QStringLiteral("--nofork"), QStringLiteral("--nopidfile"),
-            QStringLiteral("--address=unix:dir=") + m_folder.path(), QStringLiteral("--print-address=1")});
+            QStringLiteral("--print-address=1")});
     if (!m_daemon.waitForStarted() || !m_daemon.waitForReadyRead())
         qFatal("no message bus: %s", qPrintable(m_daemon.errorString()));
     m_address = QString::fromUtf8(m_daemon.readLine()).trimmed();
@@ -19,7 +19,7 @@ PrivateBus::~PrivateBus()
 {
     for (const auto& name : m_connections)
         QDBusConnection::disconnectFromBus(name);
-    m_daemon.kill();
+    m_daemon.terminate();
     m_daemon.waitForFinished();
 }
 

@@ -3,7 +3,6 @@
 #include <QDBusConnection>
 #include <QProcess>
 #include <QString>
-#include <QTemporaryDir>
 
 namespace cuebright::test {
 
@@ -20,7 +19,6 @@ public:
     [[nodiscard]] const QString& address() const { return m_address; }
 
 private:
-    QTemporaryDir m_folder;
     QProcess m_daemon;
     QString m_address;
     QStringList m_connections;

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "desktop/RunningPanel.h"
+
+#include <QCoreApplication>
+#include <QDBusConnection>
+
+namespace cuebright::test {
+
+/// A connection of somebody else on the desktop's message bus; a new one for each name.
+inline QDBusConnection connectToDesktop(const QString& name)
+{
+    static int count = 1;
+    static char program[] = "desktop_tests";
+    static char* arguments[] = {program, nullptr};
+    static const QCoreApplication application(count, arguments);
+    return QDBusConnection::connectToBus(
+        QString::fromStdString(desktop().environment().at("DBUS_SESSION_BUS_ADDRESS")), name);
+}
+
+} // namespace cuebright::test
