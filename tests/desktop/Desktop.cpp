@@ -142,8 +142,12 @@ Desktop::Area Desktop::clientArea(WindowId window) const
 
 bool Desktop::isActive(WindowId window) const
 {
+    // The window manager may tell of it before the keyboard has come.
+    ::Window focused = None;
+    int whereItReturns = 0;
+    XGetInputFocus(m_display->connection, &focused, &whereItReturns);
     const auto active = m_display->property<WindowId>(m_display->root, "_NET_ACTIVE_WINDOW");
-    return !active.empty() && active.front() == window;
+    return focused == window && !active.empty() && active.front() == window;
 }
 
 bool Desktop::isOnScreen(WindowId window) const

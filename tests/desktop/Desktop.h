@@ -36,6 +36,7 @@ public:
     [[nodiscard]] std::string title(WindowId window) const;
     /// Without the frame that the window manager draws around it.
     [[nodiscard]] Area clientArea(WindowId window) const;
+    /// It has the keyboard.
     [[nodiscard]] bool isActive(WindowId window) const;
     /// Neither hidden nor minimised.
     [[nodiscard]] bool isOnScreen(WindowId window) const;
