@@ -50,6 +50,8 @@ TEST_F(QtAppearanceTest, EveryWidgetGetsFusionStyleAndThePapersColours)
     const auto style = qobject_cast<QProxyStyle*>(QApplication::style());
     ASSERT_TRUE(style);
     EXPECT_EQ(style->baseStyle()->name(), QStringLiteral("fusion"));
+    const auto more = style->standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton).pixmap(12).toImage();
+    EXPECT_GT(more.pixelColor(more.rect().center()).alpha(), 128) << "the arrow of a menu bar without room";
     EXPECT_EQ(QToolTip::palette().color(QPalette::ToolTipText), toQColor(Palette::textPrimary.light));
 }
 

@@ -4,15 +4,17 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QPainter>
 #include <QProxyStyle>
+#include <QStyleOption>
 #include <QToolTip>
 
 namespace cuebright {
 
 namespace {
 
-/// Fusion, but for one picture that no window shows: the menu bar is never too wide. Fetching it would make the toolkit
-/// load its plug-ins for all image formats.
+/// Fusion, but that it draws the arrow of a menu bar that has no room for all its titles. To read its picture of one,
+/// the toolkit would load its plug-ins for all image formats, whether the arrow shows or not.
 class Style final : public QProxyStyle {
 public:
     Style()
@@ -22,8 +24,20 @@ public:
 
     QIcon standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const override
     {
-        return icon == SP_ToolBarHorizontalExtensionButton ? QIcon() : QProxyStyle::standardIcon(icon, option, widget);
+        if (icon != SP_ToolBarHorizontalExtensionButton)
+            return QProxyStyle::standardIcon(icon, option, widget);
+        QPixmap arrow(kArrowSize, kArrowSize);
+        arrow.fill(Qt::transparent);
+        QPainter painter(&arrow);
+        QStyleOption plain;
+        plain.rect = arrow.rect();
+        plain.palette = QApplication::palette();
+        drawPrimitive(PE_IndicatorArrowRight, &plain, &painter);
+        return arrow;
     }
+
+private:
+    static constexpr int kArrowSize = 12;
 };
 
 void show(bool isDark)
