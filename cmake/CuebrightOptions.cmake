@@ -7,6 +7,9 @@ if(NOT MSVC)
     if(CUEBRIGHT_WERROR)
         target_compile_options(cuebright_options INTERFACE -Werror)
     endif()
+    if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+        target_compile_options(cuebright_options INTERFACE -Wno-restrict) # optimised, sees it in the library's own strings
+    endif()
 endif()
 
 # What distributions build with: a smashed stack or an overrun buffer ends the program.

@@ -31,8 +31,8 @@ FileDescriptor listenAt(const std::filesystem::path& path)
     FileDescriptor socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
     sockaddr_un address {AF_UNIX, {}};
     std::ranges::copy(path.native(), address.sun_path);
-    ::bind(socket.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address);
-    ::listen(socket.get(), 4);
+    EXPECT_EQ(::bind(socket.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
+    EXPECT_EQ(::listen(socket.get(), 4), 0);
     return socket;
 }
 

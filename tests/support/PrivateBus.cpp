@@ -26,7 +26,7 @@ PrivateBus::~PrivateBus()
 QDBusConnection PrivateBus::connect()
 {
     m_connections << QUuid::createUuid().toString();
-    const auto connection = QDBusConnection::connectToBus(m_address, m_connections.back());
+    auto connection = QDBusConnection::connectToBus(m_address, m_connections.back());
     if (!connection.isConnected())
         qFatal("the bus cannot be reached: %s", qPrintable(connection.lastError().message()));
     return connection;

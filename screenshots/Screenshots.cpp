@@ -128,7 +128,7 @@ private:
 int main(int argc, char** argv)
 {
     if (argc != 2) {
-        std::cerr << "usage: screenshots FOLDER\n";
+        std::cerr << "usage: take_screenshots FOLDER\n";
         return EXIT_FAILURE;
     }
     try {
@@ -136,7 +136,7 @@ int main(int argc, char** argv)
         for (const int scale : {1, 2})
             cuebright::test::Photographer(argv[1], scale).takeAll();
     } catch (const std::exception& error) {
-        std::cerr << "screenshots: " << error.what() << '\n';
+        std::cerr << "take_screenshots: " << error.what() << '\n';
         return EXIT_FAILURE;
     }
     return EXIT_SUCCESS;
