@@ -8,7 +8,8 @@ if(NOT MSVC)
         target_compile_options(cuebright_options INTERFACE -Werror)
     endif()
     if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-        target_compile_options(cuebright_options INTERFACE -Wno-restrict) # optimised, sees it in the library's own strings
+        # Optimised, it finds fault with the library's own strings.
+        target_compile_options(cuebright_options INTERFACE "$<$<CONFIG:Release>:-Wno-restrict>")
     endif()
 endif()
 
