@@ -32,7 +32,8 @@ class MainQueue {
 public:
     virtual ~MainQueue() = default;
 
-    /// Runs `work` after the current event.
+    /// Runs `work` after the current event, and before the user's next key or click is delivered, even one that waits
+    /// already.
     virtual void post(std::function<void()> work) = 0;
 
     /// Runs `work` once, `delay` from now.

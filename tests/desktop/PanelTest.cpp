@@ -46,5 +46,22 @@ TEST(DesktopPanel, EveryKeyOfThePanelWorksWithNumLockAndCapsLockOn)
     panel.press("Num_Lock Caps_Lock");
 }
 
+TEST(DesktopPanel, KeysThatCameWhileItWasBusyAllReachWhatTheyWereMeantFor)
+{
+    const Home home;
+    const RunningPanel panel(home);
+    const auto whileItIsBusy = [&](std::string_view chords, std::string_view text) {
+        panel.send(SIGSTOP);
+        panel.press(chords);
+        panel.type(text);
+        panel.send(SIGCONT);
+    };
+    whileItIsBusy("Right ctrl+e", "opened");
+    EXPECT_TRUE(panel.editorHolds("# opened"));
+    whileItIsBusy("ctrl+n", "made");
+    EXPECT_TRUE(panel.editorHolds("# made"));
+    EXPECT_TRUE(panel.shows("Card 6 of 6"));
+}
+
 } // namespace
 } // namespace cuebright::test

@@ -3,6 +3,8 @@
 #include "support/EventLoop.h"
 
 #include <QElapsedTimer>
+#include <QKeyEvent>
+#include <QWindow>
 
 #include <gtest/gtest.h>
 
@@ -44,6 +46,20 @@ TEST_F(QtMainQueueTest, PostedWorkRunsLaterInOrderAndMayPostMore)
     queue->post(note('b'));
     EXPECT_EQ(ran, "");
     EXPECT_TRUE(waitUntil([&] { return ran == "abc"; })) << ran;
+}
+
+TEST_F(QtMainQueueTest, PostedWorkRunsBeforeAWindowGetsTheNextKey)
+{
+    struct Window final : QWindow {
+        void keyPressEvent(QKeyEvent*) override { seen = *text; }
+        const std::string* text = nullptr;
+        std::string seen;
+    } window;
+    window.text = &ran;
+    queue->post(note('a'));
+    QKeyEvent key(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier);
+    QCoreApplication::sendEvent(&window, &key);
+    EXPECT_EQ(window.seen, "a");
 }
 
 TEST_F(QtMainQueueTest, DelayedWorkRunsOnceInTheOrderOfItsTimesAndNotEarly)

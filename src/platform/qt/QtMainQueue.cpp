@@ -1,5 +1,7 @@
 #include "platform/qt/QtMainQueue.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QMetaObject>
 #include <QPointer>
 #include <QTimer>
@@ -26,6 +28,17 @@ void end(QTimer* timer)
 }
 
 } // namespace
+
+QtMainQueue::QtMainQueue() { QCoreApplication::instance()->installEventFilter(&m_owner); }
+
+/// The toolkit delivers all input that has come while it was busy in one go, and what was posted only then: keys would
+/// reach what the keys before them have put away. Windows see input first, and only once.
+bool QtMainQueue::Owner::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->isInputEvent() && watched->isWindowType())
+        QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
+    return false;
+}
 
 void QtMainQueue::post(std::function<void()> work)
 {

@@ -13,14 +13,22 @@ namespace cuebright {
 /// What still waits when the queue goes away never runs; handles may outlive it.
 class QtMainQueue final : public MainQueue {
 public:
+    QtMainQueue();
+
     void post(std::function<void()> work) override;
     PendingTask after(Seconds delay, std::function<void()> work) override;
     PendingTask every(Seconds interval, std::function<void()> work) override;
 
 private:
+    /// Parent of every timer, target of every posted call.
+    class Owner final : public QObject {
+    protected:
+        bool eventFilter(QObject* watched, QEvent* event) override;
+    };
+
     PendingTask start(QTimer* timer);
 
-    QObject m_owner; ///< parent of every timer, target of every posted call
+    Owner m_owner;
 };
 
 } // namespace cuebright
