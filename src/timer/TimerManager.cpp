@@ -1,15 +1,24 @@
 #include "timer/TimerManager.h"
 
 #include <algorithm>
-#include <utility>
+#include <cmath>
 
 namespace cuebright {
 
 namespace {
 
 constexpr Seconds kTickInterval {1.0};
+constexpr Seconds kTickTolerance {0.1};
 constexpr Seconds kCriticalTime {60};
 constexpr Seconds kWarningTime {300};
+
+/// No tick comes at its second exactly. A countdown that is a millisecond late would skip a second that it then shows
+/// nowhere, and end a second early.
+Seconds withoutLateness(Seconds time)
+{
+    const auto due = std::round(time / kTickInterval) * kTickInterval;
+    return abs(time - due) <= kTickTolerance ? due : time;
+}
 
 std::string twoDigits(std::int64_t number)
 {
@@ -68,7 +77,8 @@ void TimerManager::start()
 void TimerManager::pause()
 {
     willChange.notify();
-    updateElapsed();
+    if (m_startDate)
+        setElapsed(m_accumulated + (m_clock.uptime() - *m_startDate));
     m_accumulated = m_elapsed;
     m_startDate.reset();
     stopTimer();
@@ -126,29 +136,21 @@ void TimerManager::scheduleTimer()
     m_timer = m_mainQueue.every(kTickInterval, m_weakTarget.guard([this] { tick(); }));
 }
 
-void TimerManager::stopTimer()
-{
-    if (m_timer)
-        std::exchange(m_timer, std::nullopt)->cancel();
-}
+void TimerManager::stopTimer() { m_timer.cancel(); }
 
 void TimerManager::tick()
 {
     if (!m_startDate)
         return;
     willChange.notify();
-    updateElapsed();
+    setElapsed(m_accumulated + withoutLateness(m_clock.uptime() - *m_startDate));
     if (m_mode == Mode::Countdown && m_countdownDuration <= m_elapsed)
         stopTimer();
 }
 
-void TimerManager::updateElapsed()
+void TimerManager::setElapsed(Seconds elapsed)
 {
-    if (!m_startDate)
-        return;
-    m_elapsed = m_accumulated + (m_clock.uptime() - *m_startDate);
-    if (m_mode == Mode::Countdown)
-        m_elapsed = std::min(m_elapsed, m_countdownDuration);
+    m_elapsed = m_mode == Mode::Countdown ? std::min(elapsed, m_countdownDuration) : elapsed;
 }
 
 } // namespace cuebright

@@ -13,8 +13,8 @@ namespace cuebright {
 
 /// The talk timer: a stopwatch, or a countdown that warns as time runs out. Not persisted.
 ///
-/// Elapsed time is computed from the start point at each tick, so late ticks do not drift. An expired countdown stays
-/// `Running` without a tick, until the user acts.
+/// Elapsed time is computed from the start point at each tick, so late ticks do not drift; a tick that is as good as on
+/// time counts as on time. An expired countdown stays `Running` without a tick, until the user acts.
 class TimerManager final {
 public:
     enum class Mode { Stopwatch, Countdown };
@@ -55,7 +55,7 @@ private:
     void scheduleTimer();
     void stopTimer();
     void tick();
-    void updateElapsed();
+    void setElapsed(Seconds elapsed);
 
     Clock& m_clock;
     MainQueue& m_mainQueue;
@@ -63,7 +63,7 @@ private:
     RunState m_runState = RunState::Stopped;
     Seconds m_elapsed {0};
     Seconds m_countdownDuration {1800};
-    std::optional<PendingTask> m_timer;
+    PendingTask m_timer;
     std::optional<Seconds> m_startDate; ///< uptime when the current running stretch began
     Seconds m_accumulated {0}; ///< counted in earlier stretches
     WeakTarget m_weakTarget;

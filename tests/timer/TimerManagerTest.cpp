@@ -73,6 +73,9 @@ TEST_F(Timer, UrgencyGrowsAsACountdownRunsOut)
         {10, 0, "countdown running 10:00 normal ticking"}, {10, 299.5, "countdown running 05:00 normal ticking"},
         {10, 300, "countdown running 05:00 warning ticking"}, {5, 239.5, "countdown running 01:00 warning ticking"},
         {5, 240, "countdown running 01:00 critical ticking"}, {5, 299.5, "countdown running 00:00 critical ticking"},
+        {5, 1.0011, "countdown running 04:59 warning ticking"},
+        {5, 299.0011, "countdown running 00:01 critical ticking"},
+        {5, 299.9996, "countdown running 00:00 expired"}, // as early as a tick can be
         {5, 300, "countdown running 00:00 expired"}, {5, 10000, "countdown running 00:00 expired"},
         {0, 0, "countdown running 00:00 expired ticking"}, // until its first tick
     };
