@@ -99,6 +99,12 @@ BlockAccessible::~BlockAccessible()
         QAccessible::deleteAccessibleInterface(id);
 }
 
+CardLayout* BlockAccessible::layout() const
+{
+    const auto shown = m_area.cardLayout();
+    return shown && m_block < shown->blocks().size() ? shown : nullptr;
+}
+
 QAccessibleInterface* BlockAccessible::parent() const { return QAccessible::queryAccessibleInterface(&m_area); }
 
 QAccessibleInterface* BlockAccessible::child(int index) const
@@ -126,20 +132,20 @@ QAccessibleInterface* BlockAccessible::childAt(int x, int y) const
 
 QString BlockAccessible::text(QAccessible::Text kind) const
 {
-    const auto layout = m_area.cardLayout();
-    return kind == QAccessible::Name && layout ? accessibleLabel(*layout, m_block) : QString();
+    const auto shown = layout();
+    return kind == QAccessible::Name && shown ? accessibleLabel(*shown, m_block) : QString();
 }
 
 QRect BlockAccessible::rect() const
 {
-    const auto layout = m_area.cardLayout();
-    return layout ? onScreen(m_area, layout->blockRect(m_block)) : QRect();
+    const auto shown = layout();
+    return shown ? onScreen(m_area, shown->blockRect(m_block)) : QRect();
 }
 
 QAccessible::Role BlockAccessible::role() const
 {
-    const auto layout = m_area.cardLayout();
-    const bool isHeading = layout && layout->blocks()[m_block].kind == Block::Kind::Heading;
+    const auto shown = layout();
+    const bool isHeading = shown && shown->blocks()[m_block].kind == Block::Kind::Heading;
     return isHeading ? QAccessible::Heading : QAccessible::Paragraph;
 }
 

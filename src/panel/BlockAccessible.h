@@ -19,7 +19,7 @@ public:
     BlockAccessible(CardArea& area, std::size_t block);
     ~BlockAccessible() override;
 
-    [[nodiscard]] bool isValid() const override { return true; }
+    [[nodiscard]] bool isValid() const override { return layout() != nullptr; }
     [[nodiscard]] QObject* object() const override { return nullptr; }
     [[nodiscard]] QAccessibleInterface* parent() const override;
     [[nodiscard]] int childCount() const override { return static_cast<int>(m_links.size()); }
@@ -33,6 +33,9 @@ public:
     [[nodiscard]] QAccessible::State state() const override;
 
 private:
+    /// Null where the card on show has no such block any more.
+    [[nodiscard]] CardLayout* layout() const;
+
     CardArea& m_area;
     std::size_t m_block;
     std::vector<QAccessible::Id> m_links;

@@ -10,6 +10,7 @@ namespace cuebright {
 CardAccessible::CardAccessible(CardArea& area)
     : QAccessibleWidget(&area, QAccessible::Document)
     , m_area(area)
+    , m_contentSubscription(area.contentChanged.subscribe([this] { takeChangedContent(); }))
 {
 }
 
@@ -27,13 +28,10 @@ void CardAccessible::install()
     static_cast<void>(kInstalled);
 }
 
-void CardAccessible::contentChanged(CardArea& area)
+void CardAccessible::takeChangedContent()
 {
-    if (!QAccessible::isActive())
-        return;
-    if (const auto interface = dynamic_cast<CardAccessible*>(QAccessible::queryAccessibleInterface(&area)))
-        interface->forgetChildren();
-    QAccessibleEvent event(&area, QAccessible::ObjectReorder);
+    forgetChildren();
+    QAccessibleEvent event(&m_area, QAccessible::ObjectReorder);
     QAccessible::updateAccessibility(&event);
 }
 

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "foundation/Signal.h"
+
 #include <QAccessibleWidget>
 
-#include <map>
-#include <memory>
 #include <vector>
 
 namespace cuebright {
@@ -18,8 +18,6 @@ public:
 
     /// From now on card areas have this interface.
     static void install();
-    /// Another card, or another text, is on show.
-    static void contentChanged(CardArea& area);
     /// The keyboard has come to a link of the card.
     static void focusMoved(CardArea& area);
 
@@ -30,10 +28,12 @@ public:
     [[nodiscard]] QAccessibleInterface* focusChild() const override;
 
 private:
+    void takeChangedContent();
     void forgetChildren();
 
     CardArea& m_area;
     mutable std::vector<QAccessible::Id> m_children; ///< made when asked for
+    Subscription m_contentSubscription;
 };
 
 } // namespace cuebright

@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace cuebright {
 
@@ -63,19 +64,18 @@ void CardArea::refresh(Content content, const std::optional<Animation>& animatio
         m_transition.stop();
     }
     m_key = key;
-    layOut();
     if (isOther)
-        verticalScrollBar()->setValue(0);
+        verticalScrollBar()->setValue(0); // first, or the new card would be laid out as far as the old one was scrolled
+    layOut();
     viewport()->update();
-    CardAccessible::contentChanged(*this);
+    contentChanged.notify();
 }
 
 void CardArea::layOut()
 {
     if (!m_isSized)
         return;
-    m_focusedLink.reset();
-    m_pressedLink.reset();
+    forgetLinks();
     const auto card = m_context.store.activeCard();
     if (card)
         m_layout.emplace(
@@ -84,6 +84,12 @@ void CardArea::layOut()
         m_layout.reset();
     updateScrollRange();
     goOnLayingOut();
+}
+
+void CardArea::forgetLinks()
+{
+    m_focusedLink.reset();
+    m_pressedLink.reset();
 }
 
 void CardArea::updateScrollRange()
@@ -155,8 +161,7 @@ std::optional<CardLayout::Link> CardArea::focusedLink() const
 {
     if (!hasFocus() || !m_focusedLink || !m_layout)
         return std::nullopt;
-    const auto links = m_layout->links();
-    return *m_focusedLink < links.size() ? std::optional(links[*m_focusedLink]) : std::nullopt;
+    return m_layout->links().at(*m_focusedLink);
 }
 
 void CardArea::drawFocus(QPainter& painter)
@@ -183,9 +188,16 @@ QPixmap CardArea::pictureOfFrame()
 
 void CardArea::resizeEvent(QResizeEvent*)
 {
-    m_isSized = true;
-    m_transition.stop();
-    layOut();
+    if (!std::exchange(m_isSized, true))
+        return layOut();
+    // Also where a scroll bar comes or goes with another card, whose transition goes on.
+    if (m_layout && m_layout->width() != viewport()->width()) {
+        forgetLinks();
+        m_layout->setWidth(viewport()->width());
+        contentChanged.notify();
+    }
+    updateScrollRange();
+    goOnLayingOut();
 }
 
 void CardArea::scrollContentsBy(int, int)

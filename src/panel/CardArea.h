@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/Signal.h"
 #include "foundation/Uuid.h"
 #include "foundation/WeakTarget.h"
 #include "panel/CardLayout.h"
@@ -37,6 +38,9 @@ public:
     [[nodiscard]] std::optional<CardLayout::Link> focusedLink() const;
     [[nodiscard]] QSize minimumSizeHint() const override { return {0, 0}; }
 
+    /// Other blocks are on show, or the same ones at other places.
+    Signal<> contentChanged;
+
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -63,6 +67,7 @@ private:
 
     [[nodiscard]] Key currentKey() const;
     void layOut();
+    void forgetLinks();
     void updateScrollRange();
     void goOnLayingOut();
     void drawCard(QPainter& painter, const QRect& area);

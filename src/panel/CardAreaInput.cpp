@@ -34,8 +34,8 @@ void CardArea::keyPressEvent(QKeyEvent* event)
     case Qt::Key_Return:
     case Qt::Key_Enter:
     case Qt::Key_Space:
-        if (m_layout && m_focusedLink)
-            return openLink(m_layout->links()[*m_focusedLink].target);
+        if (const auto link = focusedLink())
+            return openLink(link->target);
         break;
     default:
         break;
@@ -46,17 +46,17 @@ void CardArea::keyPressEvent(QKeyEvent* event)
 /// Tab goes through the card's links before it leaves the card.
 bool CardArea::focusNextPrevChild(bool next)
 {
-    const auto count = m_layout ? m_layout->links().size() : 0;
+    const auto links = m_layout ? m_layout->links() : std::vector<CardLayout::Link>();
     std::optional<std::size_t> following;
     if (next)
         following = m_focusedLink ? *m_focusedLink + 1 : 0;
     else if (m_focusedLink && *m_focusedLink > 0)
         following = *m_focusedLink - 1;
-    m_focusedLink = following && *following < count ? following : std::nullopt;
+    m_focusedLink = following && *following < links.size() ? following : std::nullopt;
     viewport()->update();
     if (!m_focusedLink)
         return QAbstractScrollArea::focusNextPrevChild(next);
-    const auto rect = m_layout->links()[*m_focusedLink].rect;
+    const auto rect = links[*m_focusedLink].rect;
     const auto bar = verticalScrollBar();
     bar->setValue(std::clamp(bar->value(), static_cast<int>(std::ceil(rect.bottom())) - viewport()->height(),
         std::max(static_cast<int>(rect.top()), static_cast<int>(std::ceil(rect.bottom())) - viewport()->height())));
@@ -75,12 +75,7 @@ std::optional<std::string> CardArea::linkAt(const QPoint& position) const
 {
     if (!m_layout || m_transition.isRunning())
         return std::nullopt;
-    const auto place = QPointF(position) + QPointF(0, verticalScrollBar()->value());
-    for (const auto& link : m_layout->links()) {
-        if (link.rect.contains(place))
-            return link.target;
-    }
-    return std::nullopt;
+    return m_layout->linkAt(QPointF(position) + QPointF(0, verticalScrollBar()->value()));
 }
 
 void CardArea::mousePressEvent(QMouseEvent* event)

@@ -152,9 +152,12 @@ void CardContentView::toggleOverwrite()
 
 void CardContentView::refresh()
 {
+    const bool isEditing = m_context.store.isEditing();
+    const auto editAnimation = std::exchange(m_editAnimation, std::nullopt);
+    if (isEditing != m_showsEditor && editAnimation)
+        fadeOutWhatIsShown(*editAnimation); // before anything changes
     m_header->refresh();
     m_footer->refresh();
-    const bool isEditing = m_context.store.isEditing();
     if (isEditing && !m_editor)
         makeEditView();
     if (m_editor)
@@ -163,25 +166,32 @@ void CardContentView::refresh()
         m_editor->open();
     const auto content = std::exchange(m_cardContent, CardArea::Content::Same);
     const auto cardAnimation = std::exchange(m_cardAnimation, std::nullopt);
-    const auto editAnimation = std::exchange(m_editAnimation, std::nullopt);
     const bool staysWithTheCard = !m_showsEditor && !isEditing;
     m_cardArea->refresh(content, staysWithTheCard ? cardAnimation : std::nullopt);
-    showEditor(isEditing, editAnimation);
+    showEditor(isEditing);
     update();
 }
 
-void CardContentView::showEditor(bool isEditing, const std::optional<Animation>& animation)
+QWidget& CardContentView::shownContent() const
+{
+    return m_showsEditor ? *m_editView : static_cast<QWidget&>(*m_cardArea);
+}
+
+void CardContentView::fadeOutWhatIsShown(const Animation& animation)
+{
+    const auto area = shownContent().geometry();
+    if (isVisible())
+        new FadeOut(grab(area), area, animation, this);
+}
+
+void CardContentView::showEditor(bool isEditing)
 {
     if (isEditing == m_showsEditor)
         return;
     assert(m_editView); // made before the first edit is shown
-    const auto leaving = m_showsEditor ? m_editView : static_cast<QWidget*>(m_cardArea);
-    const auto arriving = m_showsEditor ? static_cast<QWidget*>(m_cardArea) : m_editView;
-    if (animation && isVisible())
-        new FadeOut(grab(leaving->geometry()), leaving->geometry(), *animation, this);
+    shownContent().hide();
     m_showsEditor = isEditing;
-    leaving->hide();
-    arriving->show();
+    shownContent().show();
     takeFocus();
 }
 

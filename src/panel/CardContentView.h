@@ -59,7 +59,9 @@ private:
     void takeChangedLook();
     void toggleOverwrite();
     void refresh();
-    void showEditor(bool isEditing, const std::optional<Animation>& animation);
+    [[nodiscard]] QWidget& shownContent() const;
+    void fadeOutWhatIsShown(const Animation& animation);
+    void showEditor(bool isEditing);
 
     const PanelContext& m_context;
     TimerManager m_timerManager;

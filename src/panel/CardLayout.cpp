@@ -42,20 +42,29 @@ CardLayout::CardLayout(std::vector<Block> blocks, double fontSize, const Colors&
     : m_blocks(std::move(blocks))
     , m_fontSize(fontSize)
     , m_colors(colors)
-    , m_width(width)
     , m_isEmptyCard(m_blocks.empty())
 {
-    if (m_isEmptyCard) {
+    if (m_isEmptyCard)
         m_blocks.push_back({Block::Kind::Paragraph, "Empty card"});
-        m_bottom = kEmptyCardTop;
-    }
+    setWidth(width);
+}
+
+void CardLayout::setWidth(double width)
+{
+    m_width = width;
+    m_bottom = m_isEmptyCard ? kEmptyCardTop : 0;
+    m_nextBlock = 0;
+    m_open = {};
+    m_pieces.clear();
+    m_estimatedRest = 0;
     for (const auto& block : m_blocks)
         m_estimatedRest += estimatedHeight(block);
 }
 
 double CardLayout::estimatedHeight(const Block& block) const
 {
-    const double size = block.kind == Block::Kind::Heading ? headingSize(m_fontSize) : m_fontSize;
+    const double wanted = block.kind == Block::Kind::Heading ? headingSize(m_fontSize) : m_fontSize;
+    const double size = drawnSize(wanted);
     const double letterWidth = size * 0.5;
     const double lineHeight = size * 1.2 + lineSpacing(block.kind);
     const double lines = std::ceil(static_cast<double>(block.text.size()) * letterWidth / std::max(m_width, 1.0));
@@ -197,9 +206,8 @@ void CardLayout::draw(QPainter& painter, const QRectF& visible)
 {
     layOutTo(visible.bottom());
     painter.setRenderHint(QPainter::Antialiasing);
-    const auto isAbove = [&](const Piece& piece) { return piece.bottom < visible.top(); };
-    auto piece = std::partition_point(m_pieces.begin(), m_pieces.end(), isAbove);
-    for (; piece != m_pieces.end() && piece->top <= visible.bottom(); ++piece) {
+    for (auto piece = firstPieceDownFrom(visible.top()); piece != m_pieces.end() && piece->top <= visible.bottom();
+         ++piece) {
         drawMarker(painter, *piece);
         const bool isMuted = m_isEmptyCard || m_blocks[piece->block].kind == Block::Kind::Blockquote;
         const auto ink = isMuted ? m_colors.muted() : m_colors.text();
@@ -243,6 +251,11 @@ std::vector<CardLayout::Piece>::const_iterator CardLayout::firstPieceOf(std::siz
         m_pieces.begin(), m_pieces.end(), [block](const Piece& piece) { return piece.block < block; });
 }
 
+std::vector<CardLayout::Piece>::const_iterator CardLayout::firstPieceDownFrom(double y) const
+{
+    return std::partition_point(m_pieces.begin(), m_pieces.end(), [y](const Piece& piece) { return piece.bottom < y; });
+}
+
 QRectF CardLayout::blockRect(std::size_t block)
 {
     layOutThrough(block);
@@ -275,6 +288,18 @@ std::vector<CardLayout::Link> CardLayout::linksIn(std::size_t block)
     for (auto piece = firstPieceOf(block); piece != m_pieces.end() && piece->block == block; ++piece)
         appendLinks(*piece, places);
     return places;
+}
+
+std::optional<std::string> CardLayout::linkAt(const QPointF& place) const
+{
+    const auto piece = firstPieceDownFrom(place.y());
+    if (piece == m_pieces.end())
+        return std::nullopt;
+    std::vector<Link> places;
+    appendLinks(*piece, places);
+    const auto link =
+        std::ranges::find_if(places, [&](const Link& candidate) { return candidate.rect.contains(place); });
+    return link == places.end() ? std::nullopt : std::optional(link->target);
 }
 
 void CardLayout::appendLinks(const Piece& piece, std::vector<Link>& places)

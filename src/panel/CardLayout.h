@@ -11,6 +11,7 @@
 
 #include <chrono>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -36,6 +37,9 @@ public:
     CardLayout(std::vector<Block> blocks, double fontSize, const Colors& colors, double width);
 
     [[nodiscard]] const std::vector<Block>& blocks() const { return m_blocks; }
+    [[nodiscard]] double width() const { return m_width; }
+    /// Begins anew in another width.
+    void setWidth(double width);
     /// Exact once everything is laid out; a guess below what is.
     [[nodiscard]] double height() const { return m_bottom + m_estimatedRest; }
     [[nodiscard]] bool isComplete() const { return m_nextBlock == m_blocks.size(); }
@@ -56,6 +60,8 @@ public:
     /// The links of what is laid out, from the top.
     [[nodiscard]] std::vector<Link> links() const;
     [[nodiscard]] std::vector<Link> linksIn(std::size_t block);
+    /// The target of the link at that place.
+    [[nodiscard]] std::optional<std::string> linkAt(const QPointF& place) const;
 
 private:
     struct LinkRange {
@@ -93,6 +99,7 @@ private:
     void placeBaselines(Piece& piece) const;
     void addLinks(Piece& piece, int start, int length) const;
     [[nodiscard]] std::vector<Piece>::const_iterator firstPieceOf(std::size_t block) const;
+    [[nodiscard]] std::vector<Piece>::const_iterator firstPieceDownFrom(double y) const;
     static void appendLinks(const Piece& piece, std::vector<Link>& places);
     void drawMarker(QPainter& painter, const Piece& piece) const;
 

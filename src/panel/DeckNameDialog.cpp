@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <limits>
 #include <utility>
 
 namespace cuebright {
@@ -53,6 +54,7 @@ DeckNameDialog::DeckNameDialog(
     title->setFont(titleFont);
     const auto message = new QLabel(texts.message, this);
     m_name = new QLineEdit(this);
+    m_name->setMaxLength(std::numeric_limits<int>::max()); // or a very long name would be cut
     m_name->setPlaceholderText(QStringLiteral("Deck name"));
     m_name->setAccessibleName(QStringLiteral("Deck name"));
     m_name->setAccessibleDescription(texts.message);

@@ -12,7 +12,6 @@
 #include <QContextMenuEvent>
 #include <QFontMetricsF>
 #include <QPainter>
-#include <QProxyStyle>
 
 #include <cmath>
 
@@ -26,16 +25,6 @@ constexpr int kChevronGap = 5;
 constexpr int kMenuGap = 6;
 constexpr int kMenuTextWidth = 400;
 constexpr qsizetype kShownCharacters = 500; ///< more than fit into any panel
-
-/// Fusion spreads a long menu over columns.
-class ScrollingMenuStyle final : public QProxyStyle {
-public:
-    int styleHint(
-        StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* returned) const override
-    {
-        return hint == SH_Menu_Scrollable ? 1 : QProxyStyle::styleHint(hint, option, widget, returned);
-    }
-};
 
 /// The start of a name, on one line.
 QString shownName(const std::string& deckName)
@@ -115,11 +104,6 @@ QSize DeckPicker::minimumSizeHint() const { return {kChevronGap + kChevronWidth,
 
 void DeckPicker::openMenu()
 {
-    if (!m_decksStyle) {
-        m_decksStyle = new ScrollingMenuStyle;
-        m_decksStyle->setParent(&m_decks);
-        m_decks.setStyle(m_decksStyle);
-    }
     m_decks.clear();
     const auto& store = m_context.store;
     for (std::int64_t i = 0; i < store.deckCount(); ++i) {

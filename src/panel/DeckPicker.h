@@ -34,8 +34,7 @@ private:
     QString m_name; ///< as shown
     QMenu m_decks;
     QMenu m_commands;
-    QStyle* m_decksStyle = nullptr; ///< made when first needed, as are the alerts
-    DeckNameDialog* m_newDeckAlert = nullptr;
+    DeckNameDialog* m_newDeckAlert = nullptr; ///< made when first needed
     DeckNameDialog* m_renameDeckAlert = nullptr;
     Subscription m_renameSubscription;
 };

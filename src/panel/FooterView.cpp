@@ -92,7 +92,9 @@ void FooterView::refresh()
         static_cast<PanelLabel*>(m_wordCount.widget)->setText(toQString(*m_content.wordCount));
     if (m_content.error)
         m_errorNotice->setText(toQString(*m_content.error));
-    if (m_content.feedback)
+    if (m_content.feedback && former.feedback)
+        m_feedbackLabel->crossFadeTo(toQString(*m_content.feedback), Ink::Muted, kFadeTime);
+    else if (m_content.feedback)
         m_feedbackLabel->setText(toQString(*m_content.feedback));
     // The toolkit would hand the keyboard to the other one, and the next press would go back.
     if ((m_previous->hasFocus() && !m_content.canGoPrev) || (m_next->hasFocus() && !m_content.canGoNext))
@@ -104,9 +106,8 @@ void FooterView::refresh()
     for (const auto button : {m_cancel, m_done})
         button->setVisible(m_content.isEditing);
 
-    if (former.wordCount.has_value() != m_content.wordCount.has_value()
-        || former.error.has_value() != m_content.error.has_value()
-        || former.feedback.has_value() != m_content.feedback.has_value())
+    if (former.wordCount.has_value() != m_content.wordCount.has_value() || former.error != m_content.error
+        || former.feedback != m_content.feedback)
         beginTransition();
     else if (former != m_content)
         layOut();

@@ -16,6 +16,7 @@ namespace {
 
 constexpr int kGap = 12;
 constexpr Seconds kPulseTime {1.0};
+constexpr Seconds kCrossFadeTime {0.3};
 
 } // namespace
 
@@ -39,9 +40,9 @@ void HeaderView::refresh()
     const auto badge = badgeFor(m_context.desktop.captureExclusion.state());
     const auto position = toQString(m_context.store.positionLabel());
     if (m_showReturnPulse)
-        m_eyebrow->crossFadeTo(toQString(badge.text), badge.ink);
+        m_eyebrow->crossFadeTo(toQString(badge.text), badge.ink, kCrossFadeTime);
     else if (m_eyebrow->ink() != Ink::Muted)
-        m_eyebrow->crossFadeTo(position, Ink::Muted);
+        m_eyebrow->crossFadeTo(position, Ink::Muted, kCrossFadeTime);
     else
         m_eyebrow->setText(position);
     m_deckPicker->refresh();

@@ -15,7 +15,6 @@ namespace cuebright {
 
 namespace {
 
-constexpr Seconds kCrossFadeTime {0.3};
 constexpr int kUnlimited = 1 << 20;
 
 /// Gives the text as it is: the toolkit's own interface takes "&" for the mark of a shortcut.
@@ -61,7 +60,7 @@ PanelLabel::PanelLabel(const PanelContext& context, const QFont& font, Ink ink, 
     , m_ink(ink)
     , m_whenNarrow(whenNarrow)
     , m_former {{}, ink}
-    , m_crossFade(1, kCrossFadeTime, [this] { showCrossFade(); })
+    , m_crossFade(1, Seconds(0), [this] { showCrossFade(); })
 {
     installInterface();
     setFont(font);
@@ -79,7 +78,7 @@ void PanelLabel::setInkOpacity(double opacity)
     update();
 }
 
-void PanelLabel::crossFadeTo(const QString& newText, Ink ink)
+void PanelLabel::crossFadeTo(const QString& newText, Ink ink, Seconds time)
 {
     if (newText == text() && ink == m_ink)
         return;
@@ -88,6 +87,7 @@ void PanelLabel::crossFadeTo(const QString& newText, Ink ink)
     m_ink = ink;
     m_isMessage = false;
     // Turned back half-way, it starts from what is on the screen.
+    m_crossFade.setDuration(time);
     m_crossFade.moveTo(1 - m_crossFade.value(), Presence::Motion::AtOnce);
     m_crossFade.moveTo(1, isVisible() ? Presence::Motion::Animated : Presence::Motion::AtOnce);
 }

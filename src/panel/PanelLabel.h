@@ -24,8 +24,8 @@ public:
     /// From 0 to 1.
     void setInkOpacity(double opacity);
 
-    /// The new text is there at once; on the screen it fades in while the one before fades out.
-    void crossFadeTo(const QString& text, Ink ink);
+    /// The new text is there at once; on the screen it fades in while the one before fades out, for so long.
+    void crossFadeTo(const QString& text, Ink ink, Seconds time);
 
     /// Has a screen reader read the text now, as a message.
     void announce();

@@ -12,7 +12,7 @@ Presence::Presence(double value, Seconds duration, std::function<void()> changed
     , m_changed(std::move(changed))
 {
     m_animation.setEasingCurve(easingCurve(curve));
-    m_animation.setDuration(milliseconds(duration));
+    setDuration(duration);
     QObject::connect(&m_animation, &QVariantAnimation::valueChanged, &m_animation, [this](const QVariant& newValue) {
         if (m_animation.state() == QAbstractAnimation::Running)
             take(newValue.toDouble());
@@ -20,6 +20,8 @@ Presence::Presence(double value, Seconds duration, std::function<void()> changed
     // The curve ends a rounding away from 1.
     QObject::connect(&m_animation, &QAbstractAnimation::finished, &m_animation, [this] { take(m_target); });
 }
+
+void Presence::setDuration(Seconds duration) { m_animation.setDuration(milliseconds(duration)); }
 
 void Presence::moveTo(double target, Motion motion)
 {

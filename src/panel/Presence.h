@@ -22,6 +22,8 @@ public:
     [[nodiscard]] double value() const { return m_value; }
     [[nodiscard]] bool hasArrived() const { return m_value == m_target; }
 
+    /// Of the moves to come.
+    void setDuration(Seconds duration);
     void moveTo(double target, Motion motion);
 
 private:

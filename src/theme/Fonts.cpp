@@ -14,12 +14,14 @@ constexpr double kLargestFont = 400;
 
 QFont sized(QFont font, double pixels, QFont::Weight weight)
 {
-    font.setPixelSize(static_cast<int>(std::lround(std::clamp(pixels, kSmallestFont, kLargestFont))));
+    font.setPixelSize(drawnSize(pixels));
     font.setWeight(weight);
     return font;
 }
 
 } // namespace
+
+int drawnSize(double pixels) { return static_cast<int>(std::lround(std::clamp(pixels, kSmallestFont, kLargestFont))); }
 
 QFont systemFont(double pixels, QFont::Weight weight)
 {

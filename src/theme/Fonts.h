@@ -4,8 +4,10 @@
 
 namespace cuebright {
 
-/// The three font families of the panel, as the desktop names them. Sizes are logical pixels, rounded and limited to
-/// 1 … 400, as Qt draws no others.
+/// The size in which a font is drawn: rounded and limited to 1 … 400, as Qt draws no others. Logical pixels.
+[[nodiscard]] int drawnSize(double pixels);
+
+/// The three font families of the panel, as the desktop names them.
 [[nodiscard]] QFont systemFont(double pixels, QFont::Weight weight = QFont::Normal);
 [[nodiscard]] QFont monospacedFont(double pixels, QFont::Weight weight = QFont::Normal);
 [[nodiscard]] QFont serifFont(double pixels, QFont::Weight weight = QFont::Normal);

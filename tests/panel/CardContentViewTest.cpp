@@ -82,9 +82,50 @@ TEST_F(CardContentViewTest, AMoveIsAnimatedAndWithReducedMotionItIsNot)
     EXPECT_EQ(picture(), before);
 }
 
+TEST_F(CardContentViewTest, AScrollBarThatComesOrGoesCutsNoMoveShort)
+{
+    setCards({"one", longCard(60), "three"});
+    for (int move = 0; move < 2; ++move) {
+        QCoreApplication::sendPostedEvents(); // the last bar has come or gone
+        const auto before = area.viewport()->grab().toImage();
+        store.nextCard();
+        refresh();
+        QCoreApplication::sendPostedEvents(&area, 0);
+        const auto now = area.viewport()->grab().toImage();
+        ASSERT_NE(now.width(), before.width());
+        const QRect common = now.rect() & before.rect();
+        EXPECT_EQ(now.copy(common), before.copy(common)) << "the first frame";
+        EXPECT_TRUE(QTest::qWaitFor([&] { return area.viewport()->grab().toImage() != now; }));
+        fake.accessibility.motionReduced = true; // ends it
+        store.prevCard();
+        store.nextCard();
+        refresh();
+        fake.accessibility.motionReduced = false;
+    }
+}
+
+TEST_F(CardContentViewTest, ALongCardIsLaidOutAsFarAsOneSeesHoweverFarTheLastWasScrolled)
+{
+    setCards({longCard(3000), longCard(3000)});
+    key(Qt::Key_End);
+    store.nextCard();
+    area.refresh(CardArea::Content::Stale, {});
+    EXPECT_EQ(bar().value(), 0);
+    EXPECT_FALSE(area.cardLayout()->isComplete());
+}
+
+TEST_F(CardContentViewTest, WhatFadesOutForANewCardIsTheOneBeforeIt)
+{
+    setCards({"one"});
+    const auto before = view.grab(area.geometry()).toImage();
+    store.addCard();
+    refresh();
+    EXPECT_EQ(view.grab(area.geometry()).toImage(), before) << "the first frame";
+}
+
 TEST_F(CardContentViewTest, LinksAreReachedByTabAndReadWithTheirBlock)
 {
-    setCards({"# Title\n[a](http://a.example) and [b](javascript:x)"});
+    setCards({"# A title that is one line in a wide panel\n[a](http://a.example) and [b](javascript:x)"});
     area.setFocus();
     const auto spoken = QAccessible::queryAccessibleInterface(&area);
     const auto block = spoken->child(1);
@@ -99,6 +140,9 @@ TEST_F(CardContentViewTest, LinksAreReachedByTabAndReadWithTheirBlock)
     EXPECT_EQ(block->child(0)->role(), QAccessible::Link);
     EXPECT_FALSE(block->child(0)->state().disabled);
     EXPECT_TRUE(block->child(1)->state().disabled) << "a link that does nothing says so";
+
+    view.resize(400, 560); // the title takes two lines now
+    EXPECT_GE(spoken->child(1)->child(0)->rect().top(), spoken->child(1)->rect().top());
 }
 
 TEST_F(CardContentViewTest, TabComesToEverythingInTheOrderInWhichItIsRead)

@@ -156,6 +156,17 @@ TEST_F(FooterViewTest, AMessageFadesOutWithItsTextAndThenIsGoneUnlessAnotherCome
     EXPECT_TRUE(isShown(panel, "Renamed"));
 }
 
+TEST_F(FooterViewTest, OneMessageGivesWayToTheNextGradually)
+{
+    say("Overwrite");
+    showPanel();
+    const auto before = panel.grab().toImage();
+    say("Insert");
+    EXPECT_TRUE(isShown(panel, "Insert"));
+    EXPECT_EQ(panel.grab().toImage(), before);
+    EXPECT_TRUE(waitUntil([&] { return panel.grab().toImage() != before; }));
+}
+
 TEST_F(FooterViewTest, ANewMessageTakesThePlaceOfAFadingError)
 {
     showPanel();

@@ -3,6 +3,7 @@
 #include "panel/DeckPicker.h"
 #include "panel/PanelFixture.h"
 #include "panel/ShareNotice.h"
+#include "platform/qt/QtAppearance.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>
@@ -136,6 +137,7 @@ TEST_F(HeaderViewTest, TheRenameAlertStartsFromTheNameAndIsAskedOnce)
 
 TEST_F(HeaderViewTest, AHundredDecksScroll)
 {
+    const QtAppearance appearance; // brings the style
     for (int i = 0; i < 100; ++i)
         store.createNewDeck("Deck " + std::to_string(i));
     QTest::mouseClick(&picker, Qt::LeftButton);

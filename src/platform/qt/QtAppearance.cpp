@@ -13,13 +13,20 @@ namespace cuebright {
 
 namespace {
 
-/// Fusion, but that it draws the arrow of a menu bar that has no room for all its titles. To read its picture of one,
-/// the toolkit would load its plug-ins for all image formats, whether the arrow shows or not.
+/// Fusion, but that a long menu scrolls instead of spreading over columns, and that the arrow of a menu bar without
+/// room for all its titles is drawn: to read its picture of one, the toolkit would load its plug-ins for all image
+/// formats, whether the arrow shows or not.
 class Style final : public QProxyStyle {
 public:
     Style()
         : QProxyStyle(QStringLiteral("Fusion"))
     {
+    }
+
+    int styleHint(
+        StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* returned) const override
+    {
+        return hint == SH_Menu_Scrollable ? 1 : QProxyStyle::styleHint(hint, option, widget, returned);
     }
 
     QIcon standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const override
