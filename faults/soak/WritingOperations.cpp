@@ -1,4 +1,5 @@
 #include "Operations.h"
+#include "panel/TextConversion.h"
 #include "store/CardStore.h"
 
 #include <algorithm>

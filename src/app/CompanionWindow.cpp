@@ -18,6 +18,11 @@ CompanionWindow::CompanionWindow(const PanelContext& context, const QString& tit
     , m_context(context)
 {
     setWindowTitle(title);
+    m_fallSubscription =
+        context.desktop.windowSystem.minimisedWithFullScreen.subscribe([this](WindowSystem::WindowId window) {
+            if (window == internalWinId())
+                comeBack();
+        });
     connect(new QShortcut(Qt::CTRL | Qt::Key_W, this), &QShortcut::activated, this, [this] { close(); });
 }
 
@@ -31,6 +36,7 @@ void CompanionWindow::showBeside(const QWidget& panel)
 {
     if (!isVisible()) {
         setWindowState(windowState() & ~Qt::WindowMinimized); // some window managers offer it all the same
+        settleSize();
         placeBesidePanel(panel);
         m_context.desktop.windowSystem.keepAboveFullScreen(winId());
         show();
@@ -39,6 +45,17 @@ void CompanionWindow::showBeside(const QWidget& panel)
     }
     raise();
     activateWindow();
+}
+
+/// Without the keyboard, which showing a minimised window would take.
+void CompanionWindow::comeBack()
+{
+    hide();
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    m_context.desktop.windowSystem.keepAboveFullScreen(winId());
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    show();
+    setAttribute(Qt::WA_ShowWithoutActivating, false);
 }
 
 /// Before a window is first shown nobody knows how wide its borders are; the panel's are the best guess.

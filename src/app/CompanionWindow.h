@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/Signal.h"
 #include "panel/PanelContext.h"
 
 #include <QWidget>
@@ -18,6 +19,8 @@ public:
 protected:
     CompanionWindow(const PanelContext& context, const QString& title);
 
+    /// Called before the window is placed: the last time to give it its size.
+    virtual void settleSize() { }
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
@@ -25,6 +28,9 @@ protected:
 
 private:
     void placeBesidePanel(const QWidget& panel);
+    void comeBack();
+
+    Subscription m_fallSubscription;
 };
 
 } // namespace cuebright

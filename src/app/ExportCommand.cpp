@@ -45,8 +45,8 @@ void ExportCommand::exportDeck()
     const auto parent = active && canHaveSheets(active) ? active : &m_panel;
     if (canHaveSheets(parent) && !parent->isActiveWindow())
         bringToFront(*parent);
-    ask(canHaveSheets(parent) ? parent : nullptr);
     auto text = m_context.store.exportDeckAsMarkdown();
+    ask(canHaveSheets(parent) ? parent : nullptr);
     QObject::connect(m_dialog, &QFileDialog::fileSelected, m_dialog,
         [this, text = std::move(text)](const QString& file) { write(file, text); });
 }

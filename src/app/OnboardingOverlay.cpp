@@ -228,7 +228,7 @@ void OnboardingOverlay::layOut()
     const auto putCentred = [this](QWidget* widget, int bottom) {
         const auto size = widget->sizeHint();
         widget->setGeometry(
-            m_card.center().x() - size.width() / 2, bottom - size.height(), size.width(), size.height());
+            m_card.x() + (m_card.width() - size.width()) / 2, bottom - size.height(), size.width(), size.height());
         return bottom - size.height();
     };
     const int buttonTop = putCentred(m_advance, m_card.bottom() + 1 - scaled(kPadding, gapScale));

@@ -4,6 +4,8 @@
 
 #include <QTextBoundaryFinder>
 
+#include <utility>
+
 namespace cuebright {
 
 namespace {
@@ -18,29 +20,28 @@ QString withoutOddCharacters(QString name)
             c = QLatin1Char('-');
         else if (c == QLatin1Char('"'))
             c = QLatin1Char('\''); // the file dialog would take what is between two of them for the name
-        else if (c.isSpace() || c.category() == QChar::Other_Control)
-            c = QLatin1Char(' ');
     }
-    return name;
+    return toOneLine(std::move(name));
 }
 
-/// Shortened by whole characters, as a reader counts them.
-QString shortened(QString name)
+/// The first characters, as a reader counts them, that fit.
+QString shortened(const QString& name)
 {
-    while (toUtf8(name).size() > kLongestName) {
-        QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, name);
-        finder.toEnd();
-        name.truncate(finder.toPreviousBoundary());
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, name);
+    qsizetype end = 0;
+    for (auto next = finder.toNextBoundary(); next > 0; next = finder.toNextBoundary()) {
+        if (toUtf8(name.left(next)).size() > kLongestName)
+            break;
+        end = next;
     }
-    return name;
+    return name.left(end);
 }
 
 } // namespace
 
 std::string safeFileName(std::string_view deckName)
 {
-    // What is that far behind is cut off anyway.
-    auto name = withoutOddCharacters(toQString(deckName).left(kLongestName));
+    auto name = withoutOddCharacters(toQString(deckName));
     // A hidden file, somebody's home, a resource of the toolkit's: signs that mean something at the front.
     const auto isSkipped = [](QChar c) { return c.isSpace() || QLatin1String(".~:").contains(c); };
     qsizetype start = 0;

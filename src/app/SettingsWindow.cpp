@@ -33,11 +33,11 @@ QMenuBar& SettingsWindow::addMenuBar()
     return *bar;
 }
 
-void SettingsWindow::showEvent(QShowEvent*)
+/// The settings keep their size below a bar that is not in the desktop's own.
+void SettingsWindow::settleSize()
 {
-    // The settings keep their size below a bar that is not in the desktop's own.
-    const auto bar = layout()->menuBar();
-    setFixedSize(kSize.width(), kSize.height() + (bar && bar->isVisibleTo(this) ? bar->sizeHint().height() : 0));
+    const auto bar = qobject_cast<QMenuBar*>(layout()->menuBar());
+    setFixedSize(kSize.width(), kSize.height() + (bar && !bar->isNativeMenuBar() ? bar->sizeHint().height() : 0));
 }
 
 } // namespace cuebright

@@ -18,7 +18,7 @@ public:
     [[nodiscard]] QMenuBar& addMenuBar();
 
 protected:
-    void showEvent(QShowEvent* event) override;
+    void settleSize() override;
 };
 
 } // namespace cuebright

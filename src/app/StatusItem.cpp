@@ -62,6 +62,8 @@ void StatusItem::appear()
     m_icon = std::make_unique<QSystemTrayIcon>(statusIcon());
     m_icon->setToolTip(QStringLiteral("Cuebright"));
     m_icon->setContextMenu(&m_menu);
+    m_shown.clear(); // the desktop may draw the menu now, and reads titles in its own way
+    rebuildStatusMenu();
     QObject::connect(m_icon.get(), &QSystemTrayIcon::activated, m_icon.get(), [this](auto reason) {
         if (reason == QSystemTrayIcon::Trigger)
             m_panelController.togglePanel();
@@ -81,11 +83,15 @@ void StatusItem::rebuildStatusMenu()
         addItem(item);
 }
 
+QString StatusItem::actionText(const std::string& title)
+{
+    return m_menu.platformMenu() ? exportedMenuText(toOneLine(toQString(title))) : toActionText(title);
+}
+
 void StatusItem::addItem(const StatusMenuItem& item)
 {
     using Kind = StatusMenuItem::Kind;
-    const auto action =
-        item.kind == Kind::Separator ? m_menu.addSeparator() : m_menu.addAction(toActionText(item.title));
+    const auto action = item.kind == Kind::Separator ? m_menu.addSeparator() : m_menu.addAction(actionText(item.title));
     switch (item.kind) {
     case Kind::TogglePanel:
         showKey(*action, Qt::CTRL | Qt::SHIFT | Qt::Key_S);

@@ -35,6 +35,7 @@ public:
 
 private:
     void appear();
+    [[nodiscard]] QString actionText(const std::string& title);
     void addItem(const StatusMenuItem& item);
     void switchDeckFromMenu(const QAction& item);
 

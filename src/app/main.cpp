@@ -1,6 +1,7 @@
 #include "app/AppDelegate.h"
 #include "app/ExitSave.h"
 #include "app/FirstFrame.h"
+#include "app/QuitEvents.h"
 #include "platform/qt/OneInstance.h"
 #include "platform/qt/ProcessSetup.h"
 #include "platform/qt/QtPlatform.h"
@@ -35,6 +36,7 @@ int main(int, char* argv[])
         delegate.firstFrameIsThere();
     });
 
+    const QuitEvents quitEvents([&] { delegate.quit(); });
     const auto onRequest = process.terminationRequested.subscribe([&] { delegate.quit(); });
     QObject::connect(
         &application, &QCoreApplication::aboutToQuit, &application, [&] { delegate.applicationWillTerminate(); });

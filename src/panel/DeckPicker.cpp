@@ -27,15 +27,7 @@ constexpr int kMenuTextWidth = 400;
 constexpr qsizetype kShownCharacters = 500; ///< more than fit into any panel
 
 /// The start of a name, on one line.
-QString shownName(const std::string& deckName)
-{
-    auto name = toQString(deckName).left(kShownCharacters);
-    for (auto& c : name) {
-        if (c.isSpace() || c.category() == QChar::Other_Control)
-            c = QLatin1Char(' ');
-    }
-    return name;
-}
+QString shownName(const std::string& deckName) { return toOneLine(toQString(deckName).left(kShownCharacters)); }
 
 /// The picker's menu marks the active deck in its text, so that all names line up in every style.
 QString menuText(const Deck& deck, bool isActive, const QFontMetrics& metrics)

@@ -1,6 +1,7 @@
 #include "panel/MarkdownEditor.h"
 
 #include "panel/SlimScrollBar.h"
+#include "panel/TextConversion.h"
 #include "panel/TextViewManager.h"
 #include "platform/MainQueue.h"
 #include "store/CardStore.h"

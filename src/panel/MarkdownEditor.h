@@ -1,9 +1,9 @@
 #pragma once
 
 #include "foundation/WeakTarget.h"
+#include "panel/DocumentText.h"
 #include "panel/MarkdownFormatting.h"
 #include "panel/PanelContext.h"
-#include "panel/TextConversion.h"
 
 #include <QPlainTextEdit>
 #include <QPointer>

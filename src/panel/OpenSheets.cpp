@@ -1,18 +1,20 @@
 #include "panel/OpenSheets.h"
 
 #include <QApplication>
-#include <QWidget>
+#include <QDialog>
+
+#include <algorithm>
 
 namespace cuebright {
 
 bool isWaitingForAnswer(const QWidget& window)
 {
-    const QWidget* modal = QApplication::activeModalWidget();
-    if (modal && modal->windowModality() == Qt::ApplicationModal)
+    const QWidget* const newest = QApplication::activeModalWidget();
+    if (newest && newest->windowModality() == Qt::ApplicationModal)
         return true;
-    while (modal && modal != &window)
-        modal = modal->parentWidget();
-    return modal;
+    // Not only the newest: another window may have a sheet as well.
+    return std::ranges::any_of(window.findChildren<QDialog*>(),
+        [](const QDialog* dialog) { return dialog->isVisible() && dialog->isModal(); });
 }
 
 } // namespace cuebright

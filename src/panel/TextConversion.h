@@ -2,11 +2,10 @@
 
 #include <QString>
 
-#include <array>
 #include <string>
 #include <string_view>
 
-/// The one place where the core's UTF-8 and the toolkit's UTF-16 meet.
+/// From the core's UTF-8 to the toolkit's UTF-16 and back, for what the user reads and writes.
 namespace cuebright {
 
 [[nodiscard]] QString toQString(std::string_view utf8);
@@ -14,30 +13,13 @@ namespace cuebright {
 /// Unpaired surrogates, which UTF-8 cannot hold, become U+FFFD.
 [[nodiscard]] std::string toUtf8(const QString& text);
 
-/// `text` as one line for menus and lists: line breaks and tabs become blanks, and "&" is doubled so that it shows.
+/// All blanks, line breaks and controls become spaces.
+[[nodiscard]] QString toOneLine(QString text);
+
+/// `text` on one line for a menu or a list, in which the toolkit gives "&" a meaning of its own.
 [[nodiscard]] QString toActionText(std::string_view utf8);
 
-/// `text` as a window title, in which the toolkit gives "[*]" a meaning of its own.
+/// `text` on one line for a window title, in which the toolkit gives "[*]" a meaning of its own.
 [[nodiscard]] QString toWindowTitle(std::string_view utf8);
-
-/// A text in the form in which the toolkit's document keeps every character.
-///
-/// The document takes some characters for ends of paragraphs and frames; each of them has a stand-in, which `text` does
-/// not contain and which shows as nothing. Positions stay the same, so one UTF-16 unit is one unit in either form.
-class DocumentText final {
-public:
-    explicit DocumentText(QStringView text = {});
-
-    /// A text as the document is to keep it.
-    [[nodiscard]] QString encoded(QString text) const;
-    /// The same for what is typed or pasted, whose lines end with line feeds after this. What happens to be a
-    /// stand-in, which means nothing to anybody else, becomes U+FFFD.
-    [[nodiscard]] QString encodedInput(QString text) const;
-    /// The text behind a document's raw text or selection.
-    [[nodiscard]] QString decoded(QString documentText) const;
-
-private:
-    std::array<QChar, 4> m_standIns;
-};
 
 } // namespace cuebright

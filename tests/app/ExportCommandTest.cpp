@@ -34,6 +34,7 @@ TEST(SafeFileName, IsWhatFileSystemsTake)
         {"nothing but dots", " .. ", "Untitled"},
         {"nothing", "", "Untitled"},
         {"too long", longName, std::string(200, 'x')},
+        {"too long once what is skipped is gone", "..." + std::string(196, 'x') + "😀😀", std::string(196, 'x') + "😀"},
         {"too long, cut between characters", longEmoji, longEmoji.substr(0, std::size_t {18} * 11)},
     };
     for (const auto& [name, deckName, expected] : tests)

@@ -127,6 +127,9 @@ TEST_F(MainMenuTest, CardsStayAsTheyAreBehindAQuestion)
     QMessageBox sheet(&panel);
     sheet.setWindowModality(Qt::WindowModal);
     sheet.open();
+    QMessageBox another(&other);
+    another.setWindowModality(Qt::WindowModal);
+    another.open();
     trigger(Command::NewCard);
     trigger(Command::Undo);
     EXPECT_EQ(store.activeDeck()->cards.size(), 4U);
@@ -137,6 +140,7 @@ TEST_F(MainMenuTest, CardsStayAsTheyAreBehindAQuestion)
     EXPECT_FALSE(mainMenu.action(Command::NewCard).isEnabled());
     EXPECT_TRUE(mainMenu.action(Command::IncreaseOpacity).isEnabled());
     sheet.reject();
+    another.reject();
     refresh();
     EXPECT_TRUE(mainMenu.action(Command::NewCard).isEnabled());
 }

@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QLabel>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTabBar>
@@ -45,6 +46,17 @@ TEST_F(SettingsWindowTest, ItFloatsBesideThePanelWithoutBeingItsChild)
     EXPECT_FALSE(window.parentWidget());
     EXPECT_GT(window.frameGeometry().left(), panel.frameGeometry().right());
     EXPECT_EQ(fake.windowSystem.calls, std::vector<std::string> {"keep above"});
+}
+
+TEST_F(SettingsWindowTest, WithAMenuBarItIsOnTheScreenFromTheFirstTimeOn)
+{
+    window.addMenuBar().addMenu(u"File"_s);
+    const auto screen = window.screen()->availableGeometry();
+    panel.setGeometry(20, screen.bottom() - 360, 200, 360);
+    window.showBeside(panel);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    EXPECT_GT(window.height(), 480) << "below the bar there is as much room as without";
+    EXPECT_LE(window.geometry().bottom(), screen.bottom());
 }
 
 TEST_F(SettingsWindowTest, EscapeAndCtrlWPutItAwayAndOpeningBringsItBackAsItWas)

@@ -2,6 +2,7 @@
 
 #include "panel/PanelController.h"
 #include "panel/PanelFixture.h"
+#include "platform/qt/TrayWatch.h"
 
 namespace cuebright::test {
 
@@ -40,6 +41,14 @@ TEST_F(StatusItemTest, TheMenuFollowsPanelAndDecksWithoutBeingOpened)
     store.renameDeck("Talk");
     refresh();
     EXPECT_EQ(shown(), "Show Cuebright||Talk|*Talk||Quit Cuebright|");
+}
+
+TEST(ExportedMenu, ShowsTitlesAsTheyAre)
+{
+    // What the toolkit sends for it has "_" for the first "&", and that is read as an access key.
+    EXPECT_EQ(exportedMenuText(u"Q3_review__x"_s), u"Q3__review____x"_s);
+    EXPECT_EQ(exportedMenuText(u"Q & A & more"_s), u"Q && A & more"_s);
+    EXPECT_EQ(exportedMenuText(u"Q&"_s), u"Q&&"_s);
 }
 
 TEST_F(StatusItemTest, ItemsActByTheirPlaceNotTheirName)

@@ -91,6 +91,13 @@ TEST(DesktopFloating, ASlideShowThatIsMinimisedOrEndsLeavesThePanelWhereItWas)
         EXPECT_TRUE(isLifted(panel, false));
         EXPECT_TRUE(panel.isOnScreen());
         EXPECT_EQ(panel.area(), place);
+        if (!isMinimised)
+            continue;
+        desktop().minimise(panel.window());
+        EXPECT_TRUE(panel.isOffScreen()) << "for its own sake";
+        EXPECT_FALSE(waitUntil([&] { return desktop().isOnScreen(panel.window()); }, std::chrono::milliseconds(500)));
+        panel.press("ctrl+shift+s");
+        EXPECT_TRUE(panel.isOnScreen());
     }
 }
 
@@ -131,13 +138,17 @@ TEST(DesktopFloating, ClosingAndMinimisingHideItAndTheHotKeyBringsItBack)
     ASSERT_TRUE(panel.isOffScreen());
     panel.press("ctrl+shift+s");
     EXPECT_TRUE(panel.isOnScreen());
-    desktop().minimise(panel.window());
-    ASSERT_TRUE(panel.isOffScreen());
-    const OtherWindow other;
-    panel.press("ctrl+shift+s");
-    EXPECT_TRUE(panel.isOnScreen());
-    EXPECT_TRUE(other.hasKeyboard());
-    EXPECT_TRUE(panel.reaches("its place, framed anew", [&] { return panel.area() == place; }));
+    for (int i = 0; i < 5; ++i) { // what it is to be may be lost in a race
+        desktop().minimise(panel.window());
+        ASSERT_TRUE(panel.isOffScreen());
+        const OtherWindow other;
+        panel.press("ctrl+shift+s");
+        EXPECT_TRUE(panel.isOnScreen());
+        EXPECT_TRUE(other.hasKeyboard());
+        EXPECT_TRUE(panel.reaches("its place, framed anew", [&] { return panel.area() == place; }));
+        const OtherWindow later;
+        EXPECT_TRUE(isAbove(panel, later));
+    }
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "panel/MarkdownEditor.h"
+#include "panel/TextConversion.h"
 #include "panel/TextViewManager.h"
 
 #include "panel/PanelFixture.h"

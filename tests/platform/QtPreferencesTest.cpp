@@ -54,7 +54,7 @@ TEST_F(QtPreferencesTest, AStoredValueIsReadAsTheKindAskedForOrNotAtAll)
         {{false, 2, 2.0}, {"2"}},
         {{false, -3, -3.0}, {"-3"}},
         {{false, {}, 17.5}, {"17.5"}},
-        {{false, {}, 100.0}, {"1e2"}},
+        {{false, 100, 100.0}, {"1e2", "100.0"}},
         {{false, kLargest, 9223372036854775807.0}, {"9223372036854775807"}},
         {{false, {}, 9223372036854775808.0}, {"9223372036854775808"}},
         {{false, {}, -9223372036854775809.0}, {"-9223372036854775809"}},
@@ -131,7 +131,7 @@ TEST_F(QtPreferencesTest, AnUnchangedValueIsNotWritten)
 
 TEST_F(QtPreferencesTest, NonsenseInTheFileBreaksNothing)
 {
-    for (const auto nonsense : {"\0\x1\xff\xfe[[[=\n=", "[General\na=\"b\nc=\\x", "a=1\n[%%%]\n\\=2"}) {
+    for (const auto nonsense : {"\0\x1\xff\xfe[[[=\n=", "[General\na=\"b\nc=\\x", "a=1\n[%%%]\n\\=2", "a=x\\xd800y"}) {
         openWith(nonsense).setInteger("key", 2);
         EXPECT_EQ(open().integer("key"), 2) << nonsense;
     }

@@ -127,4 +127,14 @@ std::unique_ptr<TrayWatch> watchForTray(std::function<void()> arrived)
     return std::make_unique<LinuxTrayWatch>(std::move(arrived));
 }
 
+/// On the bus (com.canonical.dbusmenu) "_" stands before an access key, "__" for itself, and "&" is a letter like any
+/// other. The toolkit makes the first "&" that is not the last letter a "_" and leaves the rest to us (Qt 6.4).
+QString exportedMenuText(QString title)
+{
+    title.replace(QLatin1Char('_'), QStringLiteral("__"));
+    if (const auto first = title.indexOf(QLatin1Char('&')); first >= 0)
+        title.insert(first, QLatin1Char('&'));
+    return title;
+}
+
 } // namespace cuebright

@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 
+#include <algorithm>
 #include <cstring>
 
 namespace cuebright {
@@ -46,6 +47,20 @@ void X11Connection::setProperty(
 void X11Connection::deleteProperty(xcb_window_t window, xcb_atom_t name) const
 {
     xcb_delete_property(m_connection, window, name);
+    xcb_flush(m_connection);
+}
+
+void X11Connection::askWindowManager(
+    xcb_window_t window, xcb_atom_t request, const std::array<std::uint32_t, 5>& data) const
+{
+    xcb_client_message_event_t message {};
+    message.response_type = XCB_CLIENT_MESSAGE;
+    message.format = 32;
+    message.window = window;
+    message.type = request;
+    std::ranges::copy(data, message.data.data32);
+    xcb_send_event(m_connection, 0, root(), XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
+        reinterpret_cast<const char*>(&message));
     xcb_flush(m_connection);
 }
 

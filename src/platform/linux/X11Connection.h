@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <cstdlib>
 #include <initializer_list>
@@ -34,6 +35,9 @@ public:
     void setProperty(
         xcb_window_t window, xcb_atom_t name, xcb_atom_t type, std::initializer_list<std::uint32_t> items) const;
     void deleteProperty(xcb_window_t window, xcb_atom_t name) const;
+
+    /// Sends the window manager a request about a window.
+    void askWindowManager(xcb_window_t window, xcb_atom_t request, const std::array<std::uint32_t, 5>& data) const;
 
     /// The events of a window that this program gets.
     [[nodiscard]] std::uint32_t events(xcb_window_t window) const;

@@ -126,6 +126,7 @@ private:
         const auto key = std::exchange(m_key, std::nullopt);
         if (!key)
             return;
+        m_isDown = false; // its release will not be ours
         for (const auto lock : kLocks)
             xcb_ungrab_key(m_x11.get(), *key, m_x11.root(), kModifiers | lock);
         xcb_flush(m_x11.get());

@@ -3,14 +3,23 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <utility>
 
 namespace cuebright {
+
+namespace {
+
+/// So long it takes a window manager to minimise two windows, and no user minimises the one and then the other.
+constexpr Seconds kMoment {0.1};
+
+} // namespace
 
 X11WindowSystem::X11WindowSystem(const X11Connection& x11, MainQueue& mainQueue)
     : m_x11(x11)
     , m_mainQueue(mainQueue)
     , m_activeWindowAtom(x11.atom("_NET_ACTIVE_WINDOW"))
     , m_stateAtom(x11.atom("_NET_WM_STATE"))
+    , m_aboveAtom(x11.atom("_NET_WM_STATE_ABOVE"))
     , m_fullScreenAtom(x11.atom("_NET_WM_STATE_FULLSCREEN"))
     , m_blurAtom(x11.atom("_KDE_NET_WM_BLUR_BEHIND_REGION"))
     , m_managedAtom(x11.atom("WM_STATE"))
@@ -66,8 +75,11 @@ bool X11WindowSystem::nativeEventFilter(const QByteArray&, void* message, qintpt
     } else if (type == XCB_MAP_NOTIFY) {
         // Showing a window again, the toolkit deletes what it has not written itself (Qt 6.4).
         const auto* const map = reinterpret_cast<const xcb_map_notify_event_t*>(event);
-        if (m_fullScreenWindow != XCB_WINDOW_NONE && m_windows.contains(map->window))
-            lift(map->window);
+        if (m_windows.contains(map->window)) {
+            askToKeepAbove(map->window);
+            if (m_fullScreenWindow != XCB_WINDOW_NONE)
+                lift(map->window);
+        }
     }
     return false;
 }
@@ -95,9 +107,10 @@ void X11WindowSystem::followActiveWindow()
     const auto fullScreenWindow = isCovering ? others : static_cast<xcb_window_t>(XCB_WINDOW_NONE);
     if (fullScreenWindow == m_fullScreenWindow)
         return;
-    m_fullScreenWindow = fullScreenWindow;
-    if (isCovering)
-        m_lastFullScreenWindow = others;
+    m_formerFullScreenWindow = std::exchange(m_fullScreenWindow, fullScreenWindow);
+    m_forgetFormer.cancel();
+    m_forgetFormer =
+        m_mainQueue.after(kMoment, m_weakTarget.guard([this] { m_formerFullScreenWindow = XCB_WINDOW_NONE; }));
     for (const auto window : m_windows)
         lift(window);
 }
@@ -123,14 +136,22 @@ bool X11WindowSystem::isMinimised(xcb_window_t window) const
 /// Window managers minimise a window with what is transient for it, in either order.
 void X11WindowSystem::examineUnmapped(xcb_window_t window)
 {
-    if (m_lastFullScreenWindow == XCB_WINDOW_NONE)
+    const auto below = m_fullScreenWindow != XCB_WINDOW_NONE ? m_fullScreenWindow : m_formerFullScreenWindow;
+    if (below == XCB_WINDOW_NONE)
         return;
-    // By then both are, and nobody can have minimised the one and then the other.
-    constexpr Seconds kMoment {0.1};
-    m_mainQueue.after(kMoment, m_weakTarget.guard([this, window, below = m_lastFullScreenWindow] {
+    m_mainQueue.after(kMoment, m_weakTarget.guard([this, window, below] {
         if (m_windows.contains(window) && isMinimised(window) && isMinimised(below))
             minimisedWithFullScreen.notify(window);
     }));
+}
+
+/// A window that was minimised is withdrawn before it is shown again, and the window manager may delete what it was to
+/// be only after the toolkit has written that anew.
+void X11WindowSystem::askToKeepAbove(xcb_window_t window) const
+{
+    constexpr std::uint32_t kAdd = 1; // Extended Window Manager Hints, _NET_WM_STATE
+    constexpr std::uint32_t kFromApplication = 1;
+    m_x11.askWindowManager(window, m_stateAtom, {kAdd, m_aboveAtom, XCB_ATOM_NONE, kFromApplication, 0});
 }
 
 void X11WindowSystem::lift(xcb_window_t window) const

@@ -33,12 +33,14 @@ private:
     void watch(xcb_window_t window);
     [[nodiscard]] bool isMinimised(xcb_window_t window) const;
     void examineUnmapped(xcb_window_t window);
+    void askToKeepAbove(xcb_window_t window) const;
     void lift(xcb_window_t window) const;
 
     const X11Connection& m_x11;
     MainQueue& m_mainQueue;
     const xcb_atom_t m_activeWindowAtom;
     const xcb_atom_t m_stateAtom;
+    const xcb_atom_t m_aboveAtom;
     const xcb_atom_t m_fullScreenAtom;
     const xcb_atom_t m_blurAtom;
     const xcb_atom_t m_managedAtom;
@@ -46,7 +48,8 @@ private:
     xcb_window_t m_watched = XCB_WINDOW_NONE; ///< the active one, unless it is ours
     std::uint32_t m_eventsBefore = 0; ///< of the watched one
     xcb_window_t m_fullScreenWindow = XCB_WINDOW_NONE; ///< the same while it is full-screen
-    xcb_window_t m_lastFullScreenWindow = XCB_WINDOW_NONE; ///< which may be so no longer
+    xcb_window_t m_formerFullScreenWindow = XCB_WINDOW_NONE; ///< was so until a moment ago
+    PendingTask m_forgetFormer;
     WeakTarget m_weakTarget;
 };
 

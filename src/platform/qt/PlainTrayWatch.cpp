@@ -29,4 +29,6 @@ std::unique_ptr<TrayWatch> watchForTray(std::function<void()> arrived)
     return std::make_unique<ImmediateTrayWatch>(std::move(arrived));
 }
 
+QString exportedMenuText(QString title) { return title.replace(QLatin1Char('&'), QStringLiteral("&&")); }
+
 } // namespace cuebright

@@ -56,10 +56,11 @@ FileError lastError(const QSaveFile& file) { return {file.errorString().simplifi
 
 std::optional<std::filesystem::path> QtFileSystem::applicationSupportDirectory()
 {
-    const auto directory = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-    if (directory.isEmpty())
+    // The one above the application's own; what Qt calls generic is another one on Windows.
+    const auto own = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    if (own.isEmpty())
         return std::nullopt;
-    return QFileInfo(directory).filesystemFilePath();
+    return QFileInfo(QFileInfo(own).path()).filesystemFilePath();
 }
 
 bool QtFileSystem::createDirectories(const std::filesystem::path& directory)

@@ -35,6 +35,9 @@ template <typename Number> QString shortest(Number number)
     return QString::fromLatin1(text.data(), end - text.data());
 }
 
+/// Half a surrogate pair, which a damaged file can hold, would not read back as it was written.
+QString asWritten(const QString& text) { return QString::fromUtf8(text.toUtf8()); }
+
 /// A text with bare commas comes as a list, one that somebody put in by hand: it is a text all the same.
 std::optional<QString> toText(const QVariant& value)
 {
@@ -65,7 +68,7 @@ QtPreferences::Texts QtPreferences::readFile(const QString& file)
     const QSettings settings(file, QSettings::IniFormat);
     for (const auto& key : settings.allKeys()) {
         if (const auto text = toText(settings.value(key)))
-            values.insert(key, *text);
+            values.insert(asWritten(key), asWritten(*text));
     }
     return values;
 }
@@ -81,8 +84,13 @@ std::optional<bool> QtPreferences::boolean(std::string_view key)
 
 std::optional<std::int64_t> QtPreferences::integer(std::string_view key)
 {
-    const auto value = text(key);
-    return value ? parseWhole<std::int64_t>(*value) : std::nullopt;
+    const auto written = text(key);
+    if (const auto whole = written ? parseWhole<std::int64_t>(*written) : std::nullopt)
+        return whole;
+    const auto value = number(key); // somebody may have written 150.0
+    constexpr double kTooLarge = 9223372036854775808.0;
+    const bool isWhole = value && std::trunc(*value) == *value && std::abs(*value) < kTooLarge;
+    return isWhole ? std::optional(static_cast<std::int64_t>(*value)) : std::nullopt;
 }
 
 std::optional<double> QtPreferences::number(std::string_view key)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 #include <functional>
 #include <memory>
 
@@ -14,5 +16,9 @@ public:
 /// Looks at once, without waiting for another process. `arrived` runs once, from the event loop, as soon as there is a
 /// place, which may be never; not any more when the watch is gone, and it may let the watch go itself.
 [[nodiscard]] std::unique_ptr<TrayWatch> watchForTray(std::function<void()> arrived);
+
+/// The action's text with which an item shows exactly `title`, one line, in a status item's menu that the desktop
+/// draws.
+[[nodiscard]] QString exportedMenuText(QString title);
 
 } // namespace cuebright
