@@ -24,8 +24,8 @@ std::size_t residentKib()
     malloc_trim(0);
     std::ifstream status("/proc/self/status"); // proc(5)
     for (std::string line; std::getline(status, line);) {
-        if (line.starts_with("VmRSS:"))
-            return std::stoul(line.substr(6));
+        if (line.starts_with("RssAnon:")) // code and libraries come in as they are used
+            return std::stoul(line.substr(8));
     }
     return 0;
 }

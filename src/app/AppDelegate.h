@@ -41,7 +41,7 @@ public:
     void applicationWillTerminate();
     /// The same without asking the input method: needs no display.
     void saveEverything();
-    /// Saves and leaves the event loop with status 0, whatever windows are open.
+    /// Leaves the event loop with status 0, whatever windows are open; on its way out the program saves.
     void quit();
 
     /// Null before launching has finished.

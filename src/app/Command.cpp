@@ -30,13 +30,13 @@ bool isCommandEnabled(Command command, const CardStore& store)
     case Command::CancelEdit:
         return store.isEditing();
     case Command::DeleteCard:
-        return store.activeCard() && store.cardCount() > 1;
+        return store.canDeleteCard();
     case Command::DeleteDeck:
-        return store.deckCount() > 1;
+        return store.canDeleteDeck();
     case Command::MoveCardUp:
-        return store.activeCard() && !store.isEditing() && store.canGoPrev();
+        return store.canMoveCardUp();
     case Command::MoveCardDown:
-        return store.activeCard() && !store.isEditing() && store.canGoNext();
+        return store.canMoveCardDown();
     default:
         return true;
     }

@@ -98,7 +98,7 @@ bool EditCommands::perform(Command command)
     }
     if (const auto label = qobject_cast<QLabel*>(QApplication::focusWidget()))
         performOn(*label, command);
-    if (doesStackRest())
+    if (isStoreUndoBlocked())
         return true;
     if (command == Command::Undo)
         m_undoManager->undo();
@@ -107,7 +107,7 @@ bool EditCommands::perform(Command command)
     return true;
 }
 
-bool EditCommands::doesStackRest() const { return m_store.isEditing() || isWaitingForAnswer(m_panel); }
+bool EditCommands::isStoreUndoBlocked() const { return m_store.isEditing() || isWaitingForAnswer(m_panel); }
 
 std::string EditCommands::title(Command undoOrRedo) const
 {
@@ -122,7 +122,7 @@ bool EditCommands::isEnabled(Command undoOrRedo) const
     const bool isUndo = undoOrRedo == Command::Undo;
     if (const auto text = focusedText())
         return isAvailable(text, isUndo);
-    if (doesStackRest())
+    if (isStoreUndoBlocked())
         return false;
     return isUndo ? m_undoManager->canUndo() : m_undoManager->canRedo();
 }

@@ -40,7 +40,7 @@ public:
 private:
     [[nodiscard]] QWidget* focusedText() const;
 
-    [[nodiscard]] bool doesStackRest() const;
+    [[nodiscard]] bool isStoreUndoBlocked() const;
 
     const CardStore& m_store;
     const NotesPanel& m_panel;

@@ -1,5 +1,6 @@
 #include "app/ExitSave.h"
 
+#include <cassert>
 #include <cstdlib>
 #include <utility>
 
@@ -21,6 +22,7 @@ void runPending()
 ExitSave::ExitSave(std::function<void()> save)
     : m_save(std::move(save))
 {
+    assert(!pending);
     pending = &m_save;
     [[maybe_unused]] static const bool isRegistered = std::atexit(runPending) == 0;
 }

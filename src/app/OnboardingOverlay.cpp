@@ -81,7 +81,7 @@ QAccessibleInterface* makeInterface(const QString&, QObject* object)
 
 void coverForScreenReaders(QWidget* widget)
 {
-    [[maybe_unused]] static const bool installed = (QAccessible::installFactory(makeInterface), true);
+    QAccessible::installFactory(makeInterface);
     // One made before would stay.
     if (const auto former = QAccessible::queryAccessibleInterface(widget))
         QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(former));

@@ -8,18 +8,26 @@
 
 #include <QApplication>
 
+#include <string>
+#include <vector>
+
 using namespace cuebright;
 
 int main(int, char* argv[])
 {
-    OneInstance instance;
+    OneInstance instance; // first: a launch that only hands over never starts the toolkit
     if (const auto status = instance.exitStatus())
         return *status;
     ProcessSetup process;
 
-    // Only the name: there are no command-line options, so Qt gets none either.
-    int argumentCount = 1;
-    QApplication application(argumentCount, argv);
+    // There are no command-line options, so the toolkit gets none of the user's either.
+    auto options = ProcessSetup::toolkitOptions();
+    std::vector<char*> arguments {argv[0]};
+    for (auto& option : options)
+        arguments.push_back(option.data());
+    auto argumentCount = static_cast<int>(arguments.size());
+    arguments.push_back(nullptr);
+    QApplication application(argumentCount, arguments.data());
     QApplication::setApplicationName(QStringLiteral("Cuebright"));
     QApplication::setApplicationVersion(QStringLiteral(CUEBRIGHT_VERSION));
     QApplication::setQuitOnLastWindowClosed(false); // a hidden panel comes back

@@ -7,6 +7,16 @@
 
 namespace cuebright {
 
+namespace {
+
+QAccessibleInterface* makeInterface(const QString&, QObject* object)
+{
+    const auto area = dynamic_cast<CardArea*>(object);
+    return area ? new CardAccessible(*area) : nullptr;
+}
+
+} // namespace
+
 CardAccessible::CardAccessible(CardArea& area)
     : QAccessibleWidget(&area, QAccessible::Document)
     , m_area(area)
@@ -16,17 +26,7 @@ CardAccessible::CardAccessible(CardArea& area)
 
 CardAccessible::~CardAccessible() { forgetChildren(); }
 
-void CardAccessible::install()
-{
-    static const bool kInstalled = [] {
-        QAccessible::installFactory([](const QString&, QObject* object) -> QAccessibleInterface* {
-            const auto area = dynamic_cast<CardArea*>(object);
-            return area ? new CardAccessible(*area) : nullptr;
-        });
-        return true;
-    }();
-    static_cast<void>(kInstalled);
-}
+void CardAccessible::install() { QAccessible::installFactory(makeInterface); }
 
 void CardAccessible::takeChangedContent()
 {

@@ -16,6 +16,8 @@ constexpr std::array kFileNames {"arrow-left", "arrow-right", "blockquote-left",
     "collection-fill", "code-slash", "command", "gear", "hash", "eye-slash-fill", "info-circle", "type-italic",
     "keyboard-fill", "link-45deg", "list-ol", "pause-fill", "play-fill", "exclamation-triangle", "journal-plus"};
 
+static_assert(kFileNames.size() == static_cast<std::size_t>(Icon::Write) + 1, "one file for each icon, in its order");
+
 QString fileOf(Icon icon)
 {
     return QStringLiteral(":/icons/%1.svg").arg(QLatin1String(kFileNames[static_cast<std::size_t>(icon)]));

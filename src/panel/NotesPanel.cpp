@@ -152,7 +152,7 @@ void NotesPanel::perform(const PanelKeyAction& action)
     case PanelCommand::Swallow:
         return;
     case PanelCommand::AskToDeleteCard:
-        if (store.cardCount() >= 2)
+        if (store.canDeleteCard())
             m_context.notifications.post(kDeleteCardNotification);
         return;
     case PanelCommand::Undo:

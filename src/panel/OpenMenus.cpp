@@ -74,7 +74,7 @@ QAccessibleInterface* makeInterface(const QString&, QObject* object)
 
 void offerOpenMenusToScreenReaders(QWidget& owner)
 {
-    [[maybe_unused]] static const bool installed = (QAccessible::installFactory(makeInterface), true);
+    QAccessible::installFactory(makeInterface);
     owner.setProperty(kMark, true);
     // One made before would stay.
     if (const auto former = QAccessible::queryAccessibleInterface(&owner))

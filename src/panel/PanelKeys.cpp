@@ -1,6 +1,6 @@
 #include "panel/PanelKeys.h"
 
-#include <QGuiApplication>
+#include "platform/qt/TopRow.h"
 
 #include <algorithm>
 #include <array>
@@ -66,16 +66,6 @@ std::optional<PanelKeyAction> deckKeyAction(const KeyStroke& stroke, bool isEdit
     return PanelKeyAction {SwitchToDeck, stroke.digit - 1};
 }
 
-/// The digits stand above the letters from 1 to 9 and 0; how the first key is numbered is the window system's.
-int topRowDigit(quint32 scanCode)
-{
-    static const auto windowSystem = QGuiApplication::platformName();
-    const quint32 first = windowSystem == QLatin1String("windows") ? 2 : 10;
-    if (windowSystem == QLatin1String("cocoa") || scanCode < first || scanCode > first + 9)
-        return -1;
-    return static_cast<int>((scanCode - first + 1) % 10);
-}
-
 /// The signs of the menus' keys: where a layout has one in the top row, it stays what it is there.
 bool isMenuSign(int key)
 {
@@ -92,7 +82,7 @@ KeyStroke KeyStroke::of(const QKeyEvent& event)
     if (event.key() >= Qt::Key_0 && event.key() <= Qt::Key_9)
         stroke.digit = event.key() - Qt::Key_0;
     else if (!isMenuSign(event.key()))
-        stroke.digit = topRowDigit(event.nativeScanCode());
+        stroke.digit = topRowDigit(event.nativeScanCode()).value_or(stroke.digit);
     return stroke;
 }
 

@@ -47,11 +47,6 @@ QAccessibleInterface* makeInterface(const QString&, QObject* object)
     return label ? new LabelInterface(label) : nullptr;
 }
 
-void installInterface()
-{
-    [[maybe_unused]] static const bool installed = (QAccessible::installFactory(makeInterface), true);
-}
-
 } // namespace
 
 PanelLabel::PanelLabel(const PanelContext& context, const QFont& font, Ink ink, WhenNarrow whenNarrow, QWidget* parent)
@@ -62,7 +57,7 @@ PanelLabel::PanelLabel(const PanelContext& context, const QFont& font, Ink ink, 
     , m_former {{}, ink}
     , m_crossFade(1, Seconds(0), [this] { showCrossFade(); })
 {
-    installInterface();
+    QAccessible::installFactory(makeInterface);
     setFont(font);
     setTextFormat(Qt::PlainText);
     setTextInteractionFlags(Qt::NoTextInteraction);

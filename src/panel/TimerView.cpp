@@ -67,7 +67,7 @@ void choose(const TimerMenuItem& item, TimerManager& timer)
     }
 }
 
-Ink timerInk(TimerManager::Urgency urgency)
+Ink timerColor(TimerManager::Urgency urgency)
 {
     return urgency == TimerManager::Urgency::Warning ? Ink::Orange : playButtonInk(urgency);
 }
@@ -175,7 +175,7 @@ protected:
         painter.fillPath(shape, toQColor(timerFill(m_urgency, colors)));
         painter.strokePath(shape, QPen(toQColor(colors.sep().withAlpha(kOutlineOpacity)), 1));
         painter.setFont(font());
-        painter.setPen(toQColor(inkColor(timerInk(m_urgency), colors)));
+        painter.setPen(toQColor(inkColor(timerColor(m_urgency), colors)));
         const QRectF room = QRectF(rect()).adjusted(kTimePaddingX, 0, 0, 0);
         painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, m_time);
         drawFocusRing(painter, rect(), kTimeCornerRadius);

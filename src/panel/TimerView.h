@@ -27,8 +27,8 @@ struct TimerMenuItem {
 [[nodiscard]] QString textOf(const TimerMenuItem& item);
 void choose(const TimerMenuItem& item, TimerManager& timer);
 
-/// `timerColor`: what the time is written in.
-[[nodiscard]] Ink timerInk(TimerManager::Urgency urgency);
+/// The ink of the time.
+[[nodiscard]] Ink timerColor(TimerManager::Urgency urgency);
 /// The play button warns only at the very end.
 [[nodiscard]] Ink playButtonInk(TimerManager::Urgency urgency);
 /// What lies behind the time.

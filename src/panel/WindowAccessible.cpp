@@ -18,9 +18,6 @@ QAccessibleInterface* makeInterface(const QString& className, QObject* object)
 
 } // namespace
 
-void presentWindowsToScreenReaders()
-{
-    [[maybe_unused]] static const bool installed = (QAccessible::installFactory(makeInterface), true);
-}
+void presentWindowsToScreenReaders() { QAccessible::installFactory(makeInterface); }
 
 } // namespace cuebright

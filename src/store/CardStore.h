@@ -73,8 +73,11 @@ public:
     void addCard();
     /// Deletes the active card, open edit included, unless it is the deck's last one.
     void deleteCard();
+    [[nodiscard]] bool canDeleteCard() const;
     void moveCardUp();
     void moveCardDown();
+    [[nodiscard]] bool canMoveCardUp() const;
+    [[nodiscard]] bool canMoveCardDown() const;
     /// A message for 2.0 s; replaces the one before.
     void showFeedback(std::string message);
     [[nodiscard]] const std::optional<std::string>& feedbackMessage() const { return m_feedbackMessage; }
@@ -88,6 +91,7 @@ public:
     void renameDeck(std::string_view name);
     /// Deletes the active deck, open edit included, unless it is the last one.
     void deleteActiveDeck();
+    [[nodiscard]] bool canDeleteDeck() const;
     /// The active deck's cards with rules between them; empty without an active deck.
     [[nodiscard]] std::string exportDeckAsMarkdown() const;
 
@@ -144,7 +148,7 @@ private:
     void touchActiveDeck();
     void setEditing(bool isEditing);
     void moveTo(std::int64_t cardIndex, NavigationDirection direction);
-    void keepEditWithoutCeremony();
+    void saveTextAndCloseEdit();
 
     void performCardInsertion(Card card, std::int64_t index, const std::string& actionName);
     void performCardRemoval(std::int64_t index, const std::string& actionName);

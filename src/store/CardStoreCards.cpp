@@ -25,9 +25,11 @@ void CardStore::addCard()
     showFeedback("Card added");
 }
 
+bool CardStore::canDeleteCard() const { return activeCard() && cardCount() >= 2; }
+
 void CardStore::deleteCard()
 {
-    if (!activeCard() || cardCount() < 2)
+    if (!canDeleteCard())
         return;
     cancelEdit();
     performCardRemoval(m_activeCardIndex, "Delete Card");
@@ -66,6 +68,10 @@ void CardStore::performCardRemoval(std::int64_t index, const std::string& action
     registerUndo(actionName,
         [this, card = std::move(card), index, actionName] { performCardInsertion(card, index, actionName); });
 }
+
+bool CardStore::canMoveCardUp() const { return activeCard() && !m_isEditing && canGoPrev(); }
+
+bool CardStore::canMoveCardDown() const { return activeCard() && !m_isEditing && canGoNext(); }
 
 void CardStore::moveCardUp() { moveActiveCard(-1); }
 

@@ -10,7 +10,7 @@ namespace cuebright {
 
 void CardStore::createNewDeck(std::string_view name)
 {
-    keepEditWithoutCeremony();
+    saveTextAndCloseEdit();
     std::string trimmed(trimBlanks(name));
     if (trimmed.empty())
         trimmed = "Untitled Deck";
@@ -33,9 +33,11 @@ void CardStore::performDeckInsertion(Deck deck, std::int64_t index, const std::s
     registerUndo(actionName, [this, position, actionName] { performDeckRemoval(position, actionName); });
 }
 
+bool CardStore::canDeleteDeck() const { return deckCount() >= 2; }
+
 void CardStore::deleteActiveDeck()
 {
-    if (deckCount() < 2)
+    if (!canDeleteDeck())
         return;
     if (m_isEditing)
         set(m_isEditing, false, Property::IsEditing);
@@ -44,7 +46,7 @@ void CardStore::deleteActiveDeck()
 
 void CardStore::performDeckRemoval(std::int64_t index, const std::string& actionName)
 {
-    if (index < 0 || index >= deckCount() || deckCount() < 2)
+    if (index < 0 || index >= deckCount() || !canDeleteDeck())
         return;
     noticeOf(Property::Decks);
     const auto removed = m_decks.begin() + index;

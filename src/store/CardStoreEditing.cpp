@@ -55,7 +55,7 @@ void CardStore::setEditing(bool isEditing)
 }
 
 /// Ends an open edit for a move to another deck: the text is kept, the card's date and the screen stay as they are.
-void CardStore::keepEditWithoutCeremony()
+void CardStore::saveTextAndCloseEdit()
 {
     if (!m_isEditing)
         return;

@@ -84,7 +84,7 @@ void CardStore::switchToDeck(std::int64_t index)
 {
     if (index < 0 || index >= deckCount() || index == m_activeDeckIndex)
         return;
-    keepEditWithoutCeremony();
+    saveTextAndCloseEdit();
     set(m_activeCardIndex, 0, Property::ActiveCardIndex);
     set(m_activeDeckIndex, index, Property::ActiveDeckIndex);
     set(m_isDeckSwitch, true, Property::IsDeckSwitch);

@@ -84,7 +84,7 @@ TEST_F(TimerViewTest, ColoursTellHowUrgentItIs)
     const std::tuple<TimerManager::Urgency, Ink, Ink> cases[] = {{Normal, Ink::Muted, Ink::Muted},
         {Warning, Ink::Orange, Ink::Muted}, {Critical, Ink::Red, Ink::Red}, {Expired, Ink::Red, Ink::Red}};
     for (const auto& [urgency, time, button] : cases) {
-        EXPECT_EQ(timerInk(urgency), time);
+        EXPECT_EQ(timerColor(urgency), time);
         EXPECT_EQ(playButtonInk(urgency), button);
     }
 }

@@ -206,6 +206,24 @@ TEST_F(HyprlandCaptureExclusionTest, AfterAReloadTheRuleIsSentAgainHoweverTheLin
     EXPECT_TRUE(reaches(State::Unknown));
 }
 
+TEST_F(HyprlandCaptureExclusionTest, AWindowThatComesAfterTheRuleIsAskedTooOnce)
+{
+    auto answers = answersOf("0.53.0");
+    const auto withWindows = std::exchange(answers["j/clients"], "[]");
+    start(answers);
+    EXPECT_TRUE(reaches(State::Blackout));
+    auto peer = accept(events);
+    compositor.answers["j/clients"] = withWindows;
+    compositor.answers["/getprop"] = "false";
+    say(peer, "openwindow>>cd,1,app.cuebright.Cuebright,Cuebright\n");
+    EXPECT_TRUE(reaches(State::Visible));
+    say(peer, "openwindow>>ef,1,kitty,kitty\nconfigreloaded>>\n"); // the first is nothing new
+    EXPECT_TRUE(reaches(State::Unknown, false) && reaches(State::Visible));
+    EXPECT_EQ(compositor.requests,
+        (std::vector<std::string> {
+            "j/version", kSecond, "j/clients", "j/clients", kQuestion, "j/version", kSecond, "j/clients", kQuestion}));
+}
+
 TEST_F(HyprlandCaptureExclusionTest, NothingIsClaimedWhereACompositorCannotBeReachedOrHeard)
 {
     std::filesystem::remove(folder.file(".socket.sock"));

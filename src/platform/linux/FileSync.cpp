@@ -1,5 +1,5 @@
+#include "platform/qt/FileSync.h"
 #include "platform/linux/FileDescriptor.h"
-#include "platform/qt/SystemServices.h"
 
 #include <cerrno>
 #include <system_error>

@@ -1,14 +1,18 @@
 #include "platform/linux/FontWarmUp.h"
 
+#include <system_error>
+
 #include <fontconfig/fontconfig.h>
 
 namespace cuebright {
 
 FontWarmUp::FontWarmUp()
-    : m_thread([] { FcInit(); }) // safe from any thread, and does nothing the second time
 {
+    try {
+        m_thread = std::jthread([] { FcInit(); }); // safe from any thread, and does nothing the second time
+    } catch (const std::system_error&) {
+        // No thread is to be had: the toolkit reads it later.
+    }
 }
-
-FontWarmUp::~FontWarmUp() { m_thread.join(); }
 
 } // namespace cuebright

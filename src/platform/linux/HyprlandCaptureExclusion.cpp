@@ -21,14 +21,16 @@ HyprlandCaptureExclusion::HyprlandCaptureExclusion(std::unique_ptr<HyprlandIpc> 
     : m_ipc(std::move(ipc))
     , m_mainQueue(mainQueue)
     , m_reloadSubscription(m_ipc->configReloaded.subscribe([this] { sendRuleAnew(); }))
+    , m_windowSubscription(m_ipc->windowOpened.subscribe([this] {
+        if (m_isUnverified)
+            lookUpWindows();
+    }))
     , m_lostSubscription(m_ipc->lost.subscribe([this] {
         m_isLost = true;
         giveUp();
     }))
 {
 }
-
-HyprlandCaptureExclusion::~HyprlandCaptureExclusion() { m_deadline.cancel(); }
 
 void HyprlandCaptureExclusion::start()
 {
@@ -39,6 +41,7 @@ void HyprlandCaptureExclusion::start()
 
 void HyprlandCaptureExclusion::sendRuleAnew()
 {
+    m_isUnverified = false;
     m_ipc->abandonRequests();
     m_deadline.cancel();
     m_deadline = m_mainQueue.after(kPatience, m_self.guard([this] { giveUp(); }));
@@ -82,6 +85,7 @@ void HyprlandCaptureExclusion::lookUpWindows()
         auto addresses = hyprlandWindows(reply, ::getpid());
         if (!addresses)
             return giveUp();
+        m_isUnverified = addresses->empty();
         verify(std::move(*addresses));
     });
 }
@@ -114,6 +118,7 @@ void HyprlandCaptureExclusion::request(const std::string& text, std::function<vo
 void HyprlandCaptureExclusion::giveUp()
 {
     m_ipc->abandonRequests();
+    m_isUnverified = false;
     settle(State::Unknown);
 }
 

@@ -15,13 +15,13 @@
 namespace cuebright {
 
 /// Has Hyprland (0.50 and later) capture the program's windows as black boxes, by a window rule that is sent again
-/// whenever the configuration is reloaded. From 0.53 on, the windows that are there are asked whether the rule holds.
+/// whenever the configuration is reloaded. From 0.53 on, the program's windows are asked whether the rule holds, and as
+/// long as there are none, it is asked again when one comes.
 ///
 /// Made from Hyprland's documentation and tried against a stand-in only: it has not been run on a real Hyprland.
 class HyprlandCaptureExclusion final : public CaptureExclusion {
 public:
     HyprlandCaptureExclusion(std::unique_ptr<HyprlandIpc> ipc, MainQueue& mainQueue);
-    ~HyprlandCaptureExclusion() override;
 
     /// Sends the rule for the first time. Call once.
     void start();
@@ -47,9 +47,11 @@ private:
     State m_state = State::Unknown;
     bool m_isSettled = false;
     bool m_isLost = false;
+    bool m_isUnverified = false; ///< the rule was accepted while there was no window to ask
     PendingTask m_deadline;
     WeakTarget m_self;
     Subscription m_reloadSubscription;
+    Subscription m_windowSubscription;
     Subscription m_lostSubscription;
 };
 

@@ -28,6 +28,8 @@ public:
 
     /// The configuration was read again, and the rules that were sent are gone.
     Signal<> configReloaded;
+    /// A window has come, of whatever program.
+    Signal<> windowOpened;
     /// From now on nothing is heard any more of what happens.
     Signal<> lost;
 };

@@ -65,8 +65,11 @@ void HyprlandSocket::takeEvents(std::string_view text)
     m_eventText += text;
     std::size_t begin = 0;
     for (std::size_t end; (end = m_eventText.find('\n', begin)) != std::string::npos; begin = end + 1) {
-        if (std::string_view(m_eventText).substr(begin, end - begin).starts_with("configreloaded>>"))
+        const auto line = std::string_view(m_eventText).substr(begin, end - begin);
+        if (line.starts_with("configreloaded>>"))
             configReloaded.notify();
+        else if (line.starts_with("openwindow>>"))
+            windowOpened.notify();
     }
     m_eventText.erase(0, begin);
 }

@@ -82,7 +82,7 @@ public:
         m_accessibility.start(QDBusConnection::sessionBus());
         if (m_portalHotKeys)
             m_portalHotKeys->start();
-        m_trim = m_mainQueue.after(kSettled, giveBackMemory);
+        m_mainQueue.after(kSettled, giveBackMemory);
     }
 
 private:
@@ -107,7 +107,6 @@ private:
     }
 
     MainQueue& m_mainQueue;
-    PendingTask m_trim;
     const Session m_session = Session::fromEnvironment();
     const std::unique_ptr<X11Services> m_x11;
     SystemClock m_clock;

@@ -11,23 +11,8 @@
 
 namespace cuebright {
 
-namespace {
-
-constexpr const char* kWindowSystemVariable = "QT_QPA_PLATFORM";
-
-/// A Wayland client may neither float nor place itself, so the way through XWayland comes first.
-bool preferXWayland()
-{
-    if (!Session::fromEnvironment().isWayland || qEnvironmentVariableIsSet(kWindowSystemVariable))
-        return false;
-    return qputenv(kWindowSystemVariable, "xcb;wayland");
-}
-
-} // namespace
-
 struct ProcessSetup::System {
     FontWarmUp fontWarmUp;
-    bool choseWindowSystem = preferXWayland();
     std::optional<TerminationSignals> terminationSignals {};
     Subscription terminationSubscription {};
 };
@@ -40,10 +25,17 @@ ProcessSetup::ProcessSetup()
 
 ProcessSetup::~ProcessSetup() = default;
 
+/// A Wayland client may neither float nor place itself, so the way through XWayland comes first. Said in an option: the
+/// environment is read by the fonts' thread, and inherited by programs that make their own choice.
+std::vector<std::string> ProcessSetup::toolkitOptions()
+{
+    if (!Session::fromEnvironment().isWayland || qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        return {};
+    return {"-platform", "xcb;wayland"};
+}
+
 void ProcessSetup::applicationIsThere()
 {
-    if (m_system->choseWindowSystem)
-        qunsetenv(kWindowSystemVariable); // programs started from here make their own choice
     m_system->terminationSignals.emplace();
     m_system->terminationSubscription =
         m_system->terminationSignals->requested.subscribe([this] { terminationRequested.notify(); });

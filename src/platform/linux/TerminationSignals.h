@@ -12,8 +12,8 @@ namespace cuebright {
 /// A SIGHUP that was ignored from the start (nohup) stays ignored.
 class TerminationSignals final {
 public:
-    /// Holds the three signals back until an object of this class receives them, and ignores SIGPIPE. Call it first in
-    /// `main`: threads take it over when they start.
+    /// Holds the three signals back until an object of this class receives them, and ignores SIGPIPE. Call it before
+    /// any thread starts: threads take it over.
     ///
     /// Child processes made by fork(), as by `QProcess::startDetached` and `QDesktopServices::openUrl`, undo this by
     /// themselves. Those made otherwise call `releaseInChild` (`QProcess::setChildProcessModifier`) or are given a

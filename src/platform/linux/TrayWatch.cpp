@@ -34,11 +34,6 @@ public:
         m_manager = m_x11->atom("MANAGER");
         QCoreApplication::instance()->installNativeEventFilter(this);
     }
-    ~XEmbedTray() override
-    {
-        if (const auto application = QCoreApplication::instance())
-            application->removeNativeEventFilter(this);
-    }
 
     bool isThere() const
     {

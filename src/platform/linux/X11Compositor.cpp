@@ -25,12 +25,6 @@ X11Compositor::X11Compositor(const X11Connection& x11)
     QCoreApplication::instance()->installNativeEventFilter(this);
 }
 
-X11Compositor::~X11Compositor()
-{
-    if (const auto application = QCoreApplication::instance())
-        application->removeNativeEventFilter(this);
-}
-
 bool X11Compositor::nativeEventFilter(const QByteArray&, void* message, qintptr*)
 {
     const auto* const event = static_cast<const xcb_generic_event_t*>(message);

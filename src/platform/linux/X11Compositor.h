@@ -12,7 +12,6 @@ namespace cuebright {
 class X11Compositor final : public QAbstractNativeEventFilter {
 public:
     explicit X11Compositor(const X11Connection& x11);
-    ~X11Compositor() override;
 
     [[nodiscard]] bool isRunning() const { return m_isRunning; }
 

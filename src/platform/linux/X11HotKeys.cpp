@@ -66,12 +66,7 @@ public:
         grab();
         QCoreApplication::instance()->installNativeEventFilter(this);
     }
-    ~Registration() override
-    {
-        if (const auto application = QCoreApplication::instance())
-            application->removeNativeEventFilter(this);
-        ungrab();
-    }
+    ~Registration() override { ungrab(); }
 
     bool isSystemWide() const override { return m_key.has_value(); }
 

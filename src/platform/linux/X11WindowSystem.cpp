@@ -28,12 +28,6 @@ X11WindowSystem::X11WindowSystem(const X11Connection& x11, MainQueue& mainQueue)
     QCoreApplication::instance()->installNativeEventFilter(this);
 }
 
-X11WindowSystem::~X11WindowSystem()
-{
-    if (const auto application = QCoreApplication::instance())
-        application->removeNativeEventFilter(this);
-}
-
 void X11WindowSystem::keepAboveFullScreen(WindowId window)
 {
     m_windows.insert(static_cast<xcb_window_t>(window));

@@ -18,7 +18,6 @@ namespace cuebright {
 class X11WindowSystem final : public WindowSystem, public QAbstractNativeEventFilter {
 public:
     X11WindowSystem(const X11Connection& x11, MainQueue& mainQueue);
-    ~X11WindowSystem() override;
 
     void keepAboveFullScreen(WindowId window) override;
     void release(WindowId window) override;

@@ -16,6 +16,8 @@ ProcessSetup::ProcessSetup()
 
 ProcessSetup::~ProcessSetup() = default;
 
+std::vector<std::string> ProcessSetup::toolkitOptions() { return {}; }
+
 void ProcessSetup::applicationIsThere()
 {
     m_system->subscription =

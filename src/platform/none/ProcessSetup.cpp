@@ -8,6 +8,8 @@ ProcessSetup::ProcessSetup() = default;
 
 ProcessSetup::~ProcessSetup() = default;
 
+std::vector<std::string> ProcessSetup::toolkitOptions() { return {}; }
+
 void ProcessSetup::applicationIsThere() { }
 
 } // namespace cuebright

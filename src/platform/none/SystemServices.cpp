@@ -1,5 +1,7 @@
 #include "platform/qt/SystemServices.h"
 
+#include "platform/qt/FileSync.h"
+
 #include "platform/Clock.h"
 #include "platform/none/NoAccessibility.h"
 #include "platform/none/NoCaptureExclusion.h"

@@ -11,7 +11,7 @@ namespace cuebright {
 /// Decides which of a user's launches is the one that runs; every other one hands over to it and ends. Neither a crash
 /// nor a hang of the one that runs keeps a launch waiting. Defined once for each system.
 ///
-/// Make it before everything else in `main`: a launch that only hands over then never starts the toolkit.
+/// Needs nothing of the toolkit.
 class OneInstance final {
 public:
     OneInstance();

@@ -1,6 +1,6 @@
 #include "platform/qt/QtFileSystem.h"
 
-#include "platform/qt/SystemServices.h"
+#include "platform/qt/FileSync.h"
 
 #include <QDir>
 #include <QFile>

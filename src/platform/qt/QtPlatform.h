@@ -28,7 +28,6 @@ public:
 
     [[nodiscard]] Platform services();
     [[nodiscard]] Desktop desktop();
-    [[nodiscard]] QtAppearance& appearance() { return m_appearance; }
 
     /// Asks the desktop for what the first frame did not need. Call once, after that frame.
     void start();

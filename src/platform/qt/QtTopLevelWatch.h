@@ -5,8 +5,6 @@
 
 #include <QObject>
 
-class QWindow;
-
 namespace cuebright {
 
 /// Tells of every top-level window of the program, menus and tooltips included, before anybody can see it. Windows that

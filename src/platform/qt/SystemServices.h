@@ -1,11 +1,8 @@
 #pragma once
 
 #include "platform/Desktop.h"
-#include "platform/FileSystem.h"
 
-#include <filesystem>
 #include <memory>
-#include <optional>
 
 namespace cuebright {
 
@@ -14,9 +11,7 @@ class Clock;
 class MainQueue;
 class QtAppearance;
 
-// What Qt does not offer: defined once for each system, in its own folder.
-
-/// The services of one system.
+/// The services of one system that Qt does not offer.
 class SystemServices {
 public:
     virtual ~SystemServices() = default;
@@ -31,13 +26,7 @@ public:
 };
 
 /// Call after the application object is made. What the system says about its light or dark look goes to `appearance`.
-/// Both outlive the services.
+/// Both outlive the services. Defined once for each system, in its own folder.
 [[nodiscard]] std::unique_ptr<SystemServices> makeSystemServices(QtAppearance& appearance, MainQueue& mainQueue);
-
-/// Brings what was written to an open file to the disk; the reason when that fails. Silent where it cannot be asked.
-[[nodiscard]] std::optional<FileError> syncFile(int fileDescriptor);
-
-/// Brings a folder's entries to the disk, so that a file renamed into it outlives a power cut. Best effort.
-void syncDirectory(const std::filesystem::path& directory);
 
 } // namespace cuebright

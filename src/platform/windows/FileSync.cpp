@@ -1,4 +1,4 @@
-#include "platform/qt/SystemServices.h"
+#include "platform/qt/FileSync.h"
 
 #include "platform/windows/Win32.h"
 

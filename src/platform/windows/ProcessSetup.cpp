@@ -42,6 +42,8 @@ ProcessSetup::~ProcessSetup()
     listenerHandle = nullptr;
 }
 
+std::vector<std::string> ProcessSetup::toolkitOptions() { return {}; }
+
 void ProcessSetup::applicationIsThere()
 {
     m_system = std::make_unique<System>();
