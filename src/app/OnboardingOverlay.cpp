@@ -34,8 +34,6 @@ constexpr int kShadowReach = 24;
 constexpr int kShadowDrop = 6;
 constexpr Animation kPageTurn {Animation::Curve::EaseInOut, Seconds(0.2)};
 
-int scaled(int gap, double scale) { return static_cast<int>(std::lround(gap * scale)); }
-
 OnboardingOverlay* overlayOn(const QWidget* widget)
 {
     for (const auto child : widget->children()) {
@@ -210,7 +208,8 @@ void OnboardingOverlay::layOut()
         return highest;
     };
     const auto heightAt = [&](double gapScale) {
-        const int gaps = 2 * scaled(kPadding, gapScale) + scaled(kDotsGap, gapScale) + scaled(kButtonGap, gapScale);
+        const int gaps =
+            2 * scaledGap(kPadding, gapScale) + scaledGap(kDotsGap, gapScale) + scaledGap(kButtonGap, gapScale);
         return highestPage(gapScale) + kDotSize + m_advance->sizeHint().height() + gaps;
     };
     double gapScale = 1;
@@ -222,7 +221,7 @@ void OnboardingOverlay::layOut()
     const auto page = m_pages[static_cast<std::size_t>(m_currentPage)];
     const int pageHeight = page->heightFor(textWidth, gapScale);
     page->setGeometry(m_card.x() + kPadding,
-        m_card.y() + scaled(kPadding, gapScale) + (highestPage(gapScale) - pageHeight) / 2, textWidth, pageHeight);
+        m_card.y() + scaledGap(kPadding, gapScale) + (highestPage(gapScale) - pageHeight) / 2, textWidth, pageHeight);
     page->layOut(gapScale);
 
     const auto putCentred = [this](QWidget* widget, int bottom) {
@@ -231,8 +230,8 @@ void OnboardingOverlay::layOut()
             m_card.x() + (m_card.width() - size.width()) / 2, bottom - size.height(), size.width(), size.height());
         return bottom - size.height();
     };
-    const int buttonTop = putCentred(m_advance, m_card.bottom() + 1 - scaled(kPadding, gapScale));
-    putCentred(m_dots, buttonTop - scaled(kButtonGap, gapScale));
+    const int buttonTop = putCentred(m_advance, m_card.bottom() + 1 - scaledGap(kPadding, gapScale));
+    putCentred(m_dots, buttonTop - scaledGap(kButtonGap, gapScale));
 }
 
 bool OnboardingOverlay::eventFilter(QObject* watched, QEvent* event)

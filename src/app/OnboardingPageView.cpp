@@ -23,17 +23,15 @@ constexpr double kTitleSize = 22;
 constexpr double kTextSize = 14;
 constexpr double kKeysSize = 13;
 
-int scaled(int gap, double scale) { return static_cast<int>(std::lround(gap * scale)); }
-
 int heightOf(const QWidget* widget, int width)
 {
     return widget->hasHeightForWidth() ? widget->heightForWidth(width) : widget->sizeHint().height();
 }
 
 /// Keys in a column of their own, and what they do.
-class ShortcutRow final : public QWidget {
+class KeyRow final : public QWidget {
 public:
-    ShortcutRow(const PanelContext& context, const OnboardingPage::Row& row, QWidget* parent)
+    KeyRow(const PanelContext& context, const OnboardingPage::Row& row, QWidget* parent)
         : QWidget(parent)
         , m_keys(new PanelLabel(
               context, monospacedFont(kKeysSize, QFont::DemiBold), Ink::Text, PanelLabel::WhenNarrow::Keep, this))
@@ -64,6 +62,8 @@ private:
 
 } // namespace
 
+int scaledGap(int gap, double scale) { return static_cast<int>(std::lround(gap * scale)); }
+
 OnboardingPageView::OnboardingPageView(const PanelContext& context, const OnboardingPage& page, QWidget* parent)
     : QWidget(parent)
     , m_context(context)
@@ -77,7 +77,7 @@ OnboardingPageView::OnboardingPageView(const PanelContext& context, const Onboar
     if (!page.body.isEmpty())
         add(makeText(page.body, systemFont(kTextSize), Ink::Muted), kTextGap);
     for (std::size_t i = 0; i < page.rows.size(); ++i)
-        add(new ShortcutRow(context, page.rows[i], this), i == 0 ? kRowsGap : kRowGap);
+        add(new KeyRow(context, page.rows[i], this), i == 0 ? kRowsGap : kRowGap);
 }
 
 PanelLabel* OnboardingPageView::makeText(const QString& text, const QFont& font, Ink ink)
@@ -95,7 +95,7 @@ int OnboardingPageView::heightFor(int width, double gapScale) const
 {
     int height = kIconHeight;
     for (const auto& item : m_items)
-        height += scaled(item.gapAbove, gapScale) + heightOf(item.widget, width);
+        height += scaledGap(item.gapAbove, gapScale) + heightOf(item.widget, width);
     return height;
 }
 
@@ -108,7 +108,7 @@ void OnboardingPageView::layOut(double gapScale)
     }
     int y = kIconHeight;
     for (const auto& item : m_items) {
-        y += scaled(item.gapAbove, gapScale);
+        y += scaledGap(item.gapAbove, gapScale);
         const int itemHeight = heightOf(item.widget, width());
         const int inset = item.widget->hasHeightForWidth() ? 0 : (width() - rowWidth) / 2;
         item.widget->setGeometry(inset, y, width() - 2 * inset, itemHeight);

@@ -12,6 +12,9 @@ namespace cuebright {
 
 class PanelLabel;
 
+/// A gap of the introduction in a panel that has room for so much of it. Logical pixels.
+[[nodiscard]] int scaledGap(int gap, double scale);
+
 /// One page of the introduction: icon, title, texts and shortcut rows, one below the other.
 class OnboardingPageView final : public QWidget {
 public:

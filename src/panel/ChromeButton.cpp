@@ -1,8 +1,8 @@
 #include "panel/ChromeButton.h"
 
-#include "panel/Easing.h"
 #include "theme/CuebrightChromeStyle.h"
 #include "theme/Fonts.h"
+#include "theme/QtColors.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -51,14 +51,13 @@ void drawSymbol(QPainter& painter, Icon icon, double side, const QRectF& rect)
 ChromeButton::ChromeButton(const PanelContext& context, std::optional<Symbol> symbol, QWidget* parent)
     : PanelButton(context, parent)
     , m_symbol(symbol)
+    , m_frameWidth(kFrameWidth)
+    , m_press(
+          0, Seconds(CuebrightChromeStyle::kPressAnimationTime / 1000.0), [this] { update(); },
+          Animation::Curve::EaseOut)
 {
-    m_press.setDuration(CuebrightChromeStyle::kPressAnimationTime);
-    m_press.setEasingCurve(easingCurve(Animation::Curve::EaseOut));
-    m_press.setStartValue(0.0);
-    m_press.setEndValue(0.0);
-    connect(&m_press, &QVariantAnimation::valueChanged, this, qOverload<>(&QWidget::update));
-    connect(this, &QAbstractButton::pressed, this, [this] { animatePress(true); });
-    connect(this, &QAbstractButton::released, this, [this] { animatePress(false); });
+    connect(this, &QAbstractButton::pressed, this, [this] { m_press.moveTo(1, Presence::Motion::Animated); });
+    connect(this, &QAbstractButton::released, this, [this] { m_press.moveTo(0, Presence::Motion::Animated); });
 }
 
 ChromeButton::ChromeButton(const PanelContext& context, const QString& text, QWidget* parent)
@@ -71,31 +70,45 @@ ChromeButton::ChromeButton(const PanelContext& context, const QString& text, QWi
 ChromeButton::ChromeButton(const PanelContext& context, Icon icon, int side, const QString& name, QWidget* parent)
     : ChromeButton(context, Symbol {icon, side}, parent)
 {
+    setName(name);
+}
+
+void ChromeButton::setName(const QString& name)
+{
     setToolTip(name);
     setAccessibleName(name);
+}
+
+void ChromeButton::setFrameWidth(int width)
+{
+    m_frameWidth = width;
+    updateGeometry();
+}
+
+void ChromeButton::setSymbol(Icon icon, Ink ink, const QString& name)
+{
+    m_symbol->icon = icon;
+    m_symbol->ink = ink;
+    if (name != accessibleName())
+        setName(name);
+    update();
 }
 
 QSize ChromeButton::sizeHint() const
 {
     if (m_symbol)
-        return {kFrameWidth, kHeight};
+        return {m_frameWidth, kHeight};
     return {static_cast<int>(std::ceil(Title(text()).width(font()))) + 2 * kTitlePadding, kHeight};
-}
-
-void ChromeButton::animatePress(bool isDown)
-{
-    const auto from = m_press.currentValue();
-    m_press.stop();
-    m_press.setStartValue(from);
-    m_press.setEndValue(isDown ? 1.0 : 0.0);
-    m_press.start();
 }
 
 void ChromeButton::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    const CuebrightChromeStyle::State state {m_press.currentValue().toDouble(), isEnabled(), hasFocus()};
-    CuebrightChromeStyle(m_context.colors()).draw(painter, rect(), state, [this](QPainter& labelPainter) {
+    const auto colors = m_context.colors();
+    const CuebrightChromeStyle::State state {m_press.value(), isEnabled(), hasFocus()};
+    CuebrightChromeStyle(colors).draw(painter, rect(), state, [&](QPainter& labelPainter) {
+        if (m_symbol && m_symbol->ink)
+            labelPainter.setPen(toQColor(inkColor(*m_symbol->ink, colors)));
         if (m_symbol)
             drawSymbol(labelPainter, m_symbol->icon, m_symbol->side, rect());
         else

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "panel/Icon.h"
+#include "panel/Ink.h"
 #include "panel/PanelButton.h"
-
-#include <QVariantAnimation>
+#include "panel/Presence.h"
 
 #include <optional>
 
@@ -18,6 +18,10 @@ public:
     /// reader.
     ChromeButton(const PanelContext& context, Icon icon, int side, const QString& name, QWidget* parent);
 
+    void setFrameWidth(int width);
+    /// Another symbol of the same size, in an ink of its own.
+    void setSymbol(Icon icon, Ink ink, const QString& name);
+
     [[nodiscard]] QSize sizeHint() const override;
 
 protected:
@@ -27,15 +31,17 @@ private:
     struct Symbol {
         Icon icon;
         int side;
+        std::optional<Ink> ink = {}; ///< else the style's
     };
 
     ChromeButton(const PanelContext& context, std::optional<Symbol> symbol, QWidget* parent);
 
-    void animatePress(bool isDown);
+    void setName(const QString& name);
     void drawTitle(QPainter& painter) const;
 
     std::optional<Symbol> m_symbol;
-    QVariantAnimation m_press;
+    int m_frameWidth;
+    Presence m_press;
 };
 
 } // namespace cuebright

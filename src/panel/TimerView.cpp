@@ -1,9 +1,8 @@
 #include "panel/TimerView.h"
 
-#include "panel/Icon.h"
+#include "panel/ChromeButton.h"
 #include "panel/OpenMenus.h"
 #include "panel/PanelButton.h"
-#include "panel/Presence.h"
 #include "panel/TextConversion.h"
 #include "theme/CuebrightChromeStyle.h"
 #include "theme/Fonts.h"
@@ -22,8 +21,8 @@ namespace {
 
 constexpr std::array<std::int64_t, 7> kPresets {5, 10, 15, 20, 30, 45, 60};
 constexpr int kPartGap = 4;
-constexpr QSize kPlaySize {20, 28};
-constexpr double kPlaySymbolSize = 12; ///< the symbol's square; the triangle itself is two thirds of it
+constexpr int kPlayWidth = 20;
+constexpr int kPlaySymbolSize = 12; ///< the symbol's square; the triangle itself is two thirds of it
 constexpr int kTimePaddingX = 6;
 constexpr int kTimePaddingY = 4;
 constexpr double kTimeSpacing = 0.5;
@@ -92,49 +91,6 @@ Color timerFill(TimerManager::Urgency urgency, const Colors& colors)
     return colors.sep().withAlpha(0.08);
 }
 
-class PlayButton final : public PanelButton {
-public:
-    PlayButton(const PanelContext& context, QWidget* parent)
-        : PanelButton(context, parent)
-        , m_press(
-              0, Seconds(CuebrightChromeStyle::kPressAnimationTime / 1000.0), [this] { update(); },
-              Animation::Curve::EaseOut)
-    {
-        connect(this, &QAbstractButton::pressed, this, [this] { m_press.moveTo(1, Presence::Motion::Animated); });
-        connect(this, &QAbstractButton::released, this, [this] { m_press.moveTo(0, Presence::Motion::Animated); });
-    }
-
-    void show(Icon icon, Ink ink)
-    {
-        if (m_icon == icon && m_ink == ink && !accessibleName().isEmpty())
-            return;
-        m_icon = icon;
-        m_ink = ink;
-        setAccessibleName(icon == Icon::Pause ? QStringLiteral("Pause timer") : QStringLiteral("Start timer"));
-        update();
-    }
-
-    [[nodiscard]] QSize sizeHint() const override { return kPlaySize; }
-
-protected:
-    void paintEvent(QPaintEvent*) override
-    {
-        QPainter painter(this);
-        const auto colors = m_context.colors();
-        CuebrightChromeStyle(colors).draw(
-            painter, rect(), {m_press.value(), isEnabled(), hasFocus()}, [&](QPainter& labelPainter) {
-                QRectF symbol(0, 0, kPlaySymbolSize, kPlaySymbolSize);
-                symbol.moveCenter(QRectF(rect()).center());
-                drawIcon(labelPainter, m_icon, symbol, toQColor(inkColor(m_ink, colors)));
-            });
-    }
-
-private:
-    Icon m_icon = Icon::Play;
-    Ink m_ink = Ink::Muted;
-    Presence m_press;
-};
-
 class TimeButton final : public PanelButton {
 public:
     TimeButton(const PanelContext& context, QWidget* parent)
@@ -190,7 +146,7 @@ TimerView::TimerView(const PanelContext& context, TimerManager& timer, QWidget* 
     : QWidget(parent)
     , m_context(context)
     , m_timer(timer)
-    , m_play(new PlayButton(context, this))
+    , m_play(new ChromeButton(context, Icon::Play, kPlaySymbolSize, QStringLiteral("Start timer"), this))
     , m_time(new TimeButton(context, this))
     , m_menu(this)
     , m_refresh(context.platform.mainQueue, [this] { refresh(); })
@@ -200,6 +156,7 @@ TimerView::TimerView(const PanelContext& context, TimerManager& timer, QWidget* 
     row->setSpacing(kPartGap);
     row->addWidget(m_play, 0, Qt::AlignVCenter);
     row->addWidget(m_time, 0, Qt::AlignVCenter);
+    m_play->setFrameWidth(kPlayWidth);
     connect(m_play, &QAbstractButton::clicked, this, [this] { m_timer.toggle(); });
     connect(m_time, &QAbstractButton::clicked, this, &TimerView::openMenu);
     offerOpenMenusToScreenReaders(*this);
@@ -213,7 +170,8 @@ void TimerView::refresh()
     if (m_shown == now)
         return;
     m_shown = now;
-    m_play->show(now.isRunning ? Icon::Pause : Icon::Play, playButtonInk(now.urgency));
+    m_play->setSymbol(now.isRunning ? Icon::Pause : Icon::Play, playButtonInk(now.urgency),
+        now.isRunning ? QStringLiteral("Pause timer") : QStringLiteral("Start timer"));
     m_time->show(toQString(now.time), now.urgency);
 }
 

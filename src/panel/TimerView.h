@@ -34,7 +34,7 @@ void choose(const TimerMenuItem& item, TimerManager& timer);
 /// What lies behind the time.
 [[nodiscard]] Color timerFill(TimerManager::Urgency urgency, const Colors& colors);
 
-class PlayButton;
+class ChromeButton;
 class TimeButton;
 
 /// The talk timer: a button that starts and pauses it, and the time with a menu of durations. Repaints when what it
@@ -59,7 +59,7 @@ private:
 
     const PanelContext& m_context;
     TimerManager& m_timer;
-    PlayButton* m_play;
+    ChromeButton* m_play;
     TimeButton* m_time;
     QMenu m_menu;
     std::optional<Shown> m_shown;

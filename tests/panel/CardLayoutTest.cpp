@@ -27,14 +27,14 @@ double lineHeight(const QFont& font)
     return height;
 }
 
-/// The columns and rows between which a colour appears when the card is drawn.
-QRect boundsOf(CardLayout layout, const Color& color)
+/// The columns and rows between which a colour appears, or any other, when the card is drawn.
+QRect boundsOf(CardLayout layout, const Color& color, Qt::MaskMode mode = Qt::MaskOutColor)
 {
     QImage image(kWidth, 400, QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter painter(&image);
     layout.draw(painter, image.rect());
-    const auto mask = image.createMaskFromColor(toQColor(color).rgb(), Qt::MaskOutColor);
+    const auto mask = image.createMaskFromColor(toQColor(color).rgb(), mode);
     return QRegion(QBitmap::fromImage(mask)).boundingRect();
 }
 
@@ -70,6 +70,10 @@ TEST_F(CardLayoutTest, BulletsAreSquaresOfSevenAndQuotesHaveABarOfThree)
     EXPECT_EQ(bullet.width(), 7);
     EXPECT_NEAR(bullet.height(), 7, 1) << "a baseline between two pixels blurs one edge";
     EXPECT_EQ(bullet.left(), 0);
+
+    const auto bar = boundsOf(layoutOf({{Block::Kind::Blockquote, ""}}), {1, 1, 1}, Qt::MaskInColor); // all but white
+    EXPECT_EQ(bar.left(), 0);
+    EXPECT_EQ(bar.width(), 3);
 
     const auto text = boundsOf(layoutOf({{Block::Kind::Blockquote, "IIII"}}), colors.muted());
     EXPECT_GE(text.left(), 3 + 14);
