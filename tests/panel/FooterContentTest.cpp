@@ -68,7 +68,8 @@ TEST(Ink, WarningsCanBeReadInEveryLook)
             EXPECT_GE(contrast(inkColor(ink, colors), colors.warmBg()), highContrast ? 7 : 4.5)
                 << static_cast<int>(ink) << look;
         for (const auto urgency : {Urgency::Warning, Urgency::Critical, Urgency::Expired})
-            EXPECT_GE(contrast(inkColor(timerColor(urgency), colors), over(timerFill(urgency, colors), colors.warmBg())),
+            EXPECT_GE(
+                contrast(inkColor(timerColor(urgency), colors), over(timerFill(urgency, colors), colors.warmBg())),
                 highContrast ? 6.0 : 4.5)
                 << static_cast<int>(urgency) << look;
     }
