@@ -1,6 +1,7 @@
 #include "app/CompanionWindow.h"
 
 #include "app/WindowPlacement.h"
+#include "panel/OpenSheets.h"
 #include "platform/WindowSystem.h"
 
 #include <QCloseEvent>
@@ -18,6 +19,7 @@ CompanionWindow::CompanionWindow(const PanelContext& context, const QString& tit
     , m_context(context)
 {
     setWindowTitle(title);
+    setAttribute(Qt::WA_ShowWithoutActivating); // counts from when the native window is made
     m_fallSubscription =
         context.desktop.windowSystem.minimisedWithFullScreen.subscribe([this](WindowSystem::WindowId window) {
             if (window == internalWinId())
@@ -47,15 +49,14 @@ void CompanionWindow::showBeside(const QWidget& panel)
     activateWindow();
 }
 
-/// Without the keyboard, which showing a minimised window would take.
+/// Without the keyboard, which showing it as it is would take. A sheet would end up below its window.
 void CompanionWindow::comeBack()
 {
+    dismissSheets(*this);
+    m_context.desktop.windowSystem.keepAboveFullScreen(winId());
     hide();
     setWindowState(windowState() & ~Qt::WindowMinimized);
-    m_context.desktop.windowSystem.keepAboveFullScreen(winId());
-    setAttribute(Qt::WA_ShowWithoutActivating);
     show();
-    setAttribute(Qt::WA_ShowWithoutActivating, false);
 }
 
 /// Before a window is first shown nobody knows how wide its borders are; the panel's are the best guess.

@@ -108,7 +108,7 @@ void CardArea::goOnLayingOut()
     if (m_goesOnLayingOut || !m_layout || m_layout->isComplete())
         return;
     m_goesOnLayingOut = true;
-    m_context.platform.mainQueue.post(m_weakTarget.guard([this] {
+    m_context.platform.mainQueue.after(Seconds(0), m_weakTarget.guard([this] { // when nothing else waits
         m_goesOnLayingOut = false;
         if (m_layout)
             m_layout->layOutFor(kLayoutSlice);

@@ -2,6 +2,7 @@
 
 #include "foundation/NotificationCenter.h"
 #include "panel/MarkdownEditor.h"
+#include "panel/OpenSheets.h"
 #include "panel/WindowAccessible.h"
 #include "store/CardStore.h"
 #include "store/UndoManager.h"
@@ -9,7 +10,6 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QDialog>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QWindow>
@@ -60,10 +60,7 @@ void NotesPanel::dismissMenusAndSheets()
         if (!popup->close())
             break;
     }
-    for (const auto sheet : findChildren<QDialog*>()) {
-        if (sheet->isVisible())
-            sheet->reject();
-    }
+    dismissSheets(*this);
 }
 
 bool NotesPanel::event(QEvent* event)

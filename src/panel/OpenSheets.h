@@ -8,4 +8,7 @@ namespace cuebright {
 /// it is until then: the answer is about that.
 [[nodiscard]] bool isWaitingForAnswer(const QWidget& window);
 
+/// Answers the sheets on `window` with Cancel.
+void dismissSheets(const QWidget& window);
+
 } // namespace cuebright

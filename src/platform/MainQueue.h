@@ -32,8 +32,8 @@ class MainQueue {
 public:
     virtual ~MainQueue() = default;
 
-    /// Runs `work` after the current event, and before the user's next key or click is delivered, even one that waits
-    /// already.
+    /// Runs `work` after the current event, and before the user's next key or click reaches what is inside a window,
+    /// even one that waits already. So it must be quick, and must not destroy windows.
     virtual void post(std::function<void()> work) = 0;
 
     /// Runs `work` once, `delay` from now.

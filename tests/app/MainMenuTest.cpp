@@ -140,6 +140,14 @@ TEST_F(MainMenuTest, CardsStayAsTheyAreBehindAQuestion)
     EXPECT_FALSE(mainMenu.action(Command::NewCard).isEnabled());
     EXPECT_TRUE(mainMenu.action(Command::IncreaseOpacity).isEnabled());
     sheet.reject();
+    QDialog everything;
+    everything.setModal(true);
+    everything.show();
+    another.reject();
+    another.open(); // the newest
+    refresh();
+    EXPECT_FALSE(mainMenu.action(Command::NewCard).isEnabled());
+    everything.reject();
     another.reject();
     refresh();
     EXPECT_TRUE(mainMenu.action(Command::NewCard).isEnabled());

@@ -59,6 +59,18 @@ TEST_F(SettingsWindowTest, WithAMenuBarItIsOnTheScreenFromTheFirstTimeOn)
     EXPECT_LE(window.geometry().bottom(), screen.bottom());
 }
 
+TEST_F(SettingsWindowTest, MinimisedWithASlideShowItComesBackWithoutAQuestionThatIsBelowIt)
+{
+    open();
+    QMessageBox question(&window);
+    question.setWindowModality(Qt::WindowModal);
+    question.open();
+    window.setWindowState(Qt::WindowMinimized);
+    fake.windowSystem.minimisedWithFullScreen.notify(window.winId());
+    EXPECT_TRUE(window.isVisible() && !window.isMinimized());
+    EXPECT_FALSE(question.isVisible());
+}
+
 TEST_F(SettingsWindowTest, EscapeAndCtrlWPutItAwayAndOpeningBringsItBackAsItWas)
 {
     open();

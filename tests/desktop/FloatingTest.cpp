@@ -101,6 +101,22 @@ TEST(DesktopFloating, ASlideShowThatIsMinimisedOrEndsLeavesThePanelWhereItWas)
     }
 }
 
+TEST(DesktopFloating, ASlideShowThatIsMinimisedLeavesTheKeyboardToWhatWasBelowIt)
+{
+    const Home home;
+    const RunningPanel panel(home);
+    panel.press("ctrl+comma");
+    EXPECT_TRUE(panel.shows("Cuebright Settings"));
+    const OtherWindow other;
+    const OtherWindow slides(Desktop::Size::FullScreen);
+    ASSERT_TRUE(isLifted(panel));
+    desktop().minimise(slides.id());
+    EXPECT_TRUE(isLifted(panel, false));
+    EXPECT_TRUE(panel.reaches("the other window", [&] { return other.hasKeyboard(); }));
+    EXPECT_FALSE(waitUntil([&] { return !other.hasKeyboard(); }, std::chrono::milliseconds(500)));
+    EXPECT_TRUE(panel.isOnScreen());
+}
+
 TEST(DesktopFloating, ClickingTakesTheKeyboardAndDraggingMovesOnce)
 {
     const Home home;

@@ -224,6 +224,22 @@ TEST_F(HyprlandCaptureExclusionTest, AWindowThatComesAfterTheRuleIsAskedTooOnce)
             "j/version", kSecond, "j/clients", "j/clients", kQuestion, "j/version", kSecond, "j/clients", kQuestion}));
 }
 
+TEST_F(HyprlandCaptureExclusionTest, AWindowThatComesWhileTheWindowsAreLookedUpIsNotMissed)
+{
+    auto answers = answersOf("0.53.0");
+    answers.erase("j/clients");
+    start(answers);
+    auto peer = accept(events);
+    EXPECT_TRUE(waitUntil([&] { return compositor.requests.size() == 3; }));
+    say(peer, "openwindow>>ab,1,Cuebright,Cuebright\n");
+    processEvents();
+    compositor.answers = answersOf("0.53.0");
+    say(compositor.waiting.back(), "[]"); // as it was before
+    ::shutdown(compositor.waiting.back().get(), SHUT_WR);
+    EXPECT_TRUE(reaches(State::Blackout));
+    EXPECT_EQ(compositor.requests.back(), kQuestion);
+}
+
 TEST_F(HyprlandCaptureExclusionTest, NothingIsClaimedWhereACompositorCannotBeReachedOrHeard)
 {
     std::filesystem::remove(folder.file(".socket.sock"));

@@ -22,6 +22,7 @@ HyprlandCaptureExclusion::HyprlandCaptureExclusion(std::unique_ptr<HyprlandIpc> 
     , m_mainQueue(mainQueue)
     , m_reloadSubscription(m_ipc->configReloaded.subscribe([this] { sendRuleAnew(); }))
     , m_windowSubscription(m_ipc->windowOpened.subscribe([this] {
+        m_hasNewWindow = true;
         if (m_isUnverified)
             lookUpWindows();
     }))
@@ -43,8 +44,7 @@ void HyprlandCaptureExclusion::sendRuleAnew()
 {
     m_isUnverified = false;
     m_ipc->abandonRequests();
-    m_deadline.cancel();
-    m_deadline = m_mainQueue.after(kPatience, m_self.guard([this] { giveUp(); }));
+    startPatience();
     request("j/version", [this](const std::string& reply) {
         const auto version = hyprlandVersion(reply);
         if (!version)
@@ -79,13 +79,24 @@ void HyprlandCaptureExclusion::sendRule(HyprlandVersion version, HyprlandLanguag
     });
 }
 
+void HyprlandCaptureExclusion::startPatience()
+{
+    m_deadline.cancel();
+    m_deadline = m_mainQueue.after(kPatience, m_self.guard([this] { giveUp(); }));
+}
+
 void HyprlandCaptureExclusion::lookUpWindows()
 {
+    startPatience();
+    m_isUnverified = false;
+    m_hasNewWindow = false;
     request("j/clients", [this](const std::string& reply) {
         auto addresses = hyprlandWindows(reply, ::getpid());
         if (!addresses)
             return giveUp();
         m_isUnverified = addresses->empty();
+        if (m_isUnverified && m_hasNewWindow) // since it was asked
+            return lookUpWindows();
         verify(std::move(*addresses));
     });
 }

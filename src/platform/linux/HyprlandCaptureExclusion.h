@@ -35,6 +35,7 @@ private:
     void sendRuleAnew();
     void learnLanguage(HyprlandVersion version);
     void sendRule(HyprlandVersion version, HyprlandLanguage language);
+    void startPatience();
     void lookUpWindows();
     void verify(std::vector<std::string> addresses);
     void request(const std::string& text, std::function<void(const std::string&)> answered);
@@ -48,6 +49,7 @@ private:
     bool m_isSettled = false;
     bool m_isLost = false;
     bool m_isUnverified = false; ///< the rule was accepted while there was no window to ask
+    bool m_hasNewWindow = false; ///< since the windows were last looked up
     PendingTask m_deadline;
     WeakTarget m_self;
     Subscription m_reloadSubscription;

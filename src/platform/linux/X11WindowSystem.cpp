@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace cuebright {
@@ -21,6 +22,7 @@ X11WindowSystem::X11WindowSystem(const X11Connection& x11, MainQueue& mainQueue)
     , m_stateAtom(x11.atom("_NET_WM_STATE"))
     , m_aboveAtom(x11.atom("_NET_WM_STATE_ABOVE"))
     , m_fullScreenAtom(x11.atom("_NET_WM_STATE_FULLSCREEN"))
+    , m_userTimeAtom(x11.atom("_NET_WM_USER_TIME"))
     , m_blurAtom(x11.atom("_KDE_NET_WM_BLUR_BEHIND_REGION"))
     , m_managedAtom(x11.atom("WM_STATE"))
 {
@@ -31,6 +33,9 @@ X11WindowSystem::X11WindowSystem(const X11Connection& x11, MainQueue& mainQueue)
 void X11WindowSystem::keepAboveFullScreen(WindowId window)
 {
     m_windows.insert(static_cast<xcb_window_t>(window));
+    // The toolkit maps a minimised window as soon as it is to be so no longer (Qt 6.4), and says that this is not the
+    // user's doing only when the window shows.
+    m_x11.setProperty(static_cast<xcb_window_t>(window), m_userTimeAtom, XCB_ATOM_CARDINAL, {0});
     followActiveWindow();
     lift(static_cast<xcb_window_t>(window));
 }
@@ -130,12 +135,16 @@ bool X11WindowSystem::isMinimised(xcb_window_t window) const
 /// Window managers minimise a window with what is transient for it, in either order.
 void X11WindowSystem::examineUnmapped(xcb_window_t window)
 {
-    const auto below = m_fullScreenWindow != XCB_WINDOW_NONE ? m_fullScreenWindow : m_formerFullScreenWindow;
-    if (below == XCB_WINDOW_NONE)
+    constexpr std::array<xcb_window_t, 2> kNone {XCB_WINDOW_NONE, XCB_WINDOW_NONE};
+    const std::array below {m_fullScreenWindow, m_formerFullScreenWindow}; // one may have been under the other
+    if (below == kNone)
         return;
     m_mainQueue.after(kMoment, m_weakTarget.guard([this, window, below] {
-        if (m_windows.contains(window) && isMinimised(window) && isMinimised(below))
-            minimisedWithFullScreen.notify(window);
+        const bool fellTogether = std::ranges::any_of(below, [this](auto other) { return isMinimised(other); });
+        if (!m_windows.contains(window) || !isMinimised(window) || !fellTogether)
+            return;
+        m_formerFullScreenWindow = XCB_WINDOW_NONE; // should it be minimised again, then for its own sake
+        minimisedWithFullScreen.notify(window);
     }));
 }
 

@@ -41,6 +41,7 @@ private:
     const xcb_atom_t m_stateAtom;
     const xcb_atom_t m_aboveAtom;
     const xcb_atom_t m_fullScreenAtom;
+    const xcb_atom_t m_userTimeAtom;
     const xcb_atom_t m_blurAtom;
     const xcb_atom_t m_managedAtom;
     std::set<xcb_window_t> m_windows; ///< that are kept above

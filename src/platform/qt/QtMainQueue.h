@@ -8,7 +8,7 @@ class QTimer;
 
 namespace cuebright {
 
-/// Qt's event loop of the thread that makes it. Times are kept to the millisecond.
+/// Qt's event loop of the main thread. Times are kept to the millisecond.
 ///
 /// What still waits when the queue goes away never runs; handles may outlive it.
 class QtMainQueue final : public MainQueue {
