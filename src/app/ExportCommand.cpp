@@ -9,6 +9,9 @@
 #include <QApplication>
 #include <QFileInfo>
 
+#include <filesystem>
+#include <system_error>
+
 namespace cuebright {
 
 namespace {
@@ -68,6 +71,9 @@ void ExportCommand::write(const QString& file, const std::string& text)
             target.filesystemFilePath(), text, FileSystem::Readers::AsUsual))
         return m_context.store.showFeedback("Export failed — check file permissions");
     m_context.store.showFeedback("Exported to " + toUtf8(target.fileName()));
+    std::error_code error;
+    if (std::filesystem::equivalent(target.filesystemFilePath(), m_context.store.stateURL(), error))
+        m_context.store.scheduleSave(); // or all decks would be gone at the next start
 }
 
 } // namespace cuebright

@@ -159,7 +159,8 @@ void PanelController::endAbsence()
         m_context.notifications.post(kReturnAfterAbsenceNotification);
 }
 
-/// The plain arrow keys; and ⌘⇧S, which comes by here only where the system has not taken it for us.
+/// The plain arrow keys; and ⌘⇧S, which comes by here only where the system has not taken it for us. Once the panel is
+/// on its way off the screen, it takes no key any more: the user is with another program already.
 void PanelController::installArrowKeyMonitor()
 {
     m_arrowKeyMonitor =
@@ -172,7 +173,7 @@ KeyMonitor::Action PanelController::actionFor(const QKeyEvent& event)
     if (isTogglePanelKey(stroke) && !event.isAutoRepeat())
         return [this] { togglePanel(); };
     if (!isPanelVisible())
-        return {};
+        return [] {};
     const auto action = arrowKeyAction(stroke, m_context.store.isEditing());
     if (!action)
         return {};

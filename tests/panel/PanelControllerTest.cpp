@@ -5,7 +5,7 @@
 #include "panel/PanelFixture.h"
 #include "support/EventLoop.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QMessageBox>
 #include <QScreen>
 #include <QTest>
@@ -38,6 +38,22 @@ protected:
 private:
     std::unique_ptr<PanelController> m_controller;
 };
+
+TEST_F(PanelControllerTest, OnItsWayOffTheScreenThePanelTakesNoKeys)
+{
+    setCards({"one", "two"});
+    controller().showPanel();
+    activate(panel());
+    fake.accessibility.motionReduced = false;
+    controller().hidePanel();
+    ASSERT_TRUE(panel().isVisible());
+    for (const auto& [key, modifiers] : {std::pair(Qt::Key_E, Qt::ControlModifier), {Qt::Key_D, Qt::ControlModifier},
+             {Qt::Key_Right, Qt::NoModifier}, {Qt::Key_Right, Qt::ControlModifier}})
+        QTest::keyClick(panel().windowHandle(), key, modifiers);
+    EXPECT_FALSE(store.isEditing());
+    EXPECT_EQ(store.activeCardIndex(), 0);
+    EXPECT_FALSE(QApplication::activeModalWidget());
+}
 
 TEST_F(PanelControllerTest, ShowingAfterMoreThanAMinuteTellsOfTheReturn)
 {
