@@ -115,7 +115,7 @@ void CardArea::contextMenuEvent(QContextMenuEvent* event)
     menu->addSeparator();
     const auto remove = menu->addAction(
         QStringLiteral("Delete Card"), this, [this] { m_context.notifications.post(kDeleteCardNotification); });
-    remove->setEnabled(store.canDeleteCard());
+    remove->setEnabled(store.cardCount() >= 2);
     menu->popup(
         event->reason() == QContextMenuEvent::Mouse ? event->globalPos() : viewport()->mapToGlobal(QPoint(0, 0)));
 }

@@ -149,7 +149,7 @@ void NotesPanel::perform(const PanelKeyAction& action)
     case PanelCommand::Swallow:
         return;
     case PanelCommand::AskToDeleteCard:
-        if (store.canDeleteCard())
+        if (store.cardCount() >= 2)
             m_context.notifications.post(kDeleteCardNotification);
         return;
     case PanelCommand::Undo:
