@@ -1,12 +1,12 @@
 #include "platform/qt/QtFileSystem.h"
 
+#include "platform/qt/ApplicationSupport.h"
 #include "platform/qt/FileSync.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
-#include <QStandardPaths>
 
 #include <exception>
 #include <system_error>
@@ -54,14 +54,7 @@ FileError lastError(const QSaveFile& file) { return {file.errorString().simplifi
 
 } // namespace
 
-std::optional<std::filesystem::path> QtFileSystem::applicationSupportDirectory()
-{
-    // The one above the application's own; what Qt calls generic is another one on Windows.
-    const auto own = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
-    if (own.isEmpty())
-        return std::nullopt;
-    return QFileInfo(QFileInfo(own).path()).filesystemFilePath();
-}
+std::optional<std::filesystem::path> QtFileSystem::applicationSupportDirectory() { return applicationSupportFolder(); }
 
 bool QtFileSystem::createDirectories(const std::filesystem::path& directory)
 {
