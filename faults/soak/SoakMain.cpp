@@ -22,7 +22,7 @@ namespace {
 constexpr std::size_t kRemembered = 20;
 constexpr int kWarmUp = 100'000; ///< steps of a run whose first fifth meets all fonts; not for sanitizers, which hoard
 constexpr int kSamples = 20;
-constexpr std::size_t kBreath = 5 * 1024; ///< KiB: cards and histories of one moment and of another
+constexpr std::size_t kBreath = 5120; ///< KiB: cards and histories of one moment and of another
 
 /// In KiB. Neither what the allocator has back and keeps for later nor what is read from files as it is used, code and
 /// libraries, is growth.

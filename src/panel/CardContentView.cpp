@@ -160,10 +160,11 @@ void CardContentView::refresh()
     m_footer->refresh();
     if (isEditing && !m_editor)
         makeEditView();
-    if (m_editor)
+    if (m_editor) {
         m_editor->refresh();
-    if (isEditing && std::exchange(m_editBegins, false))
-        m_editor->open();
+        if (isEditing && std::exchange(m_editBegins, false))
+            m_editor->open();
+    }
     const auto content = std::exchange(m_cardContent, CardArea::Content::Same);
     const auto cardAnimation = std::exchange(m_cardAnimation, std::nullopt);
     const bool staysWithTheCard = !m_showsEditor && !isEditing;

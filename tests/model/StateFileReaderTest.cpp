@@ -153,7 +153,11 @@ TEST(StateFileReader, ACardIndexIsAnyNumberThatIsExactlyA64BitInteger)
 
 TEST(StateFileReader, OfDuplicateMembersTheFirstCountsHoweverItsNameIsSpelt)
 {
-    const auto with = [](std::size_t place, const char* member) { return object(kState).insert(place, member); };
+    const auto with = [](std::size_t place, const char* member) {
+        auto text = object(kState);
+        text.insert(place, member);
+        return text;
+    };
     const auto end = object(kState).size() - 1;
     const auto state = decodeState(with(end, R"(,"activeCardIndex":"7","decks":null,"opacity":[])"));
     ASSERT_TRUE(state);

@@ -10,7 +10,7 @@ std::string datesOf(const std::vector<Deck>& decks, Instant start)
     std::string text;
     const auto add = [&](const auto& item) {
         for (const auto date : {item.createdAt, item.updatedAt})
-            text += date < start ? "-" : std::to_string((date - start) / 1s);
+            text += date < start ? "-" : std::to_string((date - start) / std::chrono::seconds(1));
     };
     for (const auto& deck : decks) {
         add(deck);
@@ -45,7 +45,7 @@ TEST_F(CardStoreDates, OnlyWhatChangesIsDatedAndWhatIsNewHasOneDate)
         {"Talk*[a*] Demo[b] editing 'typed'", {openDemo}, "--[-- ]--[-- ]"},
         {"Talk*[a*] Demo[b]", {rename, openDemo, undo}, "-0[-- ]-1[-- ]"},
     };
-    surroundings.clock.stepPerRead = 1s;
+    surroundings.clock.stepPerRead = std::chrono::seconds(1);
     for (const auto& [before, steps, dates] : cases) {
         open(before);
         const auto start = surroundings.clock.wallClock;
