@@ -87,10 +87,12 @@ void ChromeButton::setFrameWidth(int width)
 
 void ChromeButton::setSymbol(Icon icon, Ink ink, const QString& name)
 {
-    m_symbol->icon = icon;
-    m_symbol->ink = ink;
     if (name != accessibleName())
         setName(name);
+    if (m_symbol->icon == icon && m_symbol->ink == ink)
+        return; // a tick of the timer draws its digits only
+    m_symbol->icon = icon;
+    m_symbol->ink = ink;
     update();
 }
 
