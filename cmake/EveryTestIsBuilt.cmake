@@ -13,7 +13,7 @@ function(cuebright_check_every_test_is_built)
         endif()
     endforeach()
 
-    set(needs_app "^(platform|panel|app|desktop)/")
+    set(needs_app "^(platform|ui|app|desktop)/")
     set(root "${CMAKE_CURRENT_FUNCTION_LIST_DIR}/../tests")
     get_filename_component(root "${root}" ABSOLUTE)
     file(GLOB_RECURSE files RELATIVE "${root}" "${root}/*Test.cpp")

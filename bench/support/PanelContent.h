@@ -1,9 +1,9 @@
 #pragma once
 
 #include "foundation/NotificationCenter.h"
-#include "panel/CardContentView.h"
 #include "platform/qt/QtPlatform.h"
 #include "store/CardStore.h"
+#include "ui/panel/CardContentView.h"
 
 #include <QTemporaryDir>
 

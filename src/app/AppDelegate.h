@@ -1,9 +1,9 @@
 #pragma once
 
-#include "app/Command.h"
 #include "foundation/NotificationCenter.h"
-#include "panel/PanelContext.h"
 #include "store/CardStore.h"
+#include "ui/base/PanelContext.h"
+#include "ui/menu/Command.h"
 
 #include <QPointer>
 

@@ -1,17 +1,17 @@
 #include "app/AppDelegate.h"
 
-#include "app/AboutWindow.h"
-#include "app/EditCommands.h"
-#include "app/ExportCommand.h"
-#include "app/MainMenu.h"
-#include "app/Product.h"
-#include "app/SettingsWindow.h"
-#include "panel/LinkOpener.h"
-#include "panel/NotesPanel.h"
-#include "panel/OpenSheets.h"
-#include "panel/PanelController.h"
 #include "platform/RemoteRequest.h"
-#include "platform/qt/WindowActivation.h"
+#include "platform/system/WindowActivation.h"
+#include "ui/base/LinkOpener.h"
+#include "ui/base/OpenSheets.h"
+#include "ui/menu/EditCommands.h"
+#include "ui/menu/ExportCommand.h"
+#include "ui/menu/MainMenu.h"
+#include "ui/panel/NotesPanel.h"
+#include "ui/panel/PanelController.h"
+#include "ui/settings/AboutWindow.h"
+#include "ui/settings/Product.h"
+#include "ui/settings/SettingsWindow.h"
 
 #include <QApplication>
 #include <QMessageBox>

@@ -2,9 +2,9 @@
 #include "app/ExitSave.h"
 #include "app/FirstFrame.h"
 #include "app/QuitEvents.h"
-#include "platform/qt/OneInstance.h"
-#include "platform/qt/ProcessSetup.h"
 #include "platform/qt/QtPlatform.h"
+#include "platform/system/OneInstance.h"
+#include "platform/system/ProcessSetup.h"
 
 #include <QApplication>
 

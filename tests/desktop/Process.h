@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/TemporaryFolder.h"
+#include "support/TemporaryFolder.h"
 
 #include <chrono>
 #include <csignal>

@@ -1,6 +1,6 @@
 #include "support/FakeKWin.h"
 
-#include "platform/TemporaryFolder.h"
+#include "support/TemporaryFolder.h"
 
 #include <QDBusError>
 #include <QDBusPendingCall>

@@ -1,5 +1,5 @@
-#include "platform/qt/FileSync.h"
-#include "platform/linux/FileDescriptor.h"
+#include "platform/system/FileSync.h"
+#include "platform/linux/base/FileDescriptor.h"
 
 #include <cerrno>
 #include <system_error>

@@ -1,6 +1,6 @@
 #include "platform/linux/LinuxAccessibility.h"
 
-#include "platform/linux/SettingsPortal.h"
+#include "platform/linux/portal/SettingsPortal.h"
 
 #include <utility>
 

@@ -3,7 +3,7 @@
 #include "foundation/WeakTarget.h"
 #include "platform/Accessibility.h"
 #include "platform/MainQueue.h"
-#include "platform/linux/DesktopSettings.h"
+#include "platform/linux/portal/DesktopSettings.h"
 
 #include <functional>
 #include <memory>

@@ -1,8 +1,8 @@
-#include "platform/qt/ProcessSetup.h"
+#include "platform/system/ProcessSetup.h"
 
 #include "platform/linux/FontWarmUp.h"
-#include "platform/linux/Session.h"
 #include "platform/linux/TerminationSignals.h"
+#include "platform/linux/base/Session.h"
 
 #include <QtGlobal>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "foundation/Signal.h"
-#include "platform/linux/FileDescriptor.h"
+#include "platform/linux/base/FileDescriptor.h"
 
 #include <QSocketNotifier>
 

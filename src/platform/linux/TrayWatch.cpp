@@ -1,6 +1,6 @@
-#include "platform/qt/TrayWatch.h"
+#include "platform/system/TrayWatch.h"
 
-#include "platform/linux/X11Connection.h"
+#include "platform/linux/x11/X11Connection.h"
 
 #include <QAbstractNativeEventFilter>
 #include <QCoreApplication>

@@ -1,7 +1,7 @@
-#include "platform/qt/WindowActivation.h"
+#include "platform/system/WindowActivation.h"
 
-#include "platform/linux/StartupNotification.h"
-#include "platform/linux/X11Connection.h"
+#include "platform/linux/x11/StartupNotification.h"
+#include "platform/linux/x11/X11Connection.h"
 
 #include <QByteArray>
 #include <QWidget>

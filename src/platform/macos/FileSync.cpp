@@ -1,4 +1,4 @@
-#include "platform/qt/FileSync.h"
+#include "platform/system/FileSync.h"
 
 #include <cerrno>
 #include <system_error>

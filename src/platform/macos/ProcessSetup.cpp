@@ -1,4 +1,4 @@
-#include "platform/qt/ProcessSetup.h"
+#include "platform/system/ProcessSetup.h"
 
 #include "platform/macos/TerminationSignals.h"
 

@@ -6,7 +6,7 @@
 #include "platform/macos/MacWindowSystem.h"
 #include "platform/qt/QtAppearance.h"
 #include "platform/qt/QtTopLevelWatch.h"
-#include "platform/qt/SystemServices.h"
+#include "platform/system/SystemServices.h"
 
 namespace cuebright {
 

@@ -1,12 +1,12 @@
-#include "platform/qt/SystemServices.h"
+#include "platform/system/SystemServices.h"
 
-#include "platform/qt/FileSync.h"
+#include "platform/system/FileSync.h"
 
 #include "platform/Clock.h"
-#include "platform/none/NoAccessibility.h"
-#include "platform/none/NoCaptureExclusion.h"
-#include "platform/none/NoHotKeys.h"
-#include "platform/none/NoWindowSystem.h"
+#include "platform/fallback/NoAccessibility.h"
+#include "platform/fallback/NoCaptureExclusion.h"
+#include "platform/fallback/NoHotKeys.h"
+#include "platform/fallback/NoWindowSystem.h"
 
 #include <chrono>
 

@@ -1,7 +1,7 @@
 #include "platform/qt/ApplicationPalette.h"
 
+#include "platform/qt/QtColors.h"
 #include "theme/Palette.h"
-#include "theme/QtColors.h"
 
 namespace cuebright {
 

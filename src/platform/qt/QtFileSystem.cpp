@@ -1,7 +1,7 @@
 #include "platform/qt/QtFileSystem.h"
 
-#include "platform/qt/ApplicationSupport.h"
-#include "platform/qt/FileSync.h"
+#include "platform/system/ApplicationSupport.h"
+#include "platform/system/FileSync.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,6 +1,6 @@
 #include "platform/qt/QtPlatform.h"
 
-#include "platform/qt/SystemServices.h"
+#include "platform/system/SystemServices.h"
 
 #include <QFileInfo>
 #include <QStandardPaths>

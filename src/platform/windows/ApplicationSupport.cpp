@@ -1,4 +1,4 @@
-#include "platform/qt/ApplicationSupport.h"
+#include "platform/system/ApplicationSupport.h"
 
 #include "platform/windows/Win32.h"
 

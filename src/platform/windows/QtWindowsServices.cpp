@@ -1,14 +1,14 @@
-#include "platform/none/NoWindowSystem.h"
+#include "platform/fallback/NoWindowSystem.h"
 #include "platform/qt/QtAppearance.h"
 #include "platform/qt/QtTopLevelWatch.h"
-#include "platform/qt/SystemServices.h"
+#include "platform/system/SystemServices.h"
 #include "platform/windows/MessageWindow.h"
 #include "platform/windows/Personalization.h"
 #include "platform/windows/Win32DisplayAffinity.h"
 #include "platform/windows/WindowsAccessibility.h"
-#include "platform/windows/WindowsCaptureExclusion.h"
 #include "platform/windows/WindowsClock.h"
 #include "platform/windows/WindowsHotKeys.h"
+#include "platform/windows/capture/WindowsCaptureExclusion.h"
 
 namespace cuebright {
 

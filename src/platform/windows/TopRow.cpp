@@ -1,4 +1,4 @@
-#include "platform/qt/TopRow.h"
+#include "platform/system/TopRow.h"
 
 namespace cuebright {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/windows/DisplayAffinity.h"
+#include "platform/windows/capture/DisplayAffinity.h"
 
 namespace cuebright {
 

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "platform/linux/base/FileDescriptor.h"
+
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string_view>
+
+class QSocketNotifier;
+
+namespace cuebright {
+
+/// A connection to a Unix socket that never waits, and that is closed as soon as the other side has finished.
+class UnixConnection final {
+public:
+    enum class End { Complete, Broken };
+
+    /// Not open where nobody listens, or where listening is all they do.
+    explicit UnixConnection(const std::filesystem::path& socket);
+    ~UnixConnection();
+    UnixConnection(const UnixConnection&) = delete;
+    UnixConnection& operator=(const UnixConnection&) = delete;
+
+    [[nodiscard]] bool isOpen() const { return m_descriptor.has_value(); }
+    /// All of it at once, or false. Meant for a line.
+    [[nodiscard]] bool write(std::string_view text);
+
+    // Called from the event loop; neither may destroy this.
+    std::function<void(std::string_view)> received;
+    std::function<void(End)> ended;
+
+private:
+    void readAll();
+    void close();
+
+    std::optional<FileDescriptor> m_descriptor;
+    std::unique_ptr<QSocketNotifier> m_notifier;
+};
+
+} // namespace cuebright

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "ui/base/PanelContext.h"
+
+#include <QWidget>
+
+namespace cuebright {
+
+class TextViewManager;
+
+/// One row of buttons that format the text being edited.
+class MarkdownToolbar final : public QWidget {
+public:
+    /// `manager` must outlive this.
+    MarkdownToolbar(const PanelContext& context, TextViewManager& manager, QWidget* parent);
+};
+
+} // namespace cuebright

@@ -1,0 +1,90 @@
+#include "ui/menu/Command.h"
+
+#include "store/CardStore.h"
+
+namespace cuebright {
+
+namespace {
+
+/// Null where the command chooses none.
+const char* themeOf(Command command)
+{
+    switch (command) {
+    case Command::SetThemeSystem:
+        return "system";
+    case Command::SetThemeLight:
+        return "light";
+    case Command::SetThemeDark:
+        return "dark";
+    default:
+        return nullptr;
+    }
+}
+
+} // namespace
+
+bool isCommandEnabled(Command command, const CardStore& store)
+{
+    switch (command) {
+    case Command::SaveCard:
+    case Command::CancelEdit:
+        return store.isEditing();
+    case Command::DeleteCard:
+        return store.canDeleteCard();
+    case Command::DeleteDeck:
+        return store.canDeleteDeck();
+    case Command::MoveCardUp:
+        return store.canMoveCardUp();
+    case Command::MoveCardDown:
+        return store.canMoveCardDown();
+    default:
+        return true;
+    }
+}
+
+bool isCommandCheckable(Command command) { return themeOf(command); }
+
+bool isCommandChecked(Command command, const CardStore& store)
+{
+    const auto* const theme = themeOf(command);
+    return theme && store.theme() == theme;
+}
+
+bool isCardCommand(Command command)
+{
+    switch (command) {
+    case Command::NewCard:
+    case Command::DeleteCard:
+    case Command::NewDeck:
+    case Command::DeleteDeck:
+    case Command::RenameDeck:
+    case Command::ExportDeck:
+    case Command::SaveCard:
+    case Command::CancelEdit:
+    case Command::MoveCardUp:
+    case Command::MoveCardDown:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool isCommandRepeatable(Command command)
+{
+    switch (command) {
+    case Command::Undo:
+    case Command::Redo:
+    case Command::Paste:
+    case Command::IncreaseTextSize:
+    case Command::DecreaseTextSize:
+    case Command::IncreaseOpacity:
+    case Command::DecreaseOpacity:
+    case Command::MoveCardUp:
+    case Command::MoveCardDown:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace cuebright

@@ -1,0 +1,79 @@
+#include "ui/menu/ExportCommand.h"
+
+#include "platform/FileSystem.h"
+#include "platform/qt/TextConversion.h"
+#include "store/CardStore.h"
+#include "ui/menu/ExportDialog.h"
+#include "ui/menu/SafeFileName.h"
+
+#include <QApplication>
+#include <QFileInfo>
+
+#include <filesystem>
+#include <system_error>
+
+namespace cuebright {
+
+namespace {
+
+/// A window that a sheet can belong to: no menu, no tooltip, no icon in a tray.
+bool canHaveSheets(const QWidget* window)
+{
+    const auto type = window->windowType();
+    return window->isVisible() && !window->isMinimized() && (type == Qt::Window || type == Qt::Dialog)
+        && !window->windowFlags().testFlag(Qt::BypassWindowManagerHint);
+}
+
+void bringToFront(QWidget& window)
+{
+    window.raise();
+    window.activateWindow();
+}
+
+} // namespace
+
+ExportCommand::ExportCommand(const PanelContext& context, QWidget& panel)
+    : m_context(context)
+    , m_panel(panel)
+{
+}
+
+ExportCommand::~ExportCommand() { delete m_dialog; }
+
+void ExportCommand::exportDeck()
+{
+    if (m_dialog)
+        return bringToFront(*m_dialog);
+    const auto active = QApplication::activeWindow();
+    const auto parent = active && canHaveSheets(active) ? active : &m_panel;
+    if (canHaveSheets(parent) && !parent->isActiveWindow())
+        bringToFront(*parent);
+    auto text = m_context.store.exportDeckAsMarkdown();
+    ask(canHaveSheets(parent) ? parent : nullptr);
+    QObject::connect(m_dialog, &QFileDialog::fileSelected, m_dialog,
+        [this, text = std::move(text)](const QString& file) { write(file, text); });
+}
+
+void ExportCommand::ask(QWidget* parent)
+{
+    m_dialog = new ExportDialog(toQString(safeFileName(m_context.store.deckName()) + ".md"), parent);
+    m_dialog->setAttribute(Qt::WA_DeleteOnClose);
+    m_dialog->setWindowModality(parent ? Qt::WindowModal : Qt::ApplicationModal);
+    m_dialog->show();
+}
+
+void ExportCommand::write(const QString& file, const std::string& text)
+{
+    if (file.isEmpty())
+        return;
+    const QFileInfo target(file);
+    if (m_context.platform.fileSystem.writeFileAtomically(
+            target.filesystemFilePath(), text, FileSystem::Readers::AsUsual))
+        return m_context.store.showFeedback("Export failed — check file permissions");
+    m_context.store.showFeedback("Exported to " + toUtf8(target.fileName()));
+    std::error_code error;
+    if (std::filesystem::equivalent(target.filesystemFilePath(), m_context.store.stateURL(), error))
+        m_context.store.scheduleSave(); // or all decks would be gone at the next start
+}
+
+} // namespace cuebright

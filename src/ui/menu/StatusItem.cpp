@@ -1,0 +1,125 @@
+#include "ui/menu/StatusItem.h"
+
+#include "platform/qt/TextConversion.h"
+#include "platform/system/TrayWatch.h"
+#include "store/CardStore.h"
+#include "ui/base/OpenSheets.h"
+#include "ui/editor/MarkdownEditor.h"
+#include "ui/panel/NotesPanel.h"
+#include "ui/panel/PanelController.h"
+#include "ui/widgets/ApplicationIcon.h"
+
+#include <QAction>
+#include <QSystemTrayIcon>
+
+#include <utility>
+
+namespace cuebright {
+
+namespace {
+
+constexpr QSize kIconSize {18, 18};
+
+/// The application's icon in the one size, in its own colours.
+QIcon statusIcon()
+{
+    const auto icon = applicationIcon();
+    QIcon small;
+    for (const double scale : {1.0, 2.0, 3.0})
+        small.addPixmap(icon.pixmap(kIconSize, scale));
+    small.setIsMask(false);
+    return small;
+}
+
+/// Shown with the item, but taken by the main menu.
+void showKey(QAction& action, const QKeySequence& key)
+{
+    action.setShortcut(key);
+    action.setShortcutContext(Qt::WidgetShortcut);
+}
+
+} // namespace
+
+StatusItem::StatusItem(const PanelContext& context, PanelController& panelController, std::function<void()> quit)
+    : m_context(context)
+    , m_panelController(panelController)
+    , m_quit(std::move(quit))
+    , m_trayWatch(watchForTray([this] { appear(); }))
+    , m_refresh(context.platform.mainQueue, [this] { rebuildStatusMenu(); })
+{
+    rebuildStatusMenu();
+    QObject::connect(&m_menu, &QMenu::aboutToShow, &m_menu, [this] { rebuildStatusMenu(); });
+    // Not every desktop tells when it opens the menu.
+    m_storeSubscription = context.store.willChange.subscribe([this](const Change&) { m_refresh.request(); });
+    m_panelSubscription = panelController.panelWindow().isOnScreenChanged.subscribe([this] { m_refresh.request(); });
+}
+
+StatusItem::~StatusItem() = default;
+
+void StatusItem::appear()
+{
+    m_trayWatch.reset(); // from here on the toolkit follows status areas that come and go
+    m_icon = std::make_unique<QSystemTrayIcon>(statusIcon());
+    m_icon->setToolTip(QStringLiteral("Cuebright"));
+    m_icon->setContextMenu(&m_menu);
+    m_shown.clear(); // the desktop may draw the menu now, and reads titles in its own way
+    rebuildStatusMenu();
+    QObject::connect(m_icon.get(), &QSystemTrayIcon::activated, m_icon.get(), [this](auto reason) {
+        if (reason == QSystemTrayIcon::Trigger)
+            m_panelController.togglePanel();
+    });
+    m_icon->show();
+}
+
+void StatusItem::rebuildStatusMenu()
+{
+    auto items = statusMenu(
+        m_context.store, m_panelController.isPanelVisible() ? PanelVisibility::Visible : PanelVisibility::Hidden);
+    if (items == m_shown)
+        return;
+    m_shown = std::move(items);
+    m_menu.clear();
+    for (const auto& item : m_shown)
+        addItem(item);
+}
+
+QString StatusItem::actionText(const std::string& title)
+{
+    return m_menu.platformMenu() ? exportedMenuText(toOneLine(toQString(title))) : toActionText(title);
+}
+
+void StatusItem::addItem(const StatusMenuItem& item)
+{
+    using Kind = StatusMenuItem::Kind;
+    const auto action = item.kind == Kind::Separator ? m_menu.addSeparator() : m_menu.addAction(actionText(item.title));
+    switch (item.kind) {
+    case Kind::TogglePanel:
+        showKey(*action, Qt::CTRL | Qt::SHIFT | Qt::Key_S);
+        QObject::connect(action, &QAction::triggered, &m_menu, [this] { m_panelController.togglePanel(); });
+        return;
+    case Kind::Deck:
+        action->setData(QVariant::fromValue<qlonglong>(item.deckIndex));
+        action->setCheckable(true);
+        action->setChecked(item.isChecked);
+        QObject::connect(action, &QAction::triggered, &m_menu, [this, action] { switchDeckFromMenu(*action); });
+        return;
+    case Kind::Quit:
+        showKey(*action, Qt::CTRL | Qt::Key_Q);
+        QObject::connect(action, &QAction::triggered, &m_menu, [this] { m_quit(); });
+        return;
+    case Kind::Separator:
+        return;
+    }
+}
+
+void StatusItem::switchDeckFromMenu(const QAction& item)
+{
+    const auto index = item.data().toLongLong();
+    MarkdownEditor::commitComposition(); // the switch ends an open edit
+    if (!isWaitingForAnswer(m_panelController.panelWindow()))
+        m_context.store.switchToDeck(index);
+    m_shown.clear(); // the toolkit has turned a check mark round by itself
+    m_refresh.request();
+}
+
+} // namespace cuebright

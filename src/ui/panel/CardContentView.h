@@ -1,0 +1,91 @@
+#pragma once
+
+#include "foundation/Signal.h"
+#include "markdown/Block.h"
+#include "markdown/BlockMetrics.h"
+#include "markdown/CardParser.h"
+#include "markdown/StyledText.h"
+#include "store/Change.h"
+#include "timer/TimerManager.h"
+#include "ui/base/OncePerTurn.h"
+#include "ui/base/PanelContext.h"
+#include "ui/card/CardArea.h"
+
+#include <QWidget>
+
+#include <optional>
+
+class QVBoxLayout;
+
+namespace cuebright {
+
+class FooterView;
+class HeaderView;
+class MarkdownEditor;
+class TextViewManager;
+
+/// The whole content of the panel: header, the card or its editor, a rule, footer. Follows the store, once per turn of
+/// the event loop however much has changed.
+class CardContentView final : public QWidget {
+public:
+    using Block = cuebright::Block;
+
+    explicit CardContentView(const PanelContext& context, QWidget* parent = nullptr);
+
+    /// The space left and right of the column in a panel of `width`, in logical pixels.
+    [[nodiscard]] static int columnPadding(int width);
+    [[nodiscard]] static std::vector<Block> parseMarkdown(std::string_view content)
+    {
+        return cuebright::parseMarkdown(content);
+    }
+    [[nodiscard]] static std::vector<StyledRun> renderInline(
+        std::string_view text, double fontSize, const Colors& colors)
+    {
+        return cuebright::renderInline(text, fontSize, colors);
+    }
+    [[nodiscard]] static double bottomPadding(const Block& block) { return cuebright::bottomPadding(block.kind); }
+
+    /// Gives the keyboard to the card, or to its editor while that is open.
+    void takeFocus();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void makeEditView();
+    void takeNotice(const Change& change);
+    void takeChangedLook();
+    void toggleOverwrite();
+    void refresh();
+    [[nodiscard]] QWidget& shownContent() const;
+    void fadeOutWhatIsShown(const Animation& animation);
+    void showEditor(bool isEditing);
+
+    const PanelContext& m_context;
+    TimerManager m_timerManager;
+    QVBoxLayout* m_column;
+    TextViewManager* m_editorManager;
+    HeaderView* m_header;
+    CardArea* m_cardArea;
+    QWidget* m_editView = nullptr; ///< made for the first edit, with what is in it
+    MarkdownEditor* m_editor = nullptr;
+    QWidget* m_rule;
+    FooterView* m_footer;
+    bool m_showsEditor = false;
+    // What the notices since the last refresh said:
+    CardArea::Content m_cardContent = CardArea::Content::Stale;
+    std::optional<Animation> m_cardAnimation;
+    std::optional<Animation> m_editAnimation;
+    bool m_editBegins = true; ///< even if another one ended in the same turn
+    OncePerTurn m_refresh;
+    Subscription m_storeSubscription;
+    Subscription m_appearanceSubscription;
+    Subscription m_accessibilitySubscription;
+    Subscription m_exclusionSubscription;
+    Subscription m_absenceSubscription;
+    Subscription m_overwriteSubscription;
+};
+
+} // namespace cuebright

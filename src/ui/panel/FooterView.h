@@ -1,0 +1,77 @@
+#pragma once
+
+#include "ui/animation/Presence.h"
+#include "ui/base/PanelContext.h"
+#include "ui/panel/FooterContent.h"
+#include "ui/widgets/Icon.h"
+
+#include <QWidget>
+
+#include <functional>
+#include <vector>
+
+namespace cuebright {
+
+class ChromeButton;
+class ErrorNotice;
+class PanelLabel;
+class TimerManager;
+class TimerView;
+
+/// The panel's last line: position, word count, timer, messages and the buttons.
+class FooterView final : public QWidget {
+public:
+    FooterView(const PanelContext& context, TimerManager& timer, QWidget* parent);
+
+    void refresh();
+
+    /// Called when the button that has the keyboard can do nothing any more.
+    std::function<void()> keyboardIsLeft;
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override { return {0, sizeHint().height()}; }
+
+protected:
+    bool event(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    /// An item that comes and goes, or moves as others do so.
+    struct Item {
+        QWidget* widget;
+        std::function<void(double)> setOpacity; ///< absent: it is always there
+        bool isPresent = false;
+        double opacity = 0;
+        double formerOpacity = 0;
+        double x = 0;
+        double formerX = 0;
+    };
+
+    ChromeButton* addTitle(const QString& text, const char* accessibleName, const char* hint);
+    ChromeButton* addArrow(Icon icon, const char* name, const char* hint);
+    [[nodiscard]] Item itemFor(PanelLabel* label) const;
+    [[nodiscard]] std::vector<ChromeButton*> shownButtons() const;
+    [[nodiscard]] FooterWidths wantedWidths() const;
+    void beginTransition();
+    void layOut();
+    void place(Item& item, const FooterPlaces::Place& target);
+    void placeButtons(int x);
+
+    const PanelContext& m_context;
+    FooterContent m_content;
+    PanelLabel* m_position;
+    Item m_wordCount;
+    Item m_timer;
+    ErrorNotice* m_errorNotice;
+    Item m_error;
+    PanelLabel* m_feedbackLabel;
+    Item m_feedback;
+    ChromeButton* m_edit;
+    ChromeButton* m_previous;
+    ChromeButton* m_next;
+    ChromeButton* m_cancel;
+    ChromeButton* m_done;
+    Presence m_transition; ///< from the former places and opacities to those of now
+};
+
+} // namespace cuebright

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "foundation/WeakTarget.h"
+#include "platform/MainQueue.h"
+#include "ui/base/PanelContext.h"
+
+#include <QWidget>
+
+namespace cuebright {
+
+class DeckPicker;
+class PanelLabel;
+
+/// The panel's first line: where the speaker is, and in which deck. For a moment after a pulse it says instead what the
+/// audience sees of the panel.
+class HeaderView final : public QWidget {
+public:
+    HeaderView(const PanelContext& context, QWidget* parent);
+
+    void refresh();
+
+    /// Shows the share badge for 1.0 s.
+    void pulse();
+
+    [[nodiscard]] DeckPicker& deckPicker() const { return *m_deckPicker; }
+
+private:
+    const PanelContext& m_context;
+    PanelLabel* m_eyebrow;
+    DeckPicker* m_deckPicker;
+    bool m_showReturnPulse = false;
+    PendingTask m_pulseEnd;
+    WeakTarget m_weakTarget;
+};
+
+} // namespace cuebright

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "foundation/Signal.h"
+#include "timer/TimerManager.h"
+#include "ui/base/Ink.h"
+#include "ui/base/OncePerTurn.h"
+#include "ui/base/PanelContext.h"
+
+#include <QMenu>
+#include <QWidget>
+
+#include <optional>
+#include <vector>
+
+namespace cuebright {
+
+/// A row of the timer's menu.
+struct TimerMenuItem {
+    enum class Choice { Stopwatch, Countdown, Reset };
+
+    Choice choice;
+    std::int64_t minutes = 0; ///< of the countdown
+    bool isChecked = false;
+};
+
+[[nodiscard]] std::vector<TimerMenuItem> timerMenuItems(const TimerManager& timer);
+[[nodiscard]] QString textOf(const TimerMenuItem& item);
+void choose(const TimerMenuItem& item, TimerManager& timer);
+
+/// The ink of the time.
+[[nodiscard]] Ink timerColor(TimerManager::Urgency urgency);
+/// The play button warns only at the very end.
+[[nodiscard]] Ink playButtonInk(TimerManager::Urgency urgency);
+/// What lies behind the time.
+[[nodiscard]] Color timerFill(TimerManager::Urgency urgency, const Colors& colors);
+
+class ChromeButton;
+class TimeButton;
+
+/// The talk timer: a button that starts and pauses it, and the time with a menu of durations. Repaints when what it
+/// shows changes.
+class TimerView final : public QWidget {
+public:
+    TimerView(const PanelContext& context, TimerManager& timer, QWidget* parent);
+
+    /// Takes in what has changed.
+    void refresh();
+
+private:
+    struct Shown {
+        std::string time;
+        TimerManager::Urgency urgency;
+        bool isRunning;
+
+        bool operator==(const Shown&) const = default;
+    };
+
+    void openMenu();
+
+    const PanelContext& m_context;
+    TimerManager& m_timer;
+    ChromeButton* m_play;
+    TimeButton* m_time;
+    QMenu m_menu;
+    std::optional<Shown> m_shown;
+    OncePerTurn m_refresh;
+    Subscription m_timerSubscription;
+};
+
+} // namespace cuebright

@@ -1,0 +1,89 @@
+#include "ui/settings/GeneralTab.h"
+
+#include "platform/qt/QtColors.h"
+#include "ui/base/Fonts.h"
+#include "ui/settings/SettingsSection.h"
+#include "ui/settings/ShortcutReference.h"
+#include "ui/settings/ShortcutRow.h"
+#include "ui/widgets/FocusRing.h"
+#include "ui/widgets/PanelLabel.h"
+#include "ui/widgets/SymbolIcon.h"
+
+#include <QMessageBox>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace cuebright {
+
+namespace {
+
+constexpr int kBelowDescription = 8;
+
+} // namespace
+
+GeneralTab::GeneralTab(const PanelContext& context, std::function<void()> reset, QWidget* parent)
+    : SettingsPage(QStringLiteral("General"), parent)
+    , m_context(context)
+    , m_reset(std::move(reset))
+{
+    setFocusPolicy(Qt::StrongFocus); // most of it is text, which only scrolling brings into view
+    new FocusRing(context, this, FocusRing::When::ReachedByTab);
+    addShortcuts();
+    addReset();
+}
+
+void GeneralTab::addShortcuts()
+{
+    for (const auto& section : shortcutReference()) {
+        const auto group = new SettingsSection(m_context, section.title, page());
+        for (const auto& row : section.rows)
+            group->add(new ShortcutRow(m_context, row, group));
+        column().addWidget(group);
+    }
+    if (const auto note = keySymbolNote()) {
+        const auto label =
+            new PanelLabel(m_context, systemFont(kSettingsNoteSize), Ink::Muted, PanelLabel::WhenNarrow::Wrap, page());
+        label->setText(*note);
+        column().addWidget(label);
+    }
+}
+
+void GeneralTab::addReset()
+{
+    const auto description =
+        new PanelLabel(m_context, systemFont(kSettingsTextSize), Ink::Text, PanelLabel::WhenNarrow::Wrap, page());
+    description->setText(QStringLiteral(
+        "Deletes all decks and cards, resets theme, font size, opacity, and window position to defaults, restores the "
+        "sample decks, and re-shows the welcome onboarding."));
+    const auto button = new QPushButton(symbolIcon(Icon::Warning), QStringLiteral("Reset All Data…"), page());
+    button->setAutoDefault(true);
+    button->setAccessibleDescription(description->text());
+    connect(button, &QPushButton::clicked, this, [this] { askToReset(); });
+    column().addWidget(description);
+    column().addSpacing(kBelowDescription - column().spacing());
+    column().addWidget(button, 0, Qt::AlignLeft);
+    column().addStretch(1);
+}
+
+void GeneralTab::askToReset()
+{
+    const auto alert = new QMessageBox(
+        QMessageBox::Warning, QString(), QStringLiteral("Reset All Data?"), QMessageBox::NoButton, window());
+    alert->setAttribute(Qt::WA_DeleteOnClose);
+    alert->setWindowModality(Qt::WindowModal);
+    alert->setInformativeText(QStringLiteral("This will permanently delete all your decks and cards and cannot be "
+                                             "undone. Sample decks will be restored."));
+    const auto confirm = alert->addButton(QStringLiteral("Reset Everything"), QMessageBox::DestructiveRole);
+    auto palette = confirm->palette();
+    palette.setColor(QPalette::ButtonText, toQColor(inkColor(Ink::Red, m_context.colors())));
+    confirm->setPalette(palette);
+    const auto cancel = alert->addButton(QStringLiteral("Cancel"), QMessageBox::RejectRole);
+    alert->setDefaultButton(cancel); // nothing of it can be undone
+    alert->setEscapeButton(cancel);
+    connect(confirm, &QAbstractButton::clicked, this, [this] { m_reset(); });
+    alert->open();
+}
+
+} // namespace cuebright

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "ui/widgets/PanelButton.h"
+
+namespace cuebright {
+
+/// A text that opens a web page or a new message.
+class LinkButton final : public PanelButton {
+public:
+    LinkButton(const PanelContext& context, const QString& text, const QString& target, QWidget* parent);
+
+    [[nodiscard]] QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+} // namespace cuebright

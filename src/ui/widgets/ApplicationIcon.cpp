@@ -1,0 +1,40 @@
+#include "ui/widgets/ApplicationIcon.h"
+
+#include "ui/widgets/DrawnIcon.h"
+
+#include <QSvgRenderer>
+
+namespace cuebright {
+
+namespace {
+
+/// Drawn here, so that it needs none of Qt's image plug-ins, which some systems install separately. Whoever
+/// asks keeps a copy.
+class BuiltInIcon final : public DrawnIcon {
+public:
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode, QIcon::State) override
+    {
+        QSvgRenderer(QStringLiteral(":/icons/app.cuebright.Cuebright.svg")).render(painter, rect);
+    }
+
+    [[nodiscard]] QIconEngine* clone() const override { return new BuiltInIcon; }
+
+    /// Those that the window system is given.
+    QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override
+    {
+        QList<QSize> sizes;
+        for (const int side : {16, 22, 24, 32, 48, 64, 128})
+            sizes << QSize(side, side);
+        return sizes;
+    }
+};
+
+} // namespace
+
+QIcon applicationIcon()
+{
+    const QIcon installed = QIcon::fromTheme(QStringLiteral("app.cuebright.Cuebright"));
+    return installed.isNull() ? QIcon(new BuiltInIcon) : installed;
+}
+
+} // namespace cuebright

@@ -1,0 +1,33 @@
+#include "platform/linux/capture/SessionCaptureExclusion.h"
+
+#include "platform/linux/base/Session.h"
+
+#include <gtest/gtest.h>
+
+#include <tuple>
+
+namespace cuebright::test {
+
+TEST(SessionCaptureExclusion, EachSessionGetsWhatItsCompositorOffers)
+{
+    using enum CaptureExclusionWay;
+    const std::tuple<const char*, Session, CaptureExclusionWay> cases[] = {
+        {"Plasma", {true, {"KDE"}, {}, {}}, KWin},
+        {"Plasma on X11", {false, {"KDE"}, {}, {}}, NoneAndVisible},
+        {"bare X11", {}, NoneAndVisible},
+        {"Hyprland", {true, {"Hyprland"}, "abc_1", {}}, Hyprland},
+        {"variables of Hyprland in an X11 session", {false, {}, "abc_1", {}}, NoneAndVisible},
+        {"GNOME", {true, {"ubuntu", "GNOME"}, {}, {}}, NoneAndVisible},
+        {"sway", {true, {"sway"}, {}, {}}, NoneAndVisible},
+        {"COSMIC", {true, {"COSMIC"}, {}, {}}, NoneAndVisible},
+        {"river", {true, {"river"}, {}, {}}, NoneAndVisible},
+        {"labwc", {true, {"labwc", "wlroots"}, {}, {}}, NoneAndVisible},
+        {"niri", {true, {"niri"}, {}, {}}, NoneAndUnknown},
+        {"other Wayland", {true, {"weston"}, {}, {}}, NoneAndUnknown},
+        {"nameless Wayland", {true, {}, {}, {}}, NoneAndUnknown},
+    };
+    for (const auto& [name, session, way] : cases)
+        EXPECT_EQ(captureExclusionWay(session), way) << name;
+}
+
+} // namespace cuebright::test

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "foundation/NotificationCenter.h"
+#include "store/CardStore.h"
+#include "support/FakePlatform.h"
+#include "ui/base/PanelContext.h"
+
+#include <QAccessible>
+#include <QMenu>
+#include <QWidget>
+
+#include <gtest/gtest.h>
+
+namespace cuebright::test {
+
+using namespace Qt::StringLiterals;
+
+/// A store with the sample decks on fake surroundings, for views to show.
+class PanelFixture : public testing::Test {
+protected:
+    FakePlatform fake;
+    NotificationCenter notifications;
+    CardStore store {fake.platform()};
+    PanelContext context {store, notifications, fake.platform(), fake.desktop()};
+
+    /// Replaces all decks by one with these cards.
+    void setCards(const std::vector<std::string>& contents, std::int64_t activeCard = 0);
+    /// Lets the views take in what has changed.
+    void refresh() { fake.mainQueue.runPosted(); }
+
+    /// The visible widget under `root` that a screen reader calls `name`; fails the test where there is none.
+    static QWidget* find(QWidget& root, QAnyStringView name);
+    static bool isShown(QWidget& root, QAnyStringView name);
+    /// Presses a button as a screen reader does.
+    static void press(QWidget& root, QAnyStringView name);
+
+    /// Brings a window to the screen and gives it the keyboard.
+    static void activate(QWidget& window);
+    static QMenu* openMenu();
+    /// The items of a menu, separated by "|".
+    static QString textsOf(const QMenu& menu);
+};
+
+} // namespace cuebright::test

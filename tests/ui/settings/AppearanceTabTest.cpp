@@ -1,0 +1,110 @@
+#include "ui/settings/AppearanceTab.h"
+
+#include "ui/panel/PanelFixture.h"
+
+#include <QComboBox>
+#include <QSlider>
+#include <QTest>
+
+#include <algorithm>
+#include <tuple>
+
+namespace cuebright::test {
+
+class AppearanceTabTest : public PanelFixture {
+protected:
+    std::unique_ptr<CardStore> storeShown;
+    std::unique_ptr<PanelContext> contextShown;
+    std::unique_ptr<AppearanceTab> tab;
+
+    /// With what the preferences hold at the start.
+    void open()
+    {
+        tab.reset();
+        storeShown = std::make_unique<CardStore>(fake.platform());
+        contextShown.reset(new PanelContext {*storeShown, notifications, fake.platform(), fake.desktop()});
+        tab = std::make_unique<AppearanceTab>(*contextShown, nullptr);
+        fake.preferences.writes.clear();
+    }
+    QSlider& slider(const char* name)
+    {
+        const auto sliders = tab->findChildren<QSlider*>();
+        return **std::ranges::find(sliders, QLatin1String(name), &QWidget::accessibleName);
+    }
+    QComboBox& theme() { return *tab->findChild<QComboBox*>(); }
+    void expectShown(const std::vector<const char*>& texts)
+    {
+        for (const auto text : texts)
+            EXPECT_TRUE(isShown(*tab, text)) << text;
+    }
+};
+
+TEST_F(AppearanceTabTest, ValuesAreShownAsWholeNumbersAndNotWritten)
+{
+    const std::tuple<double, std::int64_t, double, std::vector<const char*>> cases[] = {
+        {17, 140, 0.85, {"17", "140 wpm", "85%"}},
+        {20.5, 133, 0.7000000000000001, {"21", "133 wpm", "70%"}},
+        {2, 1, 0.7999999999999999, {"2", "1 wpm", "80%"}},
+        {400, 9999, 3, {"400", "9999 wpm", "300%"}},
+    };
+    for (const auto& [fontSize, pace, opacity, texts] : cases) {
+        fake.preferences.setNumber(preferenceKeys::kFontSize, fontSize);
+        fake.preferences.setInteger(preferenceKeys::kSpeakingPace, pace);
+        fake.preferences.setNumber(preferenceKeys::kOpacity, opacity);
+        open();
+        expectShown(texts);
+        refresh();
+        EXPECT_TRUE(fake.preferences.writes.empty());
+    }
+}
+
+TEST_F(AppearanceTabTest, SlidersChangeTheirOwnValueAtOnceAndFollowWhatOthersChange)
+{
+    open();
+    QTest::keyClick(&slider("Font Size"), Qt::Key_Left);
+    QTest::keyClick(&slider("Speaking Pace"), Qt::Key_PageUp);
+    QTest::keyClick(&slider("Opacity"), Qt::Key_Left);
+    EXPECT_EQ(storeShown->fontSize(), 16);
+    EXPECT_EQ(storeShown->speakingPace(), 180);
+    EXPECT_EQ(storeShown->opacity(), 0.99);
+    expectShown({"16", "180 wpm", "99%"});
+    QTest::keyClick(&slider("Opacity"), Qt::Key_Home);
+    EXPECT_EQ(storeShown->opacity(), 0.4);
+
+    storeShown->setTheme("dark");
+    storeShown->setFontSize(20);
+    storeShown->setSpeakingPace(90);
+    storeShown->setOpacity(0.5);
+    const auto writes = fake.preferences.writes;
+    refresh();
+    EXPECT_EQ(theme().currentText(), u"Dark"_s);
+    EXPECT_EQ(slider("Opacity").value(), 50);
+    expectShown({"20", "90 wpm", "50%"});
+    EXPECT_EQ(fake.preferences.writes, writes);
+}
+
+TEST_F(AppearanceTabTest, AnUnknownThemeShowsAsSystemAndStaysUntilAnotherIsPicked)
+{
+    fake.preferences.setText(preferenceKeys::kTheme, "Dark");
+    open();
+    EXPECT_EQ(theme().currentText(), u"System"_s);
+    EXPECT_EQ(storeShown->theme(), "Dark");
+    for (const auto expected : {"light", "dark"}) {
+        QTest::keyClick(&theme(), Qt::Key_Down);
+        EXPECT_EQ(storeShown->theme(), expected);
+    }
+}
+
+TEST_F(AppearanceTabTest, ReducedTransparencyIsExplainedWhileItIsOn)
+{
+    const auto note = "Frosted glass is disabled because Reduce Transparency is on in System Settings.";
+    open();
+    for (const bool isReduced : {false, true, false}) {
+        fake.accessibility.transparencyReduced = isReduced;
+        fake.accessibility.changed.notify();
+        refresh();
+        EXPECT_EQ(isShown(*tab, note), isReduced);
+    }
+}
+
+} // namespace cuebright::test
