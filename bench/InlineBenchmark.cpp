@@ -1,6 +1,5 @@
 #include "markdown/CardParser.h"
 #include "markdown/StyledText.h"
-#include "platform/Accessibility.h"
 #include "support/LargeState.h"
 
 #include <benchmark/benchmark.h>
@@ -14,14 +13,6 @@ namespace cuebright::bench {
 namespace {
 
 constexpr std::size_t kCardLength = 700;
-constexpr double kFontSize = 18;
-
-class PlainAccessibility final : public Accessibility {
-public:
-    bool reduceMotion() override { return false; }
-    bool reduceTransparency() override { return false; }
-    bool increaseContrast() override { return false; }
-};
 
 /// The first cards of the large state in one, cut at a line's end: close to 700 bytes.
 std::string cardText()
@@ -52,12 +43,10 @@ void parseBlocks(benchmark::State& run)
 
 void renderRuns(benchmark::State& run)
 {
-    PlainAccessibility accessibility;
-    const Colors colors(false, accessibility);
     const auto text = cardText();
     for (auto _ : run)
         for (const auto& block : parseMarkdown(text))
-            benchmark::DoNotOptimize(renderInline(block.text, kFontSize, colors));
+            benchmark::DoNotOptimize(renderInline(block.text));
     countBytes(run, text);
 }
 

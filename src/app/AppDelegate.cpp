@@ -1,5 +1,7 @@
 #include "app/AppDelegate.h"
 
+#include "ui/base/Notifications.h"
+
 #include "ui/editor/MarkdownEditor.h"
 #include "ui/menu/EditCommands.h"
 #include "ui/menu/ExportCommand.h"

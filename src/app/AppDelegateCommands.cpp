@@ -1,5 +1,7 @@
 #include "app/AppDelegate.h"
 
+#include "ui/base/Notifications.h"
+
 #include "platform/RemoteRequest.h"
 #include "platform/system/WindowActivation.h"
 #include "ui/base/LinkOpener.h"

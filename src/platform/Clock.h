@@ -1,13 +1,9 @@
 #pragma once
 
 #include "foundation/Instant.h"
-
-#include <chrono>
+#include "foundation/Seconds.h"
 
 namespace cuebright {
-
-/// A length of time in seconds.
-using Seconds = std::chrono::duration<double>;
 
 /// Where time comes from.
 class Clock {

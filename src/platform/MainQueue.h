@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Clock.h"
+#include "foundation/Seconds.h"
 
 #include <functional>
 #include <utility>

@@ -1,5 +1,6 @@
 #include "store/CardStoreInternal.h"
 
+#include "platform/Clock.h"
 #include "platform/UuidSource.h"
 
 #include <algorithm>

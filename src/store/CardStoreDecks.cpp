@@ -1,6 +1,7 @@
 #include "store/CardStoreInternal.h"
 
 #include "foundation/Unicode.h"
+#include "platform/Clock.h"
 #include "platform/UuidSource.h"
 
 #include <algorithm>

@@ -1,6 +1,7 @@
 #include "store/CardStoreInternal.h"
 
 #include "model/StateFile.h"
+#include "platform/Clock.h"
 #include "platform/FileSystem.h"
 #include "platform/Log.h"
 #include "platform/Preferences.h"

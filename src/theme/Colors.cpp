@@ -1,7 +1,5 @@
 #include "theme/Colors.h"
 
-#include "platform/Accessibility.h"
-
 namespace cuebright {
 
 namespace {
@@ -11,12 +9,8 @@ constexpr DynamicColor kHighContrastSeparator {{0.55, 0.52, 0.49}, {0.45, 0.42, 
 
 } // namespace
 
-bool Colors::highContrast() const { return m_accessibility.increaseContrast(); }
+Color Colors::muted() const { return (m_highContrast ? kHighContrastMuted : Palette::textMuted).resolved(m_isDark); }
 
-Color Colors::muted() const { return (highContrast() ? kHighContrastMuted : Palette::textMuted).resolved(m_isDark); }
-
-Color Colors::sep() const { return (highContrast() ? kHighContrastSeparator : Palette::separator).resolved(m_isDark); }
-
-double Colors::borderWidth() const { return highContrast() ? 2 : 1; }
+Color Colors::sep() const { return (m_highContrast ? kHighContrastSeparator : Palette::separator).resolved(m_isDark); }
 
 } // namespace cuebright

@@ -4,20 +4,17 @@
 
 namespace cuebright {
 
-class Accessibility;
-
 /// The colours that a view draws with, in its current look. A small value: make one for each drawing.
 class Colors final {
 public:
-    /// `accessibility` must outlive this; it is asked anew for every colour.
-    Colors(bool isDark, Accessibility& accessibility)
+    Colors(bool isDark, bool highContrast)
         : m_isDark(isDark)
-        , m_accessibility(accessibility)
+        , m_highContrast(highContrast)
     {
     }
 
     [[nodiscard]] bool isDark() const { return m_isDark; }
-    [[nodiscard]] bool highContrast() const;
+    [[nodiscard]] bool highContrast() const { return m_highContrast; }
 
     [[nodiscard]] Color warmBg() const { return Palette::windowBackground.resolved(m_isDark); }
     [[nodiscard]] Color accent() const { return Palette::accent.resolved(m_isDark); }
@@ -25,11 +22,11 @@ public:
     [[nodiscard]] Color muted() const;
     [[nodiscard]] Color sep() const;
     /// In logical pixels.
-    [[nodiscard]] double borderWidth() const;
+    [[nodiscard]] double borderWidth() const { return m_highContrast ? 2 : 1; }
 
 private:
     bool m_isDark;
-    Accessibility& m_accessibility;
+    bool m_highContrast;
 };
 
 } // namespace cuebright

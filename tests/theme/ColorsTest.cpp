@@ -1,8 +1,8 @@
 #include "theme/Colors.h"
 
-#include "support/FakePlatform.h"
-
 #include <gtest/gtest.h>
+
+#include <vector>
 
 namespace cuebright::test {
 
@@ -27,9 +27,7 @@ TEST(Colors, FollowTheLookAndTheContrastOfTheMoment)
             {{0.145, 0.133, 0.125}, {0.82, 0.32, 0.22}, {0.91, 0.886, 0.863}, {0.75, 0.72, 0.69}, {0.45, 0.42, 0.39}}},
     };
     for (const auto& c : cases) {
-        FakeAccessibility accessibility;
-        const Colors colors(c.isDark, accessibility);
-        accessibility.contrastIncreased = c.contrastIncreased;
+        const Colors colors(c.isDark, c.contrastIncreased);
         const std::vector seen {colors.warmBg(), colors.accent(), colors.text(), colors.muted(), colors.sep()};
         EXPECT_EQ(seen, c.expected) << c.name;
         EXPECT_EQ(colors.borderWidth(), c.contrastIncreased ? 2 : 1);

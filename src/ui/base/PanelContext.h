@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Accessibility.h"
 #include "platform/Appearance.h"
 #include "platform/Desktop.h"
 #include "platform/Platform.h"
@@ -18,7 +19,10 @@ struct PanelContext {
     Desktop desktop;
 
     /// The colours to draw with now.
-    [[nodiscard]] Colors colors() const { return {platform.appearance.isDark(), platform.accessibility}; }
+    [[nodiscard]] Colors colors() const
+    {
+        return {platform.appearance.isDark(), platform.accessibility.increaseContrast()};
+    }
 };
 
 } // namespace cuebright

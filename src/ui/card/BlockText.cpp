@@ -9,6 +9,12 @@
 
 namespace cuebright {
 
+namespace {
+
+constexpr double kCodeBackgroundOpacity = 0.3;
+
+} // namespace
+
 QFont italic(QFont font)
 {
     font.setItalic(true);
@@ -30,16 +36,17 @@ QFont blockFont(Block::Kind kind, double fontSize)
     return systemFont(fontSize);
 }
 
-QTextCharFormat runFormat(const StyledRun& run)
+QTextCharFormat runFormat(const StyledRun& run, double fontSize, const Colors& colors)
 {
     QTextCharFormat format;
-    if (run.monospacedSize) {
-        const auto font = monospacedFont(*run.monospacedSize);
+    if (run.isCode) {
+        const auto font = monospacedFont(fontSize);
         format.setFontFamilies(font.families());
         format.setProperty(QTextFormat::FontPixelSize, font.pixelSize());
         format.setFontStyleHint(QFont::Monospace);
         format.setFontWeight(QFont::Normal); // not the heading's
         format.setFontItalic(false); // nor the quote's
+        format.setBackground(toQColor(colors.sep().withAlpha(kCodeBackgroundOpacity)));
     }
     if (run.isBold)
         format.setFontWeight(QFont::Bold);
@@ -47,10 +54,8 @@ QTextCharFormat runFormat(const StyledRun& run)
         format.setFontItalic(true);
     if (run.isUnderlined)
         format.setFontUnderline(true);
-    if (run.foreground)
-        format.setForeground(toQColor(*run.foreground));
-    if (run.background)
-        format.setBackground(toQColor(*run.background));
+    if (run.isAccented)
+        format.setForeground(toQColor(colors.accent()));
     return format;
 }
 

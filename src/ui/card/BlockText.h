@@ -2,6 +2,7 @@
 
 #include "markdown/Block.h"
 #include "markdown/StyledText.h"
+#include "theme/Colors.h"
 
 #include <QFont>
 #include <QString>
@@ -17,7 +18,8 @@ namespace cuebright {
 
 [[nodiscard]] QFont italic(QFont font);
 [[nodiscard]] QFont blockFont(Block::Kind kind, double fontSize);
-[[nodiscard]] QTextCharFormat runFormat(const StyledRun& run);
+/// `fontSize` is that of the card's body.
+[[nodiscard]] QTextCharFormat runFormat(const StyledRun& run, double fontSize, const Colors& colors);
 
 /// For the eye a carriage return is a blank; the number of units stays the same.
 [[nodiscard]] QString displayText(const std::string& utf8);

@@ -1,5 +1,7 @@
 #include "ui/card/CardArea.h"
 
+#include "ui/base/Notifications.h"
+
 #include "foundation/NotificationCenter.h"
 #include "store/CardStore.h"
 #include "ui/base/LinkOpener.h"

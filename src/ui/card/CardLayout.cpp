@@ -86,11 +86,11 @@ void CardLayout::layOutFor(std::chrono::microseconds time)
 
 void CardLayout::openBlock(const Block& block)
 {
-    for (const auto& run : renderInline(block.text, m_fontSize, m_colors)) {
+    for (const auto& run : renderInline(block.text)) {
         const auto text = displayText(run.text);
         const auto start = static_cast<int>(m_open.text.size());
         const auto length = static_cast<int>(text.size());
-        m_open.formats.push_back({start, length, runFormat(run)});
+        m_open.formats.push_back({start, length, runFormat(run, m_fontSize, m_colors)});
         if (run.link)
             m_open.links.push_back({start, length, *run.link});
         m_open.text += text;
@@ -268,7 +268,7 @@ QRectF CardLayout::blockRect(std::size_t block)
 QString CardLayout::blockText(std::size_t block) const
 {
     QString text;
-    for (const auto& run : renderInline(m_blocks[block].text, m_fontSize, m_colors))
+    for (const auto& run : renderInline(m_blocks[block].text))
         text += displayText(run.text);
     return text;
 }

@@ -1,8 +1,8 @@
 #include "ui/editor/MarkdownEditor.h"
 
 #include "store/CardStore.h"
+#include "ui/base/KeyStroke.h"
 #include "ui/editor/TextViewManager.h"
-#include "ui/panel/PanelKeys.h"
 
 #include <QMimeData>
 

@@ -1,5 +1,7 @@
 #include "ui/panel/CardContentView.h"
 
+#include "ui/base/Notifications.h"
+
 #include "foundation/NotificationCenter.h"
 #include "platform/Accessibility.h"
 #include "platform/CaptureExclusion.h"

@@ -28,22 +28,10 @@ class TextViewManager;
 /// the event loop however much has changed.
 class CardContentView final : public QWidget {
 public:
-    using Block = cuebright::Block;
-
     explicit CardContentView(const PanelContext& context, QWidget* parent = nullptr);
 
     /// The space left and right of the column in a panel of `width`, in logical pixels.
     [[nodiscard]] static int columnPadding(int width);
-    [[nodiscard]] static std::vector<Block> parseMarkdown(std::string_view content)
-    {
-        return cuebright::parseMarkdown(content);
-    }
-    [[nodiscard]] static std::vector<StyledRun> renderInline(
-        std::string_view text, double fontSize, const Colors& colors)
-    {
-        return cuebright::renderInline(text, fontSize, colors);
-    }
-    [[nodiscard]] static double bottomPadding(const Block& block) { return cuebright::bottomPadding(block.kind); }
 
     /// Gives the keyboard to the card, or to its editor while that is open.
     void takeFocus();

@@ -1,5 +1,7 @@
 #include "ui/panel/DeckPicker.h"
 
+#include "ui/base/Notifications.h"
+
 #include "foundation/NotificationCenter.h"
 #include "platform/qt/QtColors.h"
 #include "platform/qt/TextConversion.h"

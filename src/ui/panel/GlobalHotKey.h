@@ -2,6 +2,7 @@
 
 #include "foundation/NotificationCenter.h"
 #include "platform/HotKeys.h"
+#include "ui/base/Notifications.h"
 
 namespace cuebright {
 

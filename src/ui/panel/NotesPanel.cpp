@@ -1,5 +1,7 @@
 #include "ui/panel/NotesPanel.h"
 
+#include "ui/base/Notifications.h"
+
 #include "foundation/NotificationCenter.h"
 #include "platform/qt/QtColors.h"
 #include "store/CardStore.h"

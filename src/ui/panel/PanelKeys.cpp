@@ -1,7 +1,5 @@
 #include "ui/panel/PanelKeys.h"
 
-#include "platform/system/TopRow.h"
-
 #include <algorithm>
 #include <array>
 
@@ -10,8 +8,6 @@ namespace cuebright {
 namespace {
 
 using enum PanelCommand;
-
-constexpr auto kCountingModifiers = Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
 
 /// One row of a key table; an absent command passes the key on.
 struct Row {
@@ -66,25 +62,7 @@ std::optional<PanelKeyAction> deckKeyAction(const KeyStroke& stroke, bool isEdit
     return PanelKeyAction {SwitchToDeck, stroke.digit - 1};
 }
 
-/// The signs of the menus' keys: where a layout has one in the top row, it stays what it is there.
-bool isMenuSign(int key)
-{
-    constexpr std::array signs {Qt::Key_Minus, Qt::Key_Equal, Qt::Key_Plus, Qt::Key_BracketLeft, Qt::Key_BracketRight,
-        Qt::Key_Comma, Qt::Key_Period};
-    return std::ranges::find(signs, key) != signs.end();
-}
-
 } // namespace
-
-KeyStroke KeyStroke::of(const QKeyEvent& event)
-{
-    KeyStroke stroke {event.modifiers() & kCountingModifiers, event.key()};
-    if (event.key() >= Qt::Key_0 && event.key() <= Qt::Key_9)
-        stroke.digit = event.key() - Qt::Key_0;
-    else if (!isMenuSign(event.key()))
-        stroke.digit = topRowDigit(event.nativeScanCode()).value_or(stroke.digit);
-    return stroke;
-}
 
 std::optional<PanelKeyAction> panelKeyAction(const KeyStroke& stroke, bool isEditing)
 {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QKeyEvent>
+#include "ui/base/KeyStroke.h"
 
 #include <cstdint>
 #include <optional>
@@ -28,15 +28,6 @@ struct PanelKeyAction {
     std::int64_t deckIndex = 0; ///< of `SwitchToDeck`
 
     bool operator==(const PanelKeyAction&) const = default;
-};
-
-/// A key as the tables see it.
-struct KeyStroke {
-    Qt::KeyboardModifiers modifiers; ///< only Shift, Ctrl, Alt and Meta count
-    int key = 0; ///< `Qt::Key`
-    int digit = -1; ///< of the character, or of the physical key of the top row where the character is none; else −1
-
-    [[nodiscard]] static KeyStroke of(const QKeyEvent& event);
 };
 
 /// The panel's shortcuts, tried before those of the menus; absent where the key is not one of them.

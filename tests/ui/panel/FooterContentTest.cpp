@@ -59,11 +59,10 @@ TEST(FooterPlaces, StandInTheirOrderAndTheErrorGivesWayFirstThenTheFeedbackThenT
 
 TEST(Ink, WarningsCanBeReadInEveryLook)
 {
-    FakeAccessibility accessibility;
     using Urgency = TimerManager::Urgency;
     for (const int look : {0, 1, 2, 3}) {
-        const Colors colors(look % 2 == 1, accessibility);
-        const bool highContrast = accessibility.contrastIncreased = look >= 2;
+        const bool highContrast = look >= 2;
+        const Colors colors(look % 2 == 1, highContrast);
         for (const auto ink : {Ink::Red, Ink::Orange})
             EXPECT_GE(contrast(inkColor(ink, colors), colors.warmBg()), highContrast ? 7 : 4.5)
                 << static_cast<int>(ink) << look;

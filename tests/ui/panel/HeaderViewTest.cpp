@@ -1,4 +1,5 @@
 #include "ui/panel/HeaderView.h"
+#include "ui/base/Notifications.h"
 
 #include "platform/qt/QtAppearance.h"
 #include "ui/base/ShareNotice.h"

@@ -1,4 +1,5 @@
 #include "ui/panel/PanelController.h"
+#include "ui/base/Notifications.h"
 
 #include "support/EventLoop.h"
 #include "ui/panel/CardContentView.h"

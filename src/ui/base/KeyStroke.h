@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QKeyEvent>
+
+namespace cuebright {
+
+/// A key with its modifiers, as the key tables compare it.
+struct KeyStroke {
+    Qt::KeyboardModifiers modifiers; ///< only Shift, Ctrl, Alt and Meta count
+    int key = 0; ///< `Qt::Key`
+    int digit = -1; ///< of the character, or of the physical key of the top row where the character is none; else −1
+
+    [[nodiscard]] static KeyStroke of(const QKeyEvent& event);
+};
+
+} // namespace cuebright
