@@ -16,7 +16,7 @@ struct PanelContent {
     QtPlatform platform {(folder.path() + QStringLiteral("/preferences.conf")).toStdString()};
     NotificationCenter notifications;
     CardStore store {platform.services()};
-    PanelContext context {store, notifications, platform.services(), platform.desktop()};
+    UiContext context {store, notifications, platform.services(), platform.desktop()};
     CardContentView view {context};
 
     PanelContent() { view.resize(720, 560); }

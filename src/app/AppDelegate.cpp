@@ -48,7 +48,7 @@ void AppDelegate::buildMainMenu()
     m_mainMenu->addActionsTo(panel);
 }
 
-void AppDelegate::firstFrameIsThere()
+void AppDelegate::onFirstFrame()
 {
     m_mainMenu->addMenusTo(*new MenuBarStrip(m_context, &m_panelController->panelWindow()));
     QApplication::setWindowIcon(applicationIcon());

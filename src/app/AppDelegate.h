@@ -2,7 +2,7 @@
 
 #include "foundation/NotificationCenter.h"
 #include "store/CardStore.h"
-#include "ui/base/PanelContext.h"
+#include "ui/base/UiContext.h"
 #include "ui/menu/Command.h"
 
 #include <QPointer>
@@ -34,7 +34,7 @@ public:
 
     void applicationDidFinishLaunching();
     /// The rest of launching, which the panel does not need in order to be seen.
-    void firstFrameIsThere();
+    void onFirstFrame();
     /// The user opens the application again: shows the panel, and says that this was done.
     bool applicationShouldHandleReopen();
     /// Keeps an open edit, with what an input method still holds, and writes everything to disk.
@@ -70,7 +70,7 @@ private:
 
     CardStore m_store;
     NotificationCenter m_notifications;
-    PanelContext m_context;
+    UiContext m_context;
     std::unique_ptr<PanelController> m_panelController;
     std::unique_ptr<EditCommands> m_editCommands;
     std::unique_ptr<MainMenu> m_mainMenu;

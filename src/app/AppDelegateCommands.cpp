@@ -5,7 +5,7 @@
 #include "platform/RemoteRequest.h"
 #include "platform/system/WindowActivation.h"
 #include "ui/base/LinkOpener.h"
-#include "ui/base/OpenSheets.h"
+#include "ui/base/ModalSheets.h"
 #include "ui/menu/EditCommands.h"
 #include "ui/menu/ExportCommand.h"
 #include "ui/menu/MainMenu.h"

@@ -1,10 +1,10 @@
+#include "app/AfterFirstFrame.h"
 #include "app/AppDelegate.h"
 #include "app/ExitSave.h"
-#include "app/FirstFrame.h"
 #include "app/QuitEvents.h"
 #include "platform/qt/QtPlatform.h"
-#include "platform/system/OneInstance.h"
 #include "platform/system/ProcessSetup.h"
+#include "platform/system/SingleInstance.h"
 
 #include <QApplication>
 
@@ -15,7 +15,7 @@ using namespace cuebright;
 
 int main(int, char* argv[])
 {
-    OneInstance instance; // first: a launch that only hands over never starts the toolkit
+    SingleInstance instance; // first: a launch that only hands over never starts the toolkit
     if (const auto status = instance.exitStatus())
         return *status;
     ProcessSetup process;
@@ -32,16 +32,16 @@ int main(int, char* argv[])
     QApplication::setApplicationVersion(QStringLiteral(CUEBRIGHT_VERSION));
     QApplication::setQuitOnLastWindowClosed(false); // a hidden panel comes back
     QApplication::setDesktopFileName(QStringLiteral("app.cuebright.Cuebright"));
-    process.applicationIsThere();
+    process.onApplicationCreated();
 
     QtPlatform platform;
     AppDelegate delegate(platform.services(), platform.desktop());
     const ExitSave exitSave([&] { delegate.saveEverything(); });
     delegate.applicationDidFinishLaunching();
     instance.deliver([&](const RemoteRequest& request) { delegate.perform(request); });
-    const FirstFrame firstFrame(*delegate.panelWindow(), [&] {
+    const AfterFirstFrame firstFrame(*delegate.panelWindow(), [&] {
         platform.start();
-        delegate.firstFrameIsThere();
+        delegate.onFirstFrame();
     });
 
     const QuitEvents quitEvents([&] { delegate.quit(); });

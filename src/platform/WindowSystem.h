@@ -22,7 +22,7 @@ public:
     virtual void release(WindowId window) = 0;
 
     /// Blurs what shows through the window, where the system can. Lasts while the window exists.
-    virtual void setGlass(WindowId window, bool isOn) = 0;
+    virtual void setBlurBehind(WindowId window, bool isOn) = 0;
 
     /// A window kept above was minimised, and not for its own sake: together with the full-screen window below it.
     Signal<WindowId> minimisedWithFullScreen;

@@ -18,7 +18,7 @@ CardStore::~CardStore() = default;
 
 void CardStore::setUndoManager(std::weak_ptr<UndoManager> undoManager) { m_undoManager = std::move(undoManager); }
 
-void CardStore::noticeOf(Property property) { willChange.notify(Change {property, m_animation}); }
+void CardStore::notifyWillChange(Property property) { willChange.notify(Change {property, m_animation}); }
 
 Deck* CardStore::mutableActiveDeck()
 {

@@ -140,7 +140,7 @@ private:
     using Property = Change::Property;
 
     template <typename Value> void set(Value& member, std::type_identity_t<Value> value, Property property);
-    void noticeOf(Property property);
+    void notifyWillChange(Property property);
 
     [[nodiscard]] Deck* mutableActiveDeck();
     [[nodiscard]] Card* mutableActiveCard();

@@ -43,7 +43,7 @@ void CardStore::performCardInsertion(Card card, std::int64_t index, const std::s
         return;
     assert(index >= 0 && "a card is inserted at a position, never before the first");
     const auto position = std::min(index, cardCount());
-    noticeOf(Property::Decks);
+    notifyWillChange(Property::Decks);
     auto& cards = mutableActiveDeck()->cards;
     cards.insert(cards.begin() + position, std::move(card));
     touchActiveDeck();
@@ -57,7 +57,7 @@ void CardStore::performCardRemoval(std::int64_t index, const std::string& action
 {
     if (index < 0 || index >= cardCount())
         return;
-    noticeOf(Property::Decks);
+    notifyWillChange(Property::Decks);
     auto& cards = mutableActiveDeck()->cards;
     const auto removed = cards.begin() + index;
     auto card = std::move(*removed);
@@ -86,7 +86,7 @@ void CardStore::moveActiveCard(std::int64_t distance)
     const auto to = from + distance;
     if (to < 0 || to >= cardCount())
         return;
-    noticeOf(Property::Decks);
+    notifyWillChange(Property::Decks);
     auto& cards = mutableActiveDeck()->cards;
     std::swap(cards[static_cast<std::size_t>(from)], cards[static_cast<std::size_t>(to)]);
     touchActiveDeck();

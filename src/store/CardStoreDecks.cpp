@@ -26,7 +26,7 @@ void CardStore::performDeckInsertion(Deck deck, std::int64_t index, const std::s
 {
     assert(index >= 0 && "a deck is inserted at a position, never before the first");
     const auto position = std::min(index, deckCount());
-    noticeOf(Property::Decks);
+    notifyWillChange(Property::Decks);
     m_decks.insert(m_decks.begin() + position, std::move(deck));
     set(m_activeCardIndex, 0, Property::ActiveCardIndex);
     set(m_activeDeckIndex, position, Property::ActiveDeckIndex);
@@ -49,7 +49,7 @@ void CardStore::performDeckRemoval(std::int64_t index, const std::string& action
 {
     if (index < 0 || index >= deckCount() || !canDeleteDeck())
         return;
-    noticeOf(Property::Decks);
+    notifyWillChange(Property::Decks);
     const auto removed = m_decks.begin() + index;
     auto deck = std::move(*removed);
     m_decks.erase(removed);
@@ -78,7 +78,7 @@ void CardStore::renameDeck(std::string_view name)
 
 void CardStore::nameActiveDeck(std::string name)
 {
-    noticeOf(Property::Decks);
+    notifyWillChange(Property::Decks);
     mutableActiveDeck()->name = std::move(name);
     touchActiveDeck();
     scheduleSave();

@@ -29,7 +29,7 @@ void CardStore::saveEdit()
         return;
     const bool isUnchanged = m_editText == m_originalEditText;
     replaceActiveCardContent(m_editText);
-    noticeOf(Property::Decks);
+    notifyWillChange(Property::Decks);
     mutableActiveCard()->updatedAt = m_platform.clock.now();
     touchActiveDeck();
     setEditing(false);
@@ -67,13 +67,13 @@ void CardStore::saveTextAndCloseEdit()
 
 void CardStore::replaceActiveCardContent(std::string content)
 {
-    noticeOf(Property::Decks);
+    notifyWillChange(Property::Decks);
     mutableActiveCard()->content = std::move(content);
 }
 
 void CardStore::touchActiveDeck()
 {
-    noticeOf(Property::Decks);
+    notifyWillChange(Property::Decks);
     mutableActiveDeck()->updatedAt = m_platform.clock.now();
 }
 

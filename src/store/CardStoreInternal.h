@@ -28,7 +28,7 @@ private:
 
 template <typename Value> void CardStore::set(Value& member, std::type_identity_t<Value> value, Property property)
 {
-    noticeOf(property);
+    notifyWillChange(property);
     member = std::move(value);
 }
 

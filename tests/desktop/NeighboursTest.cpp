@@ -88,14 +88,14 @@ TEST(DesktopNeighbours, GlassComesAndGoesWithTheCompositor)
     const Home home;
     home.prefer("cuebrightOpacity", "0.8");
     const RunningPanel panel(home);
-    const auto hasGlass = [&] { return desktop().hasProperty(panel.window(), "_KDE_NET_WM_BLUR_BEHIND_REGION"); };
-    EXPECT_FALSE(hasGlass());
+    const auto blursBehind = [&] { return desktop().hasProperty(panel.window(), "_KDE_NET_WM_BLUR_BEHIND_REGION"); };
+    EXPECT_FALSE(blursBehind());
     {
         const auto compositor = desktop().startCompositor();
-        EXPECT_TRUE(panel.reaches("glass", hasGlass));
+        EXPECT_TRUE(panel.reaches("glass", blursBehind));
         EXPECT_TRUE(panel.hasBrightness(150, 230)) << "the desktop shows through";
     }
-    EXPECT_TRUE(panel.reaches("no glass", std::not_fn(hasGlass)));
+    EXPECT_TRUE(panel.reaches("no glass", std::not_fn(blursBehind)));
 }
 
 } // namespace

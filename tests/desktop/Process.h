@@ -19,10 +19,10 @@ namespace cuebright::test {
 using Environment = std::map<std::string, std::string>;
 
 /// How long anything may take before a test gives up on it. Generous, because a sanitizer run is slow.
-constexpr std::chrono::seconds kPatience {20};
+constexpr std::chrono::seconds kTimeout {20};
 
-/// Asks again and again until `condition` holds; false when it still does not after `patience`.
-[[nodiscard]] bool waitUntil(const std::function<bool()>& condition, std::chrono::milliseconds patience = kPatience);
+/// Asks again and again until `condition` holds; false when it still does not after `timeout`.
+[[nodiscard]] bool waitUntil(const std::function<bool()>& condition, std::chrono::milliseconds timeout = kTimeout);
 
 /// A program that a test started. It ends with its owner, and by the system's hand when the test itself is killed.
 class Process final {

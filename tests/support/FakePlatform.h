@@ -205,7 +205,7 @@ class FakeWindowSystem final : public WindowSystem {
 public:
     void keepAboveFullScreen(WindowId) override { calls.emplace_back("keep above"); }
     void release(WindowId) override { calls.emplace_back("release"); }
-    void setGlass(WindowId, bool isOn) override { calls.emplace_back(isOn ? "glass on" : "glass off"); }
+    void setBlurBehind(WindowId, bool isOn) override { calls.emplace_back(isOn ? "glass on" : "glass off"); }
 
     std::vector<std::string> calls;
 };

@@ -22,7 +22,7 @@ const QString kPath = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString kSettings = QStringLiteral("org.freedesktop.portal.Settings");
 const QString kShortcuts = QStringLiteral("org.freedesktop.portal.GlobalShortcuts");
 const QString kRegistry = QStringLiteral("org.freedesktop.host.portal.Registry");
-const QString kSession = QStringLiteral("org.freedesktop.portal.Session");
+const QString kSession = QStringLiteral("org.freedesktop.portal.DesktopSession");
 const QString kRequest = QStringLiteral("org.freedesktop.portal.Request");
 
 /// What throws is answered with an error.
@@ -80,7 +80,8 @@ void FakePortal::changeSetting(const QString& group, const QString& key, const Q
 
 bool FakePortal::activate(const QString& id)
 {
-    const auto session = std::ranges::find_if(sessions, [&](const Session& one) { return one.shortcuts.contains(id); });
+    const auto session =
+        std::ranges::find_if(sessions, [&](const DesktopSession& one) { return one.shortcuts.contains(id); });
     if (session == sessions.end())
         return false;
     sendActivated(session->path, id);
@@ -96,7 +97,7 @@ void FakePortal::sendActivated(const QString& session, const QString& id)
 void FakePortal::closeSession(const QString& session)
 {
     m_bus.send(QDBusMessage::createSignal(session, kSession, QStringLiteral("Closed")) << QVariantMap());
-    sessions.removeIf([&](const Session& one) { return one.path == session; });
+    sessions.removeIf([&](const DesktopSession& one) { return one.path == session; });
 }
 
 bool FakePortal::handleMessage(const QDBusMessage& message, const QDBusConnection&)
@@ -131,7 +132,8 @@ QVariantList FakePortal::answerTo(const QDBusMessage& message)
     if (method == QLatin1String("BindShortcuts"))
         return bind(message);
     require(method == QLatin1String("Close"), "unknown method");
-    require(sessions.removeIf([&](const Session& one) { return one.path == message.path(); }) > 0, "invalid session");
+    require(sessions.removeIf([&](const DesktopSession& one) { return one.path == message.path(); }) > 0,
+        "invalid session");
     return {};
 }
 
@@ -140,7 +142,7 @@ QVariantList FakePortal::createSession(const QDBusMessage& message)
     require(message.signature() == QLatin1String("a{sv}"), "wrong signature");
     const auto options = qdbus_cast<QVariantMap>(message.arguments()[0]);
     const auto path = handle(message, QStringLiteral("session"), options.value(QStringLiteral("session_handle_token")));
-    require(!std::ranges::count(sessions, path, &Session::path), "session exists");
+    require(!std::ranges::count(sessions, path, &DesktopSession::path), "session exists");
     if (responseToCreate == 0)
         sessions.append({path, message.service(), {}});
     return respond(message, options, responseToCreate, {{QStringLiteral("session_handle"), path}});
@@ -150,7 +152,7 @@ QVariantList FakePortal::bind(const QDBusMessage& message)
 {
     require(message.signature() == QLatin1String("oa(sa{sv})sa{sv}"), "wrong signature");
     const auto path = message.arguments()[0].value<QDBusObjectPath>().path();
-    const auto session = std::ranges::find(sessions, path, &Session::path);
+    const auto session = std::ranges::find(sessions, path, &DesktopSession::path);
     require(session != sessions.end() && session->client == message.service(), "invalid session");
     require(!std::exchange(session->wasBound, true), "bound before");
     auto bound = shortcutsIn(message);

@@ -38,13 +38,13 @@ public:
     uint responseToBind = 0;
     QString triggerDescription = QStringLiteral("Ctrl+Shift+S"); ///< what the shortcuts are bound to
 
-    struct Session {
+    struct DesktopSession {
         QString path;
         QString client; ///< unique name
         QStringList shortcuts; ///< that are bound
         bool wasBound = false;
     };
-    QList<Session> sessions; ///< that are open
+    QList<DesktopSession> sessions; ///< that are open
     QStringList calls; ///< one line each, in order: the method, then what matters of its arguments
 
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& bus) override;

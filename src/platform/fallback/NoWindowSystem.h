@@ -9,7 +9,7 @@ class NoWindowSystem final : public WindowSystem {
 public:
     void keepAboveFullScreen(WindowId) override { }
     void release(WindowId) override { }
-    void setGlass(WindowId, bool) override { }
+    void setBlurBehind(WindowId, bool) override { }
 };
 
 } // namespace cuebright

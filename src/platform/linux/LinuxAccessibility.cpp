@@ -8,7 +8,7 @@ namespace cuebright {
 
 namespace {
 
-constexpr Seconds kPatience {3};
+constexpr Seconds kReplyTimeout {3};
 
 } // namespace
 
@@ -29,7 +29,7 @@ void LinuxAccessibility::start(const QDBusConnection& sessionBus)
         settle({});
         return;
     }
-    m_giveUp = m_mainQueue.after(kPatience, m_weakTarget.guard([this] { settle({}); }));
+    m_timeout = m_mainQueue.after(kReplyTimeout, m_weakTarget.guard([this] { settle({}); }));
     m_portal =
         std::make_unique<SettingsPortal>(sessionBus, [this](const DesktopSettings& settings) { settle(settings); });
 }
@@ -43,7 +43,7 @@ void LinuxAccessibility::compositorMayHaveChanged()
 
 void LinuxAccessibility::settle(const DesktopSettings& settings)
 {
-    m_giveUp.cancel();
+    m_timeout.cancel();
     if (std::exchange(m_isDark, settings.isDark()) != m_isDark)
         m_systemIsDark(m_isDark);
     become({settings.reduceMotion(), m_wishes.reduceTransparency, settings.increaseContrast()});

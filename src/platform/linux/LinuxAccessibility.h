@@ -52,7 +52,7 @@ private:
     Wishes m_wishes;
     std::optional<bool> m_isDark;
     std::unique_ptr<SettingsPortal> m_portal;
-    PendingTask m_giveUp;
+    PendingTask m_timeout;
     WeakTarget m_weakTarget;
 };
 

@@ -2,7 +2,7 @@
 #include "platform/fallback/NoWindowSystem.h"
 #include "platform/linux/LinuxAccessibility.h"
 #include "platform/linux/SystemClock.h"
-#include "platform/linux/base/Session.h"
+#include "platform/linux/base/DesktopSession.h"
 #include "platform/linux/capture/SessionCaptureExclusion.h"
 #include "platform/linux/portal/PortalHotKeys.h"
 #include "platform/linux/x11/X11Compositor.h"
@@ -107,7 +107,7 @@ private:
     }
 
     MainQueue& m_mainQueue;
-    const Session m_session = Session::fromEnvironment();
+    const DesktopSession m_session = DesktopSession::fromEnvironment();
     const std::unique_ptr<X11Services> m_x11;
     SystemClock m_clock;
     LinuxAccessibility m_accessibility;

@@ -2,7 +2,7 @@
 
 #include "platform/linux/FontWarmUp.h"
 #include "platform/linux/TerminationSignals.h"
-#include "platform/linux/base/Session.h"
+#include "platform/linux/base/DesktopSession.h"
 
 #include <QtGlobal>
 
@@ -29,12 +29,12 @@ ProcessSetup::~ProcessSetup() = default;
 /// environment is read by the fonts' thread, and inherited by programs that make their own choice.
 std::vector<std::string> ProcessSetup::toolkitOptions()
 {
-    if (!Session::fromEnvironment().isWayland || qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+    if (!DesktopSession::fromEnvironment().isWayland || qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         return {};
     return {"-platform", "xcb;wayland"};
 }
 
-void ProcessSetup::applicationIsThere()
+void ProcessSetup::onApplicationCreated()
 {
     m_system->terminationSignals.emplace();
     m_system->terminationSubscription =

@@ -12,7 +12,7 @@ class MacWindowSystem final : public WindowSystem {
 public:
     void keepAboveFullScreen(WindowId window) override;
     void release(WindowId window) override;
-    void setGlass(WindowId, bool) override { }
+    void setBlurBehind(WindowId, bool) override { }
 };
 
 } // namespace cuebright

@@ -18,7 +18,7 @@ ProcessSetup::~ProcessSetup() = default;
 
 std::vector<std::string> ProcessSetup::toolkitOptions() { return {}; }
 
-void ProcessSetup::applicationIsThere()
+void ProcessSetup::onApplicationCreated()
 {
     m_system->subscription =
         m_system->terminationSignals.requested.subscribe([this] { terminationRequested.notify(); });

@@ -10,6 +10,6 @@ ProcessSetup::~ProcessSetup() = default;
 
 std::vector<std::string> ProcessSetup::toolkitOptions() { return {}; }
 
-void ProcessSetup::applicationIsThere() { }
+void ProcessSetup::onApplicationCreated() { }
 
 } // namespace cuebright

@@ -19,9 +19,9 @@ public:
     [[nodiscard]] static std::vector<std::string> toolkitOptions();
 
     /// Call once, as soon as the application object is there.
-    void applicationIsThere();
+    void onApplicationCreated();
 
-    /// The user or the system asks the program to leave; on the main thread, not before `applicationIsThere`.
+    /// The user or the system asks the program to leave; on the main thread, not before `onApplicationCreated`.
     Signal<> terminationRequested;
 
 private:

@@ -44,7 +44,7 @@ ProcessSetup::~ProcessSetup()
 
 std::vector<std::string> ProcessSetup::toolkitOptions() { return {}; }
 
-void ProcessSetup::applicationIsThere()
+void ProcessSetup::onApplicationCreated()
 {
     m_system = std::make_unique<System>();
     m_system->subscription =

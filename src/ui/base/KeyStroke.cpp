@@ -1,6 +1,6 @@
 #include "ui/base/KeyStroke.h"
 
-#include "platform/system/TopRow.h"
+#include "platform/system/DigitRowKeys.h"
 
 #include <algorithm>
 #include <array>
@@ -27,7 +27,7 @@ KeyStroke KeyStroke::of(const QKeyEvent& event)
     if (event.key() >= Qt::Key_0 && event.key() <= Qt::Key_9)
         stroke.digit = event.key() - Qt::Key_0;
     else if (!isMenuSign(event.key()))
-        stroke.digit = topRowDigit(event.nativeScanCode()).value_or(stroke.digit);
+        stroke.digit = digitRowKey(event.nativeScanCode()).value_or(stroke.digit);
     return stroke;
 }
 

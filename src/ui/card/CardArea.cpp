@@ -25,7 +25,7 @@ constexpr double kFocusWidth = 2;
 
 } // namespace
 
-CardArea::CardArea(const PanelContext& context, QWidget* parent)
+CardArea::CardArea(const UiContext& context, QWidget* parent)
     : QAbstractScrollArea(parent)
     , m_context(context)
     , m_transition([this] { viewport()->update(); })
@@ -83,7 +83,7 @@ void CardArea::layOut()
     else
         m_layout.reset();
     updateScrollRange();
-    goOnLayingOut();
+    continueLayout();
 }
 
 void CardArea::forgetLinks()
@@ -103,7 +103,7 @@ void CardArea::updateScrollRange()
 }
 
 /// Lays out what is below the screen in slices, so that the scroll bar becomes exact without holding up a key.
-void CardArea::goOnLayingOut()
+void CardArea::continueLayout()
 {
     if (m_goesOnLayingOut || !m_layout || m_layout->isComplete())
         return;
@@ -113,7 +113,7 @@ void CardArea::goOnLayingOut()
         if (m_layout)
             m_layout->layOutFor(kLayoutSlice);
         updateScrollRange();
-        goOnLayingOut();
+        continueLayout();
     }));
 }
 
@@ -197,7 +197,7 @@ void CardArea::resizeEvent(QResizeEvent*)
         contentChanged.notify();
     }
     updateScrollRange();
-    goOnLayingOut();
+    continueLayout();
 }
 
 void CardArea::scrollContentsBy(int, int)

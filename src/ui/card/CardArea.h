@@ -3,7 +3,7 @@
 #include "foundation/Signal.h"
 #include "foundation/Uuid.h"
 #include "foundation/WeakTarget.h"
-#include "ui/base/PanelContext.h"
+#include "ui/base/UiContext.h"
 #include "ui/card/CardLayout.h"
 #include "ui/card/CardTransition.h"
 
@@ -21,7 +21,7 @@ public:
     enum class Page { Up, Down };
     enum class Content { Same, Stale };
 
-    CardArea(const PanelContext& context, QWidget* parent);
+    CardArea(const UiContext& context, QWidget* parent);
 
     /// Shows what the store holds now: another card with a transition, if the change carries an animation, and from its
     /// top; the same card where it is. `Content::Same` promises that no card, size or colour has changed.
@@ -69,14 +69,14 @@ private:
     void layOut();
     void forgetLinks();
     void updateScrollRange();
-    void goOnLayingOut();
+    void continueLayout();
     void drawCard(QPainter& painter, const QRect& area);
     void drawFrame(QPainter& painter);
     void drawFocus(QPainter& painter);
     [[nodiscard]] QPixmap pictureOfFrame();
     [[nodiscard]] std::optional<std::string> linkAt(const QPoint& position) const;
 
-    const PanelContext& m_context;
+    const UiContext& m_context;
     std::optional<CardLayout> m_layout;
     std::optional<Key> m_key;
     CardTransition m_transition;

@@ -48,7 +48,7 @@ template <typename IsEnd> bool hasStretchOver(qsizetype limit, QStringView text,
 
 } // namespace
 
-MarkdownEditor::MarkdownEditor(const PanelContext& context, QWidget* parent)
+MarkdownEditor::MarkdownEditor(const UiContext& context, QWidget* parent)
     : QPlainTextEdit(parent)
     , m_context(context)
 {

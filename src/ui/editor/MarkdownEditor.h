@@ -1,7 +1,7 @@
 #pragma once
 
 #include "foundation/WeakTarget.h"
-#include "ui/base/PanelContext.h"
+#include "ui/base/UiContext.h"
 #include "ui/editor/DocumentText.h"
 #include "ui/editor/MarkdownFormatting.h"
 
@@ -26,7 +26,7 @@ class TextViewManager;
 /// stay quick.
 class MarkdownEditor final : public QPlainTextEdit {
 public:
-    MarkdownEditor(const PanelContext& context, QWidget* parent);
+    MarkdownEditor(const UiContext& context, QWidget* parent);
 
     /// Whose overwrite mode and formatting to follow, and whose text view to be while on screen.
     void setManager(TextViewManager& manager);
@@ -77,7 +77,7 @@ private:
     void writeToStore();
     void limitLayoutTime(QStringView text);
 
-    const PanelContext& m_context;
+    const UiContext& m_context;
     QPointer<TextViewManager> m_manager;
     DocumentText m_documentText;
     bool m_isUpdating = false;

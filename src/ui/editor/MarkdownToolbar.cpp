@@ -54,7 +54,7 @@ void perform(const Row& row, TextViewManager& manager)
 
 class Divider final : public QWidget {
 public:
-    Divider(const PanelContext& context, QWidget* parent)
+    Divider(const UiContext& context, QWidget* parent)
         : QWidget(parent)
         , m_context(context)
     {
@@ -68,12 +68,12 @@ protected:
     }
 
 private:
-    const PanelContext& m_context;
+    const UiContext& m_context;
 };
 
 } // namespace
 
-MarkdownToolbar::MarkdownToolbar(const PanelContext& context, TextViewManager& manager, QWidget* parent)
+MarkdownToolbar::MarkdownToolbar(const UiContext& context, TextViewManager& manager, QWidget* parent)
     : QWidget(parent)
 {
     const auto line = new QHBoxLayout(this);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/base/PanelContext.h"
+#include "ui/base/UiContext.h"
 
 #include <QWidget>
 
@@ -12,7 +12,7 @@ class TextViewManager;
 class MarkdownToolbar final : public QWidget {
 public:
     /// `manager` must outlive this.
-    MarkdownToolbar(const PanelContext& context, TextViewManager& manager, QWidget* parent);
+    MarkdownToolbar(const UiContext& context, TextViewManager& manager, QWidget* parent);
 };
 
 } // namespace cuebright

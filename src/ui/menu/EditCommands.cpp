@@ -2,7 +2,7 @@
 
 #include "store/CardStore.h"
 #include "store/UndoManager.h"
-#include "ui/base/OpenSheets.h"
+#include "ui/base/ModalSheets.h"
 #include "ui/panel/NotesPanel.h"
 
 #include <QApplication>

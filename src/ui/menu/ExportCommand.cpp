@@ -32,7 +32,7 @@ void bringToFront(QWidget& window)
 
 } // namespace
 
-ExportCommand::ExportCommand(const PanelContext& context, QWidget& panel)
+ExportCommand::ExportCommand(const UiContext& context, QWidget& panel)
     : m_context(context)
     , m_panel(panel)
 {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/base/PanelContext.h"
+#include "ui/base/UiContext.h"
 
 #include <QFileDialog>
 #include <QPointer>
@@ -13,7 +13,7 @@ namespace cuebright {
 class ExportCommand final {
 public:
     /// `panel` outlives this.
-    ExportCommand(const PanelContext& context, QWidget& panel);
+    ExportCommand(const UiContext& context, QWidget& panel);
     ~ExportCommand();
     ExportCommand(const ExportCommand&) = delete;
     ExportCommand& operator=(const ExportCommand&) = delete;
@@ -29,7 +29,7 @@ private:
     void ask(QWidget* parent);
     void write(const QString& file, const std::string& text);
 
-    const PanelContext& m_context;
+    const UiContext& m_context;
     QWidget& m_panel;
     QPointer<QFileDialog> m_dialog;
 };

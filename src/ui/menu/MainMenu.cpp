@@ -3,7 +3,7 @@
 #include "platform/qt/TextConversion.h"
 #include "store/CardStore.h"
 #include "store/UndoManager.h"
-#include "ui/base/OpenSheets.h"
+#include "ui/base/ModalSheets.h"
 #include "ui/editor/MarkdownEditor.h"
 #include "ui/menu/EditCommands.h"
 #include "ui/menu/MenuTree.h"
@@ -37,7 +37,7 @@ QAction::MenuRole roleOf(Command command)
 } // namespace
 
 MainMenu::MainMenu(
-    const PanelContext& context, EditCommands& edit, NotesPanel& panel, std::function<void(Command)> perform)
+    const UiContext& context, EditCommands& edit, NotesPanel& panel, std::function<void(Command)> perform)
     : m_context(context)
     , m_edit(edit)
     , m_panel(panel)

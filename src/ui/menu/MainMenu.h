@@ -1,8 +1,8 @@
 #pragma once
 
 #include "foundation/Signal.h"
-#include "ui/base/OncePerTurn.h"
-#include "ui/base/PanelContext.h"
+#include "ui/base/CoalescedCall.h"
+#include "ui/base/UiContext.h"
 #include "ui/menu/Command.h"
 
 #include <QAction>
@@ -30,7 +30,7 @@ class MainMenu final {
 public:
     /// `perform` gets every command but those that `edit` performs. While a sheet on the panel waits for an answer,
     /// none that changes cards can be had. All that is passed in must outlive this.
-    MainMenu(const PanelContext& context, EditCommands& edit, NotesPanel& panel, std::function<void(Command)> perform);
+    MainMenu(const UiContext& context, EditCommands& edit, NotesPanel& panel, std::function<void(Command)> perform);
     ~MainMenu();
     MainMenu(const MainMenu&) = delete;
     MainMenu& operator=(const MainMenu&) = delete;
@@ -47,13 +47,13 @@ private:
     void addCommand(QMenu& menu, const MenuItem& item);
     void trigger(Command command);
 
-    const PanelContext& m_context;
+    const UiContext& m_context;
     EditCommands& m_edit;
     const NotesPanel& m_panel;
     std::function<void(Command)> m_perform;
     std::vector<std::unique_ptr<QMenu>> m_menus;
     std::map<Command, QAction*> m_actions; ///< owned by their menus
-    OncePerTurn m_refresh;
+    CoalescedCall m_refresh;
     Subscription m_storeSubscription;
     Subscription m_undoSubscription;
     Subscription m_panelSubscription;

@@ -64,11 +64,11 @@ public:
     }
 };
 
-MenuBarStrip::MenuBarStrip(const PanelContext& context, QWidget* panel)
+MenuBarStrip::MenuBarStrip(const UiContext& context, QWidget* panel)
     : QMenuBar(panel)
     , m_context(context)
-    , m_presence(0, kFadeTime, [this] {
-        setAttribute(Qt::WA_TransparentForMouseEvents, m_presence.value() == 0);
+    , m_fade(0, kFadeTime, [this] {
+        setAttribute(Qt::WA_TransparentForMouseEvents, m_fade.value() == 0);
         update();
     })
 {
@@ -84,7 +84,7 @@ MenuBarStrip::MenuBarStrip(const PanelContext& context, QWidget* panel)
     m_appearanceSubscription = context.platform.appearance.changed.subscribe([this] { update(); });
     m_accessibilitySubscription = context.platform.accessibility.changed.subscribe([this] { update(); });
     show(); // the panel may be on the screen already
-    comeOrGo();
+    updateVisibility();
 }
 
 /// The toolkit has no other way in than pressing Alt and letting it go.
@@ -108,7 +108,7 @@ bool MenuBarStrip::eventFilter(QObject* watched, QEvent* event)
     case QEvent::Leave:
     case QEvent::WindowActivate:
     case QEvent::WindowDeactivate:
-        comeOrGo();
+        updateVisibility();
         break;
     case QEvent::Resize:
         layOut();
@@ -132,18 +132,18 @@ void MenuBarStrip::layOut()
     raise();
 }
 
-void MenuBarStrip::comeOrGo()
+void MenuBarStrip::updateVisibility()
 {
     const auto panel = parentWidget();
     const bool isWanted = panel->underMouse() || panel->isActiveWindow() || activeAction();
-    m_presence.moveTo(isWanted ? 1 : 0, Presence::Motion::Animated);
+    m_fade.moveTo(isWanted ? 1 : 0, AnimatedValue::Motion::Animated);
 }
 
 void MenuBarStrip::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setOpacity(m_presence.value());
+    painter.setOpacity(m_fade.value());
     const auto colors = m_context.colors();
     for (const auto action : actions()) {
         const auto area = actionGeometry(action);

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "foundation/Signal.h"
-#include "ui/animation/Presence.h"
-#include "ui/base/PanelContext.h"
+#include "ui/animation/AnimatedValue.h"
+#include "ui/base/UiContext.h"
 
 #include <QMenuBar>
 
@@ -15,10 +15,10 @@ namespace cuebright {
 /// Where the desktop shows the menus of programs in a bar of its own, they are there and nothing is here.
 class MenuBarStrip final : public QMenuBar {
 public:
-    MenuBarStrip(const PanelContext& context, QWidget* panel);
+    MenuBarStrip(const UiContext& context, QWidget* panel);
 
     /// 0 = faded away, 1 = there.
-    [[nodiscard]] double presence() const { return m_presence.value(); }
+    [[nodiscard]] double fade() const { return m_fade.value(); }
 
     /// Gives it the keyboard, the first title first.
     void takeKeyboard();
@@ -32,10 +32,10 @@ private:
     class Style;
 
     void layOut();
-    void comeOrGo();
+    void updateVisibility();
 
-    const PanelContext& m_context;
-    Presence m_presence;
+    const UiContext& m_context;
+    AnimatedValue m_fade;
     Subscription m_appearanceSubscription;
     Subscription m_accessibilitySubscription;
 };

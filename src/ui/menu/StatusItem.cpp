@@ -1,9 +1,9 @@
 #include "ui/menu/StatusItem.h"
 
 #include "platform/qt/TextConversion.h"
-#include "platform/system/TrayWatch.h"
+#include "platform/system/TrayAvailability.h"
 #include "store/CardStore.h"
-#include "ui/base/OpenSheets.h"
+#include "ui/base/ModalSheets.h"
 #include "ui/editor/MarkdownEditor.h"
 #include "ui/panel/NotesPanel.h"
 #include "ui/panel/PanelController.h"
@@ -40,7 +40,7 @@ void showKey(QAction& action, const QKeySequence& key)
 
 } // namespace
 
-StatusItem::StatusItem(const PanelContext& context, PanelController& panelController, std::function<void()> quit)
+StatusItem::StatusItem(const UiContext& context, PanelController& panelController, std::function<void()> quit)
     : m_context(context)
     , m_panelController(panelController)
     , m_quit(std::move(quit))

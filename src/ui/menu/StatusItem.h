@@ -1,8 +1,8 @@
 #pragma once
 
 #include "foundation/Signal.h"
-#include "ui/base/OncePerTurn.h"
-#include "ui/base/PanelContext.h"
+#include "ui/base/CoalescedCall.h"
+#include "ui/base/UiContext.h"
 #include "ui/menu/StatusMenu.h"
 
 #include <QMenu>
@@ -16,7 +16,7 @@ class QSystemTrayIcon;
 namespace cuebright {
 
 class PanelController;
-class TrayWatch;
+class TrayAvailability;
 
 /// The status item in the desktop's status area: a click shows or hides the panel, its menu also switches decks.
 /// Appears as soon as there is such an area; nothing depends on it. Make it after the first frame.
@@ -25,7 +25,7 @@ class TrayWatch;
 class StatusItem final {
 public:
     /// `quit` leaves the program. All that is passed in must outlive this.
-    StatusItem(const PanelContext& context, PanelController& panelController, std::function<void()> quit);
+    StatusItem(const UiContext& context, PanelController& panelController, std::function<void()> quit);
     ~StatusItem();
     StatusItem(const StatusItem&) = delete;
     StatusItem& operator=(const StatusItem&) = delete;
@@ -39,14 +39,14 @@ private:
     void addItem(const StatusMenuItem& item);
     void switchDeckFromMenu(const QAction& item);
 
-    const PanelContext& m_context;
+    const UiContext& m_context;
     PanelController& m_panelController;
     std::function<void()> m_quit;
     QMenu m_menu;
     std::vector<StatusMenuItem> m_shown;
     std::unique_ptr<QSystemTrayIcon> m_icon;
-    std::unique_ptr<TrayWatch> m_trayWatch;
-    OncePerTurn m_refresh;
+    std::unique_ptr<TrayAvailability> m_trayWatch;
+    CoalescedCall m_refresh;
     Subscription m_storeSubscription;
     Subscription m_panelSubscription;
 };

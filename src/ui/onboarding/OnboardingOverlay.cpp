@@ -3,8 +3,8 @@
 #include "platform/CaptureExclusion.h"
 #include "platform/Preferences.h"
 #include "platform/qt/QtColors.h"
-#include "ui/animation/FadeOut.h"
-#include "ui/base/ShareNotice.h"
+#include "ui/animation/FadingSnapshot.h"
+#include "ui/base/ShareStatus.h"
 #include "ui/onboarding/OnboardingPageView.h"
 #include "ui/widgets/ChromeButton.h"
 #include "ui/widgets/CuebrightChromeStyle.h"
@@ -119,7 +119,7 @@ private:
     OnboardingOverlay& m_overlay;
 };
 
-OnboardingOverlay::OnboardingOverlay(const PanelContext& context, QWidget* parent)
+OnboardingOverlay::OnboardingOverlay(const UiContext& context, QWidget* parent)
     : QWidget(parent)
     , m_context(context)
     , m_dots(new Dots(*this))
@@ -139,7 +139,7 @@ OnboardingOverlay::OnboardingOverlay(const PanelContext& context, QWidget* paren
 
 OnboardingOverlay::~OnboardingOverlay() = default;
 
-bool OnboardingOverlay::isDue(const PanelContext& context)
+bool OnboardingOverlay::isDue(const UiContext& context)
 {
     return !context.platform.preferences.boolean(preferenceKeys::kOnboardingDone).value_or(false);
 }
@@ -177,7 +177,7 @@ void OnboardingOverlay::advance()
     if (m_currentPage + 1 >= static_cast<int>(m_pages.size()))
         return finish();
     if (isVisible())
-        new FadeOut(grab(m_card), m_card, kPageTurn, this);
+        new FadingSnapshot(grab(m_card), m_card, kPageTurn, this);
     ++m_currentPage;
     showPage();
     m_pages[static_cast<std::size_t>(m_currentPage)]->announce();
@@ -187,7 +187,7 @@ void OnboardingOverlay::finish()
 {
     m_context.platform.preferences.setBoolean(preferenceKeys::kOnboardingDone, true);
     if (isVisible())
-        new FadeOut(grab(), geometry(), kPageTurn, parentWidget());
+        new FadingSnapshot(grab(), geometry(), kPageTurn, parentWidget());
     hide();
     QAccessibleEvent reordered(parentWidget(), QAccessible::ObjectReorder);
     QAccessible::updateAccessibility(&reordered);

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "foundation/Signal.h"
-#include "ui/base/PanelContext.h"
+#include "ui/base/UiContext.h"
 #include "ui/onboarding/OnboardingPages.h"
 
 #include <QWidget>
@@ -18,11 +18,11 @@ class OnboardingPageView;
 /// focus stays on it and a screen reader sees nothing else of the parent.
 class OnboardingOverlay final : public QWidget {
 public:
-    OnboardingOverlay(const PanelContext& context, QWidget* parent);
+    OnboardingOverlay(const UiContext& context, QWidget* parent);
     ~OnboardingOverlay() override;
 
     /// Whether it has not been gone through to its end yet.
-    [[nodiscard]] static bool isDue(const PanelContext& context);
+    [[nodiscard]] static bool isDue(const UiContext& context);
 
     /// From 0 to 3.
     [[nodiscard]] int currentPage() const { return m_currentPage; }
@@ -50,7 +50,7 @@ private:
     void keepFocus(QWidget* focused);
     void paintCard(QPainter& painter) const;
 
-    const PanelContext& m_context;
+    const UiContext& m_context;
     std::vector<OnboardingPageView*> m_pages;
     int m_currentPage = 0;
     QRect m_card;

@@ -2,7 +2,7 @@
 
 #include "platform/qt/QtColors.h"
 #include "ui/base/Fonts.h"
-#include "ui/widgets/PanelLabel.h"
+#include "ui/widgets/Label.h"
 
 #include <QPainter>
 
@@ -31,11 +31,11 @@ int heightOf(const QWidget* widget, int width)
 /// Keys in a column of their own, and what they do.
 class KeyRow final : public QWidget {
 public:
-    KeyRow(const PanelContext& context, const OnboardingPage::Row& row, QWidget* parent)
+    KeyRow(const UiContext& context, const OnboardingPage::Row& row, QWidget* parent)
         : QWidget(parent)
-        , m_keys(new PanelLabel(
-              context, monospacedFont(kKeysSize, QFont::DemiBold), Ink::Text, PanelLabel::WhenNarrow::Keep, this))
-        , m_label(new PanelLabel(context, systemFont(kTextSize), Ink::Muted, PanelLabel::WhenNarrow::Keep, this))
+        , m_keys(new Label(
+              context, monospacedFont(kKeysSize, QFont::DemiBold), ColorRole::Text, Label::WhenNarrow::Keep, this))
+        , m_label(new Label(context, systemFont(kTextSize), ColorRole::Muted, Label::WhenNarrow::Keep, this))
     {
         m_keys->setText(row.keys);
         m_label->setText(row.label);
@@ -56,34 +56,34 @@ protected:
     }
 
 private:
-    PanelLabel* m_keys;
-    PanelLabel* m_label;
+    Label* m_keys;
+    Label* m_label;
 };
 
 } // namespace
 
 int scaledGap(int gap, double scale) { return static_cast<int>(std::lround(gap * scale)); }
 
-OnboardingPageView::OnboardingPageView(const PanelContext& context, const OnboardingPage& page, QWidget* parent)
+OnboardingPageView::OnboardingPageView(const UiContext& context, const OnboardingPage& page, QWidget* parent)
     : QWidget(parent)
     , m_context(context)
     , m_icon(page.icon)
-    , m_title(makeText(page.title, systemFont(kTitleSize, QFont::DemiBold), Ink::Text))
+    , m_title(makeText(page.title, systemFont(kTitleSize, QFont::DemiBold), ColorRole::Text))
 {
     setAccessibleName(page.title);
     add(m_title, kTitleGap);
     if (!page.advice.isEmpty())
-        add(makeText(page.advice, systemFont(kTextSize), Ink::Text), kTextGap);
+        add(makeText(page.advice, systemFont(kTextSize), ColorRole::Text), kTextGap);
     if (!page.body.isEmpty())
-        add(makeText(page.body, systemFont(kTextSize), Ink::Muted), kTextGap);
+        add(makeText(page.body, systemFont(kTextSize), ColorRole::Muted), kTextGap);
     for (std::size_t i = 0; i < page.rows.size(); ++i)
         add(new KeyRow(context, page.rows[i], this), i == 0 ? kRowsGap : kRowGap);
 }
 
-PanelLabel* OnboardingPageView::makeText(const QString& text, const QFont& font, Ink ink)
+Label* OnboardingPageView::makeText(const QString& text, const QFont& font, ColorRole ink)
 {
     m_spokenText += (m_spokenText.isEmpty() ? QString() : QStringLiteral(" ")) + text;
-    const auto label = new PanelLabel(m_context, font, ink, PanelLabel::WhenNarrow::Wrap, this);
+    const auto label = new Label(m_context, font, ink, Label::WhenNarrow::Wrap, this);
     label->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     label->setText(text);
     return label;

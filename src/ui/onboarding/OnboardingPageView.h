@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ui/base/Ink.h"
-#include "ui/base/PanelContext.h"
+#include "ui/base/ColorRole.h"
+#include "ui/base/UiContext.h"
 #include "ui/onboarding/OnboardingPages.h"
 
 #include <QWidget>
@@ -10,7 +10,7 @@
 
 namespace cuebright {
 
-class PanelLabel;
+class Label;
 
 /// A gap of the introduction in a panel that has room for so much of it. Logical pixels.
 [[nodiscard]] int scaledGap(int gap, double scale);
@@ -18,7 +18,7 @@ class PanelLabel;
 /// One page of the introduction: icon, title, texts and shortcut rows, one below the other.
 class OnboardingPageView final : public QWidget {
 public:
-    OnboardingPageView(const PanelContext& context, const OnboardingPage& page, QWidget* parent);
+    OnboardingPageView(const UiContext& context, const OnboardingPage& page, QWidget* parent);
 
     /// How high it is in a column of `width`, with its gaps at `gapScale` of what they would like to be.
     [[nodiscard]] int heightFor(int width, double gapScale) const;
@@ -39,13 +39,13 @@ private:
     };
 
     void add(QWidget* widget, int gapAbove);
-    PanelLabel* makeText(const QString& text, const QFont& font, Ink ink);
+    Label* makeText(const QString& text, const QFont& font, ColorRole ink);
 
-    const PanelContext& m_context;
+    const UiContext& m_context;
     Icon m_icon;
     std::vector<Item> m_items;
     QString m_spokenText;
-    PanelLabel* m_title;
+    Label* m_title;
 };
 
 } // namespace cuebright

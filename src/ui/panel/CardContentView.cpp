@@ -8,7 +8,7 @@
 #include "platform/MainQueue.h"
 #include "platform/qt/QtColors.h"
 #include "store/CardStore.h"
-#include "ui/animation/FadeOut.h"
+#include "ui/animation/FadingSnapshot.h"
 #include "ui/editor/MarkdownEditor.h"
 #include "ui/editor/MarkdownToolbar.h"
 #include "ui/editor/TextViewManager.h"
@@ -52,7 +52,7 @@ bool changesTheCard(Change::Property property)
 /// One line across the column.
 class Rule final : public QWidget {
 public:
-    Rule(const PanelContext& context, QWidget* parent)
+    Rule(const UiContext& context, QWidget* parent)
         : QWidget(parent)
         , m_context(context)
     {
@@ -63,12 +63,12 @@ protected:
     void paintEvent(QPaintEvent*) override { QPainter(this).fillRect(rect(), toQColor(m_context.colors().sep())); }
 
 private:
-    const PanelContext& m_context;
+    const UiContext& m_context;
 };
 
 } // namespace
 
-CardContentView::CardContentView(const PanelContext& context, QWidget* parent)
+CardContentView::CardContentView(const UiContext& context, QWidget* parent)
     : QWidget(parent)
     , m_context(context)
     , m_timerManager(context.platform.clock, context.platform.mainQueue)
@@ -87,16 +87,17 @@ CardContentView::CardContentView(const PanelContext& context, QWidget* parent)
     m_column->addWidget(m_rule);
     m_column->addSpacing(kGap);
     m_column->addWidget(m_footer);
-    m_footer->keyboardIsLeft = [this] { takeFocus(); };
+    m_footer->focusLost = [this] { takeFocus(); };
     refresh();
 
-    m_storeSubscription = context.store.willChange.subscribe([this](const Change& change) { takeNotice(change); });
+    m_storeSubscription =
+        context.store.willChange.subscribe([this](const Change& change) { onStoreWillChange(change); });
     m_absenceSubscription =
         context.notifications.observe(kReturnAfterAbsenceNotification, [this] { m_header->pulse(); });
     m_overwriteSubscription =
         context.notifications.observe(kToggleOverwriteNotification, [this] { toggleOverwrite(); });
-    m_appearanceSubscription = context.platform.appearance.changed.subscribe([this] { takeChangedLook(); });
-    m_accessibilitySubscription = context.platform.accessibility.changed.subscribe([this] { takeChangedLook(); });
+    m_appearanceSubscription = context.platform.appearance.changed.subscribe([this] { onThemeChanged(); });
+    m_accessibilitySubscription = context.platform.accessibility.changed.subscribe([this] { onThemeChanged(); });
     m_exclusionSubscription = context.desktop.captureExclusion.changed.subscribe([this] { m_refresh.request(); });
 }
 
@@ -127,7 +128,7 @@ void CardContentView::makeEditView()
 
 int CardContentView::columnPadding(int width) { return std::max((width - kColumnWidth + 1) / 2, kMinSidePadding); }
 
-void CardContentView::takeNotice(const Change& change)
+void CardContentView::onStoreWillChange(const Change& change)
 {
     if (change.property == Change::Property::IsEditing && !m_context.store.isEditing())
         m_editBegins = true;
@@ -140,7 +141,7 @@ void CardContentView::takeNotice(const Change& change)
     m_refresh.request();
 }
 
-void CardContentView::takeChangedLook()
+void CardContentView::onThemeChanged()
 {
     m_cardContent = CardArea::Content::Stale;
     m_refresh.request();
@@ -184,7 +185,7 @@ void CardContentView::fadeOutWhatIsShown(const Animation& animation)
 {
     const auto area = shownContent().geometry();
     if (isVisible())
-        new FadeOut(grab(area), area, animation, this);
+        new FadingSnapshot(grab(area), area, animation, this);
 }
 
 void CardContentView::showEditor(bool isEditing)

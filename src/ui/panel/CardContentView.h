@@ -7,8 +7,8 @@
 #include "markdown/StyledText.h"
 #include "store/Change.h"
 #include "timer/TimerManager.h"
-#include "ui/base/OncePerTurn.h"
-#include "ui/base/PanelContext.h"
+#include "ui/base/CoalescedCall.h"
+#include "ui/base/UiContext.h"
 #include "ui/card/CardArea.h"
 
 #include <QWidget>
@@ -28,7 +28,7 @@ class TextViewManager;
 /// the event loop however much has changed.
 class CardContentView final : public QWidget {
 public:
-    explicit CardContentView(const PanelContext& context, QWidget* parent = nullptr);
+    explicit CardContentView(const UiContext& context, QWidget* parent = nullptr);
 
     /// The space left and right of the column in a panel of `width`, in logical pixels.
     [[nodiscard]] static int columnPadding(int width);
@@ -43,15 +43,15 @@ protected:
 
 private:
     void makeEditView();
-    void takeNotice(const Change& change);
-    void takeChangedLook();
+    void onStoreWillChange(const Change& change);
+    void onThemeChanged();
     void toggleOverwrite();
     void refresh();
     [[nodiscard]] QWidget& shownContent() const;
     void fadeOutWhatIsShown(const Animation& animation);
     void showEditor(bool isEditing);
 
-    const PanelContext& m_context;
+    const UiContext& m_context;
     TimerManager m_timerManager;
     QVBoxLayout* m_column;
     TextViewManager* m_editorManager;
@@ -67,7 +67,7 @@ private:
     std::optional<Animation> m_cardAnimation;
     std::optional<Animation> m_editAnimation;
     bool m_editBegins = true; ///< even if another one ended in the same turn
-    OncePerTurn m_refresh;
+    CoalescedCall m_refresh;
     Subscription m_storeSubscription;
     Subscription m_appearanceSubscription;
     Subscription m_accessibilitySubscription;

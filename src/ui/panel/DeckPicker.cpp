@@ -6,7 +6,7 @@
 #include "platform/qt/QtColors.h"
 #include "platform/qt/TextConversion.h"
 #include "store/CardStore.h"
-#include "ui/accessibility/OpenMenus.h"
+#include "ui/accessibility/MenuAccessibility.h"
 #include "ui/base/Fonts.h"
 #include "ui/panel/DeckNameDialog.h"
 #include "ui/widgets/FocusRing.h"
@@ -40,8 +40,8 @@ QString menuText(const Deck& deck, bool isActive, const QFontMetrics& metrics)
 
 } // namespace
 
-DeckPicker::DeckPicker(const PanelContext& context, QWidget* parent)
-    : PanelButton(context, parent)
+DeckPicker::DeckPicker(const UiContext& context, QWidget* parent)
+    : ButtonBase(context, parent)
     , m_decks(this)
     , m_commands(this)
 {
@@ -125,7 +125,7 @@ bool DeckPicker::event(QEvent* event)
 {
     if (event->type() == QEvent::ToolTip)
         setToolTip(width() < sizeHint().width() ? shownName(m_context.store.deckName()).toHtmlEscaped() : QString());
-    return PanelButton::event(event);
+    return ButtonBase::event(event);
 }
 
 void DeckPicker::paintEvent(QPaintEvent*)

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "foundation/Signal.h"
-#include "ui/widgets/PanelButton.h"
+#include "ui/widgets/ButtonBase.h"
 
 #include <QMenu>
 
@@ -11,9 +11,9 @@ class DeckNameDialog;
 
 /// The name of the active deck, with a menu of all decks under it, and the alerts that name a deck. Its right edge is
 /// that of its symbol; where the keyboard is shows around it, outside.
-class DeckPicker final : public PanelButton {
+class DeckPicker final : public ButtonBase {
 public:
-    DeckPicker(const PanelContext& context, QWidget* parent);
+    DeckPicker(const UiContext& context, QWidget* parent);
 
     void refresh();
     void showNewDeckAlert();

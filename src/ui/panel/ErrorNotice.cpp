@@ -3,8 +3,8 @@
 #include "platform/qt/QtColors.h"
 #include "store/CardStore.h"
 #include "ui/base/Fonts.h"
-#include "ui/widgets/PanelButton.h"
-#include "ui/widgets/PanelLabel.h"
+#include "ui/widgets/ButtonBase.h"
+#include "ui/widgets/Label.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
@@ -22,10 +22,10 @@ constexpr double kDismissOpacity = 0.8;
 
 } // namespace
 
-class DismissButton final : public PanelButton {
+class DismissButton final : public ButtonBase {
 public:
-    DismissButton(const PanelContext& context, QWidget* parent)
-        : PanelButton(context, parent)
+    DismissButton(const UiContext& context, QWidget* parent)
+        : ButtonBase(context, parent)
     {
         setAccessibleName(QStringLiteral("Dismiss error"));
     }
@@ -47,7 +47,7 @@ protected:
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setOpacity(m_opacity);
-        const auto red = inkColor(Ink::Red, m_context.colors());
+        const auto red = colorFor(ColorRole::Red, m_context.colors());
         painter.setPen(
             QPen(toQColor(red.withAlpha(isDown() ? 1 : kDismissOpacity)), kStroke, Qt::SolidLine, Qt::RoundCap));
         const auto centre = QRectF(rect()).center();
@@ -60,10 +60,10 @@ private:
     double m_opacity = 1;
 };
 
-ErrorNotice::ErrorNotice(const PanelContext& context, QWidget* parent)
+ErrorNotice::ErrorNotice(const UiContext& context, QWidget* parent)
     : QWidget(parent)
     , m_context(context)
-    , m_text(new PanelLabel(context, monospacedFont(11, QFont::Medium), Ink::Red, PanelLabel::WhenNarrow::Elide, this))
+    , m_text(new Label(context, monospacedFont(11, QFont::Medium), ColorRole::Red, Label::WhenNarrow::Elide, this))
     , m_dismiss(new DismissButton(context, this))
 {
     const auto row = new QHBoxLayout(this);
@@ -100,7 +100,7 @@ void ErrorNotice::paintEvent(QPaintEvent*)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setOpacity(m_opacity);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(toQColor(inkColor(Ink::Red, m_context.colors())));
+    painter.setBrush(toQColor(colorFor(ColorRole::Red, m_context.colors())));
     painter.drawEllipse(QRectF(0, (height() - kDotSize) / 2.0, kDotSize, kDotSize));
 }
 

@@ -1,18 +1,18 @@
 #pragma once
 
-#include "ui/base/PanelContext.h"
+#include "ui/base/UiContext.h"
 
 #include <QWidget>
 
 namespace cuebright {
 
 class DismissButton;
-class PanelLabel;
+class Label;
 
 /// A dot, an error and the button that hides it. Its text gives way to the last letter; dot and button stay.
 class ErrorNotice final : public QWidget {
 public:
-    ErrorNotice(const PanelContext& context, QWidget* parent);
+    ErrorNotice(const UiContext& context, QWidget* parent);
 
     void setText(const QString& text);
     /// From 0 to 1.
@@ -27,8 +27,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    const PanelContext& m_context;
-    PanelLabel* m_text;
+    const UiContext& m_context;
+    Label* m_text;
     DismissButton* m_dismiss;
     double m_opacity = 1;
 };

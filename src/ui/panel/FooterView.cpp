@@ -6,7 +6,7 @@
 #include "ui/panel/ErrorNotice.h"
 #include "ui/panel/TimerView.h"
 #include "ui/widgets/ChromeButton.h"
-#include "ui/widgets/PanelLabel.h"
+#include "ui/widgets/Label.h"
 
 #include <QEvent>
 
@@ -26,21 +26,21 @@ int wantedWidth(const QWidget* widget) { return widget->sizeHint().width(); }
 
 } // namespace
 
-FooterView::FooterView(const PanelContext& context, TimerManager& timer, QWidget* parent)
+FooterView::FooterView(const UiContext& context, TimerManager& timer, QWidget* parent)
     : QWidget(parent)
     , m_context(context)
     , m_transition(1, kFadeTime, [this] { layOut(); })
 {
-    using enum PanelLabel::WhenNarrow;
+    using enum Label::WhenNarrow;
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     const auto messageFont = letterSpaced(systemFont(kFontSize, QFont::Medium), 0.5);
     m_position =
-        new PanelLabel(context, letterSpaced(monospacedFont(kFontSize, QFont::DemiBold), 1.8), Ink::Muted, Keep, this);
-    m_wordCount = itemFor(new PanelLabel(context, messageFont, Ink::Muted, Elide, this));
+        new Label(context, letterSpaced(monospacedFont(kFontSize, QFont::DemiBold), 1.8), ColorRole::Muted, Keep, this);
+    m_wordCount = itemFor(new Label(context, messageFont, ColorRole::Muted, Elide, this));
     m_timer = {new TimerView(context, timer, this), nullptr, true, 1, 1};
     m_errorNotice = new ErrorNotice(context, this);
     m_error = {m_errorNotice, [this](double opacity) { m_errorNotice->setInkOpacity(opacity); }};
-    m_feedbackLabel = new PanelLabel(context, messageFont, Ink::Muted, Elide, this);
+    m_feedbackLabel = new Label(context, messageFont, ColorRole::Muted, Elide, this);
     m_feedback = itemFor(m_feedbackLabel);
     for (const auto item : {&m_wordCount, &m_error, &m_feedback})
         item->widget->hide();
@@ -58,7 +58,7 @@ FooterView::FooterView(const PanelContext& context, TimerManager& timer, QWidget
     connect(m_done, &QAbstractButton::clicked, this, [&store] { store.saveEdit(); });
 }
 
-FooterView::Item FooterView::itemFor(PanelLabel* label) const
+FooterView::Item FooterView::itemFor(Label* label) const
 {
     return {label, [label](double opacity) { label->setInkOpacity(opacity); }};
 }
@@ -89,16 +89,16 @@ void FooterView::refresh()
     }
     // What leaves keeps its text while it fades.
     if (m_content.wordCount)
-        static_cast<PanelLabel*>(m_wordCount.widget)->setText(toQString(*m_content.wordCount));
+        static_cast<Label*>(m_wordCount.widget)->setText(toQString(*m_content.wordCount));
     if (m_content.error)
         m_errorNotice->setText(toQString(*m_content.error));
     if (m_content.feedback && former.feedback)
-        m_feedbackLabel->crossFadeTo(toQString(*m_content.feedback), Ink::Muted, kFadeTime);
+        m_feedbackLabel->crossFadeTo(toQString(*m_content.feedback), ColorRole::Muted, kFadeTime);
     else if (m_content.feedback)
         m_feedbackLabel->setText(toQString(*m_content.feedback));
     // The toolkit would hand the keyboard to the other one, and the next press would go back.
     if ((m_previous->hasFocus() && !m_content.canGoPrev) || (m_next->hasFocus() && !m_content.canGoNext))
-        keyboardIsLeft();
+        focusLost();
     m_previous->setEnabled(m_content.canGoPrev);
     m_next->setEnabled(m_content.canGoNext);
     for (const auto button : {m_edit, m_previous, m_next})
@@ -133,8 +133,8 @@ void FooterView::beginTransition()
         if (arrives)
             item->widget->show();
     }
-    m_transition.moveTo(0, Presence::Motion::AtOnce);
-    m_transition.moveTo(1, isVisible() ? Presence::Motion::Animated : Presence::Motion::AtOnce);
+    m_transition.moveTo(0, AnimatedValue::Motion::AtOnce);
+    m_transition.moveTo(1, isVisible() ? AnimatedValue::Motion::Animated : AnimatedValue::Motion::AtOnce);
 }
 
 std::vector<ChromeButton*> FooterView::shownButtons() const

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ui/animation/Presence.h"
-#include "ui/base/PanelContext.h"
+#include "ui/animation/AnimatedValue.h"
+#include "ui/base/UiContext.h"
 #include "ui/panel/FooterContent.h"
 #include "ui/widgets/Icon.h"
 
@@ -14,19 +14,19 @@ namespace cuebright {
 
 class ChromeButton;
 class ErrorNotice;
-class PanelLabel;
+class Label;
 class TimerManager;
 class TimerView;
 
 /// The panel's last line: position, word count, timer, messages and the buttons.
 class FooterView final : public QWidget {
 public:
-    FooterView(const PanelContext& context, TimerManager& timer, QWidget* parent);
+    FooterView(const UiContext& context, TimerManager& timer, QWidget* parent);
 
     void refresh();
 
     /// Called when the button that has the keyboard can do nothing any more.
-    std::function<void()> keyboardIsLeft;
+    std::function<void()> focusLost;
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return {0, sizeHint().height()}; }
@@ -49,7 +49,7 @@ private:
 
     ChromeButton* addTitle(const QString& text, const char* accessibleName, const char* hint);
     ChromeButton* addArrow(Icon icon, const char* name, const char* hint);
-    [[nodiscard]] Item itemFor(PanelLabel* label) const;
+    [[nodiscard]] Item itemFor(Label* label) const;
     [[nodiscard]] std::vector<ChromeButton*> shownButtons() const;
     [[nodiscard]] FooterWidths wantedWidths() const;
     void beginTransition();
@@ -57,21 +57,21 @@ private:
     void place(Item& item, const FooterPlaces::Place& target);
     void placeButtons(int x);
 
-    const PanelContext& m_context;
+    const UiContext& m_context;
     FooterContent m_content;
-    PanelLabel* m_position;
+    Label* m_position;
     Item m_wordCount;
     Item m_timer;
     ErrorNotice* m_errorNotice;
     Item m_error;
-    PanelLabel* m_feedbackLabel;
+    Label* m_feedbackLabel;
     Item m_feedback;
     ChromeButton* m_edit;
     ChromeButton* m_previous;
     ChromeButton* m_next;
     ChromeButton* m_cancel;
     ChromeButton* m_done;
-    Presence m_transition; ///< from the former places and opacities to those of now
+    AnimatedValue m_transition; ///< from the former places and opacities to those of now
 };
 
 } // namespace cuebright

@@ -1,7 +1,7 @@
 #include "ui/panel/FrameMemory.h"
 
 #include "platform/Preferences.h"
-#include "ui/base/PanelContext.h"
+#include "ui/base/UiContext.h"
 #include "ui/panel/WindowFrame.h"
 
 #include <QEvent>
@@ -39,7 +39,7 @@ QRect centred(const QSize& size)
 
 } // namespace
 
-FrameMemory::FrameMemory(const PanelContext& context, QWidget& window, const QSize& defaultSize)
+FrameMemory::FrameMemory(const UiContext& context, QWidget& window, const QSize& defaultSize)
     : m_context(context)
     , m_window(window)
     , m_defaultSize(defaultSize)

@@ -11,7 +11,7 @@ class QWidget;
 
 namespace cuebright {
 
-struct PanelContext;
+struct UiContext;
 
 /// Brings a window back to where the user left it, and keeps where that is under `cuebrightWindowFrame`: half a second
 /// after the last move or resize, or when this goes. What the program does to the window itself does not count: as when
@@ -19,7 +19,7 @@ struct PanelContext;
 class FrameMemory final : public QObject {
 public:
     /// `window` outlives this.
-    FrameMemory(const PanelContext& context, QWidget& window, const QSize& defaultSize);
+    FrameMemory(const UiContext& context, QWidget& window, const QSize& defaultSize);
     ~FrameMemory() override;
 
     /// Puts the window where it was kept, or in the middle of the primary screen in its default size.
@@ -37,7 +37,7 @@ private:
     void save();
     void place(const QRect& frame);
 
-    const PanelContext& m_context;
+    const UiContext& m_context;
     QWidget& m_window;
     QSize m_defaultSize;
     QRect m_knownFrame;

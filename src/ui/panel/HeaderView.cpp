@@ -4,9 +4,9 @@
 #include "platform/qt/TextConversion.h"
 #include "store/CardStore.h"
 #include "ui/base/Fonts.h"
-#include "ui/base/ShareNotice.h"
+#include "ui/base/ShareStatus.h"
 #include "ui/panel/DeckPicker.h"
-#include "ui/widgets/PanelLabel.h"
+#include "ui/widgets/Label.h"
 
 #include <QHBoxLayout>
 
@@ -20,11 +20,11 @@ constexpr Seconds kCrossFadeTime {0.3};
 
 } // namespace
 
-HeaderView::HeaderView(const PanelContext& context, QWidget* parent)
+HeaderView::HeaderView(const UiContext& context, QWidget* parent)
     : QWidget(parent)
     , m_context(context)
-    , m_eyebrow(new PanelLabel(context, letterSpaced(monospacedFont(11, QFont::Medium), 1.8), Ink::Muted,
-          PanelLabel::WhenNarrow::Keep, this))
+    , m_eyebrow(new Label(context, letterSpaced(monospacedFont(11, QFont::Medium), 1.8), ColorRole::Muted,
+          Label::WhenNarrow::Keep, this))
     , m_deckPicker(new DeckPicker(context, this))
 {
     const auto row = new QHBoxLayout(this);
@@ -41,8 +41,8 @@ void HeaderView::refresh()
     const auto position = toQString(m_context.store.positionLabel());
     if (m_showReturnPulse)
         m_eyebrow->crossFadeTo(toQString(badge.text), badge.ink, kCrossFadeTime);
-    else if (m_eyebrow->ink() != Ink::Muted)
-        m_eyebrow->crossFadeTo(position, Ink::Muted, kCrossFadeTime);
+    else if (m_eyebrow->ink() != ColorRole::Muted)
+        m_eyebrow->crossFadeTo(position, ColorRole::Muted, kCrossFadeTime);
     else
         m_eyebrow->setText(position);
     m_deckPicker->refresh();

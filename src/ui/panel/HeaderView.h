@@ -2,20 +2,20 @@
 
 #include "foundation/WeakTarget.h"
 #include "platform/MainQueue.h"
-#include "ui/base/PanelContext.h"
+#include "ui/base/UiContext.h"
 
 #include <QWidget>
 
 namespace cuebright {
 
 class DeckPicker;
-class PanelLabel;
+class Label;
 
 /// The panel's first line: where the speaker is, and in which deck. For a moment after a pulse it says instead what the
 /// audience sees of the panel.
 class HeaderView final : public QWidget {
 public:
-    HeaderView(const PanelContext& context, QWidget* parent);
+    HeaderView(const UiContext& context, QWidget* parent);
 
     void refresh();
 
@@ -25,8 +25,8 @@ public:
     [[nodiscard]] DeckPicker& deckPicker() const { return *m_deckPicker; }
 
 private:
-    const PanelContext& m_context;
-    PanelLabel* m_eyebrow;
+    const UiContext& m_context;
+    Label* m_eyebrow;
     DeckPicker* m_deckPicker;
     bool m_showReturnPulse = false;
     PendingTask m_pulseEnd;

@@ -1,6 +1,6 @@
 #include "ui/panel/KeyMonitor.h"
 
-#include "ui/base/OpenSheets.h"
+#include "ui/base/ModalSheets.h"
 
 #include <QApplication>
 #include <QKeyEvent>

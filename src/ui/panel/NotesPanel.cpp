@@ -6,8 +6,8 @@
 #include "platform/qt/QtColors.h"
 #include "store/CardStore.h"
 #include "store/UndoManager.h"
-#include "ui/accessibility/WindowAccessible.h"
-#include "ui/base/OpenSheets.h"
+#include "ui/accessibility/AccessibleWindows.h"
+#include "ui/base/ModalSheets.h"
 #include "ui/editor/MarkdownEditor.h"
 
 #include <QApplication>
@@ -20,7 +20,7 @@
 
 namespace cuebright {
 
-NotesPanel::NotesPanel(const PanelContext& context)
+NotesPanel::NotesPanel(const UiContext& context)
     : QWidget(nullptr, Qt::Window | Qt::WindowStaysOnTopHint)
     , m_context(context)
     , m_undoManager(std::make_shared<UndoManager>())

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "foundation/Signal.h"
-#include "ui/base/PanelContext.h"
+#include "ui/base/UiContext.h"
 #include "ui/panel/KeyMonitor.h"
 #include "ui/panel/PanelKeys.h"
 
@@ -21,7 +21,7 @@ class UndoManager;
 /// Closing it puts it away; it is there as long as its owner keeps it. Any spot that nothing else uses moves it.
 class NotesPanel final : public QWidget {
 public:
-    explicit NotesPanel(const PanelContext& context);
+    explicit NotesPanel(const UiContext& context);
     ~NotesPanel() override;
 
     [[nodiscard]] const std::shared_ptr<UndoManager>& undoManager() const { return m_undoManager; }
@@ -60,7 +60,7 @@ private:
     void perform(const PanelKeyAction& action);
     void noticeIfOnScreenChanged();
 
-    const PanelContext& m_context;
+    const UiContext& m_context;
     std::shared_ptr<UndoManager> m_undoManager;
     KeyMonitor m_keyMonitor;
     bool m_wasOnScreen = false;

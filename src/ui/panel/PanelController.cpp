@@ -9,7 +9,7 @@
 #include "platform/WindowSystem.h"
 #include "platform/qt/TextConversion.h"
 #include "store/CardStore.h"
-#include "ui/base/ShareNotice.h"
+#include "ui/base/ShareStatus.h"
 #include "ui/panel/CardContentView.h"
 #include "ui/panel/GlobalHotKey.h"
 #include "ui/panel/NotesPanel.h"
@@ -27,14 +27,15 @@ constexpr QSize kMinimumSize {480, 360};
 constexpr Seconds kStoreDebounce {0.2};
 constexpr Seconds kAbsence {60};
 
-Presence::Motion motion(const PanelContext& context)
+AnimatedValue::Motion motion(const UiContext& context)
 {
-    return context.platform.accessibility.reduceMotion() ? Presence::Motion::AtOnce : Presence::Motion::Animated;
+    return context.platform.accessibility.reduceMotion() ? AnimatedValue::Motion::AtOnce
+                                                         : AnimatedValue::Motion::Animated;
 }
 
 } // namespace
 
-PanelController::PanelController(const PanelContext& context)
+PanelController::PanelController(const UiContext& context)
     : m_context(context)
     , m_panel(std::make_unique<NotesPanel>(context))
     , m_content(new CardContentView(context, m_panel.get()))
@@ -47,7 +48,7 @@ PanelController::PanelController(const PanelContext& context)
     configureContent();
     observeStore();
     m_panelSubscription = m_panel->isOnScreenChanged.subscribe([this] { followPanel(); });
-    m_fallSubscription =
+    m_minimisedSubscription =
         context.desktop.windowSystem.minimisedWithFullScreen.subscribe([this](WindowSystem::WindowId window) {
             if (window == m_panel->winId())
                 showPanel();
@@ -213,8 +214,8 @@ void PanelController::updateTitle()
 void PanelController::applyOpacity()
 {
     const double opacity = m_context.store.opacity();
-    const bool hasGlass = opacity < 1 && !m_context.platform.accessibility.reduceTransparency();
-    m_context.desktop.windowSystem.setGlass(m_panel->winId(), hasGlass);
+    const bool blursBehind = opacity < 1 && !m_context.platform.accessibility.reduceTransparency();
+    m_context.desktop.windowSystem.setBlurBehind(m_panel->winId(), blursBehind);
     m_showHideAnimation.setOpacity(opacity);
 }
 

@@ -4,7 +4,7 @@
 #include "foundation/WeakTarget.h"
 #include "platform/Clock.h"
 #include "platform/MainQueue.h"
-#include "ui/base/PanelContext.h"
+#include "ui/base/UiContext.h"
 #include "ui/panel/FrameMemory.h"
 #include "ui/panel/KeyMonitor.h"
 #include "ui/panel/ShowHideAnimation.h"
@@ -24,7 +24,7 @@ class NotesPanel;
 /// in step with the store.
 class PanelController final {
 public:
-    explicit PanelController(const PanelContext& context);
+    explicit PanelController(const UiContext& context);
     PanelController(const PanelController&) = delete;
     PanelController& operator=(const PanelController&) = delete;
     ~PanelController();
@@ -60,7 +60,7 @@ private:
     void tellWhatTheAudienceSees();
     void endAbsence();
 
-    const PanelContext& m_context;
+    const UiContext& m_context;
     std::unique_ptr<NotesPanel> m_panel;
     CardContentView* m_content;
     FrameMemory m_frameMemory;
@@ -77,7 +77,7 @@ private:
     Subscription m_accessibilitySubscription;
     Subscription m_exclusionSubscription;
     Subscription m_panelSubscription;
-    Subscription m_fallSubscription;
+    Subscription m_minimisedSubscription;
     Subscription m_toggleSubscription;
 };
 

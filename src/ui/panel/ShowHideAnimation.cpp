@@ -1,6 +1,6 @@
 #include "ui/panel/ShowHideAnimation.h"
 
-#include "ui/animation/ShrinkEffect.h"
+#include "ui/animation/ScaleEffect.h"
 
 #include <QWidget>
 
@@ -20,46 +20,46 @@ ShowHideAnimation::ShowHideAnimation(QWidget& window, QWidget& content, std::fun
     : m_window(window)
     , m_content(content)
     , m_hidden(std::move(hidden))
-    , m_presence(0, kDuration, [this] { apply(); })
+    , m_visibility(0, kDuration, [this] { apply(); })
 {
 }
 
 void ShowHideAnimation::setOpacity(double opacity)
 {
     m_opacity = std::clamp(opacity, 0.0, 1.0);
-    if (m_presence.hasArrived())
+    if (m_visibility.hasArrived())
         m_window.setWindowOpacity(m_opacity);
     else
         apply();
 }
 
-void ShowHideAnimation::show(Presence::Motion motion)
+void ShowHideAnimation::show(AnimatedValue::Motion motion)
 {
     m_isHiding = false;
-    if (motion == Presence::Motion::Animated)
+    if (motion == AnimatedValue::Motion::Animated)
         apply(); // nothing of it may be seen before the first step
-    m_presence.moveTo(1, motion);
+    m_visibility.moveTo(1, motion);
 }
 
-void ShowHideAnimation::hide(Presence::Motion motion)
+void ShowHideAnimation::hide(AnimatedValue::Motion motion)
 {
     m_isHiding = true;
-    m_presence.moveTo(0, motion);
+    m_visibility.moveTo(0, motion);
 }
 
 void ShowHideAnimation::reset()
 {
     m_isHiding = false;
-    m_presence.moveTo(0, Presence::Motion::AtOnce);
+    m_visibility.moveTo(0, AnimatedValue::Motion::AtOnce);
 }
 
 void ShowHideAnimation::apply()
 {
-    const double value = m_presence.value();
+    const double value = m_visibility.value();
     m_window.setWindowOpacity(m_opacity * value);
-    if (!m_presence.hasArrived() || (value == 0 && !m_isHiding)) {
+    if (!m_visibility.hasArrived() || (value == 0 && !m_isHiding)) {
         if (!m_effect) {
-            m_effect = new ShrinkEffect;
+            m_effect = new ScaleEffect;
             m_content.setGraphicsEffect(m_effect);
         }
         m_effect->setScale(1 - kShrinkage * (1 - value));

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/animation/Presence.h"
+#include "ui/animation/AnimatedValue.h"
 
 #include <QPointer>
 
@@ -10,7 +10,7 @@ class QWidget;
 
 namespace cuebright {
 
-class ShrinkEffect;
+class ScaleEffect;
 
 /// How a window comes and goes: its opacity, and 2 % of its size, which are only painted. The window's own geometry
 /// stays as it is. A new direction starts from what is on the screen.
@@ -21,8 +21,8 @@ public:
 
     /// The opacity of the window when it is all there, limited to 0 to 1.
     void setOpacity(double opacity);
-    void show(Presence::Motion motion);
-    void hide(Presence::Motion motion);
+    void show(AnimatedValue::Motion motion);
+    void hide(AnimatedValue::Motion motion);
     /// The window has left the screen by other ways: the next show starts from nothing.
     void reset();
 
@@ -34,8 +34,8 @@ private:
     std::function<void()> m_hidden;
     double m_opacity = 1;
     bool m_isHiding = false;
-    QPointer<ShrinkEffect> m_effect; ///< there only while something moves
-    Presence m_presence;
+    QPointer<ScaleEffect> m_effect; ///< there only while something moves
+    AnimatedValue m_visibility;
 };
 
 } // namespace cuebright

@@ -2,11 +2,11 @@
 
 #include "platform/qt/QtColors.h"
 #include "platform/qt/TextConversion.h"
-#include "ui/accessibility/OpenMenus.h"
+#include "ui/accessibility/MenuAccessibility.h"
 #include "ui/base/Fonts.h"
+#include "ui/widgets/ButtonBase.h"
 #include "ui/widgets/ChromeButton.h"
 #include "ui/widgets/CuebrightChromeStyle.h"
-#include "ui/widgets/PanelButton.h"
 
 #include <QFontMetricsF>
 #include <QHBoxLayout>
@@ -66,24 +66,24 @@ void choose(const TimerMenuItem& item, TimerManager& timer)
     }
 }
 
-Ink timerColor(TimerManager::Urgency urgency)
+ColorRole timerColor(TimerManager::Urgency urgency)
 {
-    return urgency == TimerManager::Urgency::Warning ? Ink::Orange : playButtonInk(urgency);
+    return urgency == TimerManager::Urgency::Warning ? ColorRole::Orange : playButtonInk(urgency);
 }
 
-Ink playButtonInk(TimerManager::Urgency urgency)
+ColorRole playButtonInk(TimerManager::Urgency urgency)
 {
     using enum TimerManager::Urgency;
-    return urgency == Critical || urgency == Expired ? Ink::Red : Ink::Muted;
+    return urgency == Critical || urgency == Expired ? ColorRole::Red : ColorRole::Muted;
 }
 
 Color timerFill(TimerManager::Urgency urgency, const Colors& colors)
 {
     switch (urgency) {
     case TimerManager::Urgency::Critical:
-        return inkColor(Ink::Red, colors).withAlpha(0.05);
+        return colorFor(ColorRole::Red, colors).withAlpha(0.05);
     case TimerManager::Urgency::Expired:
-        return inkColor(Ink::Red, colors).withAlpha(0.08);
+        return colorFor(ColorRole::Red, colors).withAlpha(0.08);
     case TimerManager::Urgency::Normal:
     case TimerManager::Urgency::Warning:
         break;
@@ -91,10 +91,10 @@ Color timerFill(TimerManager::Urgency urgency, const Colors& colors)
     return colors.sep().withAlpha(0.08);
 }
 
-class TimeButton final : public PanelButton {
+class TimeButton final : public ButtonBase {
 public:
-    TimeButton(const PanelContext& context, QWidget* parent)
-        : PanelButton(context, parent)
+    TimeButton(const UiContext& context, QWidget* parent)
+        : ButtonBase(context, parent)
     {
         setFont(letterSpaced(monospacedFont(11, QFont::DemiBold), kTimeSpacing));
         setToolTip(QStringLiteral("Click to set timer duration"));
@@ -131,7 +131,7 @@ protected:
         painter.fillPath(shape, toQColor(timerFill(m_urgency, colors)));
         painter.strokePath(shape, QPen(toQColor(colors.sep().withAlpha(kOutlineOpacity)), 1));
         painter.setFont(font());
-        painter.setPen(toQColor(inkColor(timerColor(m_urgency), colors)));
+        painter.setPen(toQColor(colorFor(timerColor(m_urgency), colors)));
         const QRectF room = QRectF(rect()).adjusted(kTimePaddingX, 0, 0, 0);
         painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, m_time);
         drawFocusRing(painter, rect(), kTimeCornerRadius);
@@ -142,7 +142,7 @@ private:
     TimerManager::Urgency m_urgency = TimerManager::Urgency::Normal;
 };
 
-TimerView::TimerView(const PanelContext& context, TimerManager& timer, QWidget* parent)
+TimerView::TimerView(const UiContext& context, TimerManager& timer, QWidget* parent)
     : QWidget(parent)
     , m_context(context)
     , m_timer(timer)

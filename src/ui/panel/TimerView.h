@@ -2,9 +2,9 @@
 
 #include "foundation/Signal.h"
 #include "timer/TimerManager.h"
-#include "ui/base/Ink.h"
-#include "ui/base/OncePerTurn.h"
-#include "ui/base/PanelContext.h"
+#include "ui/base/CoalescedCall.h"
+#include "ui/base/ColorRole.h"
+#include "ui/base/UiContext.h"
 
 #include <QMenu>
 #include <QWidget>
@@ -28,9 +28,9 @@ struct TimerMenuItem {
 void choose(const TimerMenuItem& item, TimerManager& timer);
 
 /// The ink of the time.
-[[nodiscard]] Ink timerColor(TimerManager::Urgency urgency);
+[[nodiscard]] ColorRole timerColor(TimerManager::Urgency urgency);
 /// The play button warns only at the very end.
-[[nodiscard]] Ink playButtonInk(TimerManager::Urgency urgency);
+[[nodiscard]] ColorRole playButtonInk(TimerManager::Urgency urgency);
 /// What lies behind the time.
 [[nodiscard]] Color timerFill(TimerManager::Urgency urgency, const Colors& colors);
 
@@ -41,7 +41,7 @@ class TimeButton;
 /// shows changes.
 class TimerView final : public QWidget {
 public:
-    TimerView(const PanelContext& context, TimerManager& timer, QWidget* parent);
+    TimerView(const UiContext& context, TimerManager& timer, QWidget* parent);
 
     /// Takes in what has changed.
     void refresh();
@@ -57,13 +57,13 @@ private:
 
     void openMenu();
 
-    const PanelContext& m_context;
+    const UiContext& m_context;
     TimerManager& m_timer;
     ChromeButton* m_play;
     TimeButton* m_time;
     QMenu m_menu;
     std::optional<Shown> m_shown;
-    OncePerTurn m_refresh;
+    CoalescedCall m_refresh;
     Subscription m_timerSubscription;
 };
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/base/PanelContext.h"
+#include "ui/base/UiContext.h"
 
 #include <QWidget>
 
@@ -9,7 +9,7 @@ namespace cuebright {
 /// What the program is, and whom to ask about it.
 class AboutTab final : public QWidget {
 public:
-    AboutTab(const PanelContext& context, QWidget* parent);
+    AboutTab(const UiContext& context, QWidget* parent);
 };
 
 } // namespace cuebright

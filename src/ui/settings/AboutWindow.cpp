@@ -20,8 +20,8 @@ constexpr double kTextSize = 11;
 
 } // namespace
 
-AboutWindow::AboutWindow(const PanelContext& context)
-    : CompanionWindow(context, QStringLiteral("About Cuebright"))
+AboutWindow::AboutWindow(const UiContext& context)
+    : AuxiliaryWindow(context, QStringLiteral("About Cuebright"))
 {
     const auto column = new QVBoxLayout(this);
     column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);

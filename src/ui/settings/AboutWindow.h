@@ -1,13 +1,13 @@
 #pragma once
 
-#include "ui/settings/CompanionWindow.h"
+#include "ui/settings/AuxiliaryWindow.h"
 
 namespace cuebright {
 
 /// Name, version and credits of the program.
-class AboutWindow final : public CompanionWindow {
+class AboutWindow final : public AuxiliaryWindow {
 public:
-    explicit AboutWindow(const PanelContext& context);
+    explicit AboutWindow(const UiContext& context);
 };
 
 } // namespace cuebright

@@ -5,7 +5,7 @@
 #include "store/CardStore.h"
 #include "ui/settings/SettingSlider.h"
 #include "ui/settings/SettingsSection.h"
-#include "ui/widgets/PanelLabel.h"
+#include "ui/widgets/Label.h"
 
 #include <QComboBox>
 #include <QVBoxLayout>
@@ -29,7 +29,7 @@ QString percentage(double opacity) { return wholeNumber(opacity * 100) + QLatin1
 
 } // namespace
 
-AppearanceTab::AppearanceTab(const PanelContext& context, QWidget* parent)
+AppearanceTab::AppearanceTab(const UiContext& context, QWidget* parent)
     : SettingsPage(QStringLiteral("Appearance"), parent)
     , m_context(context)
     , m_refresh(context.platform.mainQueue, [this] { refresh(); })

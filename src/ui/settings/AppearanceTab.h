@@ -1,8 +1,8 @@
 #pragma once
 
 #include "foundation/Signal.h"
-#include "ui/base/OncePerTurn.h"
-#include "ui/base/PanelContext.h"
+#include "ui/base/CoalescedCall.h"
+#include "ui/base/UiContext.h"
 #include "ui/settings/SettingsPage.h"
 
 #include <vector>
@@ -11,14 +11,14 @@ class QComboBox;
 
 namespace cuebright {
 
-class PanelLabel;
+class Label;
 class SettingSlider;
 struct Change;
 
 /// The display preferences, each changed at once and always shown as it is.
 class AppearanceTab final : public SettingsPage {
 public:
-    AppearanceTab(const PanelContext& context, QWidget* parent);
+    AppearanceTab(const UiContext& context, QWidget* parent);
     ~AppearanceTab() override;
 
 private:
@@ -29,11 +29,11 @@ private:
     void refreshIfShown(const Change& change);
     void refresh();
 
-    const PanelContext& m_context;
+    const UiContext& m_context;
     QComboBox* m_theme;
     std::vector<SettingSlider*> m_sliders;
-    PanelLabel* m_transparencyNote;
-    OncePerTurn m_refresh;
+    Label* m_transparencyNote;
+    CoalescedCall m_refresh;
     Subscription m_accessibilitySubscription;
     Subscription m_storeSubscription;
 };

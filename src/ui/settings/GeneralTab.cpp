@@ -6,7 +6,7 @@
 #include "ui/settings/ShortcutReference.h"
 #include "ui/settings/ShortcutRow.h"
 #include "ui/widgets/FocusRing.h"
-#include "ui/widgets/PanelLabel.h"
+#include "ui/widgets/Label.h"
 #include "ui/widgets/SymbolIcon.h"
 
 #include <QMessageBox>
@@ -23,7 +23,7 @@ constexpr int kBelowDescription = 8;
 
 } // namespace
 
-GeneralTab::GeneralTab(const PanelContext& context, std::function<void()> reset, QWidget* parent)
+GeneralTab::GeneralTab(const UiContext& context, std::function<void()> reset, QWidget* parent)
     : SettingsPage(QStringLiteral("General"), parent)
     , m_context(context)
     , m_reset(std::move(reset))
@@ -44,7 +44,7 @@ void GeneralTab::addShortcuts()
     }
     if (const auto note = keySymbolNote()) {
         const auto label =
-            new PanelLabel(m_context, systemFont(kSettingsNoteSize), Ink::Muted, PanelLabel::WhenNarrow::Wrap, page());
+            new Label(m_context, systemFont(kSettingsNoteSize), ColorRole::Muted, Label::WhenNarrow::Wrap, page());
         label->setText(*note);
         column().addWidget(label);
     }
@@ -53,7 +53,7 @@ void GeneralTab::addShortcuts()
 void GeneralTab::addReset()
 {
     const auto description =
-        new PanelLabel(m_context, systemFont(kSettingsTextSize), Ink::Text, PanelLabel::WhenNarrow::Wrap, page());
+        new Label(m_context, systemFont(kSettingsTextSize), ColorRole::Text, Label::WhenNarrow::Wrap, page());
     description->setText(QStringLiteral(
         "Deletes all decks and cards, resets theme, font size, opacity, and window position to defaults, restores the "
         "sample decks, and re-shows the welcome onboarding."));
@@ -77,7 +77,7 @@ void GeneralTab::askToReset()
                                              "undone. Sample decks will be restored."));
     const auto confirm = alert->addButton(QStringLiteral("Reset Everything"), QMessageBox::DestructiveRole);
     auto palette = confirm->palette();
-    palette.setColor(QPalette::ButtonText, toQColor(inkColor(Ink::Red, m_context.colors())));
+    palette.setColor(QPalette::ButtonText, toQColor(colorFor(ColorRole::Red, m_context.colors())));
     confirm->setPalette(palette);
     const auto cancel = alert->addButton(QStringLiteral("Cancel"), QMessageBox::RejectRole);
     alert->setDefaultButton(cancel); // nothing of it can be undone

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/base/PanelContext.h"
+#include "ui/base/UiContext.h"
 #include "ui/settings/SettingsPage.h"
 
 #include <functional>
@@ -11,14 +11,14 @@ namespace cuebright {
 class GeneralTab final : public SettingsPage {
 public:
     /// `reset` is called when the user has confirmed it.
-    GeneralTab(const PanelContext& context, std::function<void()> reset, QWidget* parent);
+    GeneralTab(const UiContext& context, std::function<void()> reset, QWidget* parent);
 
 private:
     void addShortcuts();
     void addReset();
     void askToReset();
 
-    const PanelContext& m_context;
+    const UiContext& m_context;
     std::function<void()> m_reset;
 };
 

@@ -18,8 +18,8 @@ constexpr double kPressedOpacity = 0.6;
 
 } // namespace
 
-LinkButton::LinkButton(const PanelContext& context, const QString& text, const QString& target, QWidget* parent)
-    : PanelButton(context, parent)
+LinkButton::LinkButton(const UiContext& context, const QString& text, const QString& target, QWidget* parent)
+    : ButtonBase(context, parent)
 {
     auto font = systemFont(kSettingsTextSize);
     font.setUnderline(true);

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "ui/widgets/PanelButton.h"
+#include "ui/widgets/ButtonBase.h"
 
 namespace cuebright {
 
 /// A text that opens a web page or a new message.
-class LinkButton final : public PanelButton {
+class LinkButton final : public ButtonBase {
 public:
-    LinkButton(const PanelContext& context, const QString& text, const QString& target, QWidget* parent);
+    LinkButton(const UiContext& context, const QString& text, const QString& target, QWidget* parent);
 
     [[nodiscard]] QSize sizeHint() const override;
 

@@ -3,7 +3,7 @@
 #include "ui/base/Fonts.h"
 #include "ui/settings/SettingsSection.h"
 #include "ui/widgets/FocusRing.h"
-#include "ui/widgets/PanelLabel.h"
+#include "ui/widgets/Label.h"
 
 #include <QHBoxLayout>
 #include <QSignalBlocker>
@@ -28,12 +28,12 @@ int SliderScale::nearest(double value) const
     return least + step * static_cast<int>(std::lround((position - least) / step));
 }
 
-SettingSlider::SettingSlider(const PanelContext& context, Setting setting, QWidget* parent)
+SettingSlider::SettingSlider(const UiContext& context, Setting setting, QWidget* parent)
     : QWidget(parent)
     , m_setting(std::move(setting))
     , m_slider(new QSlider(Qt::Horizontal, this))
-    , m_value(new PanelLabel(
-          context, systemFont(kSettingsTextSize, QFont::Medium), Ink::Text, PanelLabel::WhenNarrow::Elide, this))
+    , m_value(new Label(
+          context, systemFont(kSettingsTextSize, QFont::Medium), ColorRole::Text, Label::WhenNarrow::Elide, this))
 {
     m_slider->setRange(m_setting.scale.least, m_setting.scale.most);
     m_slider->setSingleStep(m_setting.scale.step);

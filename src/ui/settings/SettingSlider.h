@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/base/PanelContext.h"
+#include "ui/base/UiContext.h"
 
 #include <QWidget>
 
@@ -10,7 +10,7 @@ class QSlider;
 
 namespace cuebright {
 
-class PanelLabel;
+class Label;
 
 /// Where a slider can stand: at `least`, `least + step`, … `most`, each so many parts of one.
 struct SliderScale {
@@ -36,7 +36,7 @@ public:
         std::function<void(double)> write;
     };
 
-    SettingSlider(const PanelContext& context, Setting setting, QWidget* parent);
+    SettingSlider(const UiContext& context, Setting setting, QWidget* parent);
 
     /// Shows the value as it is now.
     void refresh();
@@ -47,7 +47,7 @@ private:
 
     Setting m_setting;
     QSlider* m_slider;
-    PanelLabel* m_value;
+    Label* m_value;
 };
 
 } // namespace cuebright

@@ -3,7 +3,7 @@
 #include "platform/qt/QtColors.h"
 #include "ui/base/Fonts.h"
 #include "ui/widgets/CuebrightChromeStyle.h"
-#include "ui/widgets/PanelLabel.h"
+#include "ui/widgets/Label.h"
 
 #include <QPainter>
 #include <QVBoxLayout>
@@ -21,14 +21,14 @@ constexpr double kFill = 0.25;
 
 } // namespace
 
-SettingsSection::SettingsSection(const PanelContext& context, const QString& title, QWidget* parent)
+SettingsSection::SettingsSection(const UiContext& context, const QString& title, QWidget* parent)
     : QWidget(parent)
     , m_context(context)
     , m_frame(new QWidget(this))
     , m_rows(new QVBoxLayout(m_frame))
 {
-    const auto heading = new PanelLabel(
-        context, systemFont(kSettingsTextSize, QFont::DemiBold), Ink::Text, PanelLabel::WhenNarrow::Keep, this);
+    const auto heading = new Label(
+        context, systemFont(kSettingsTextSize, QFont::DemiBold), ColorRole::Text, Label::WhenNarrow::Keep, this);
     heading->setText(title);
     heading->stackUnder(m_frame); // read before it
     m_rows->setContentsMargins(kHorizontalPadding, kVerticalPadding, kHorizontalPadding, kVerticalPadding);
@@ -42,10 +42,10 @@ SettingsSection::SettingsSection(const PanelContext& context, const QString& tit
 
 void SettingsSection::add(QWidget* widget) { m_rows->addWidget(widget); }
 
-PanelLabel* SettingsSection::addNote(const QString& text)
+Label* SettingsSection::addNote(const QString& text)
 {
     const auto note =
-        new PanelLabel(m_context, systemFont(kSettingsNoteSize), Ink::Muted, PanelLabel::WhenNarrow::Wrap, m_frame);
+        new Label(m_context, systemFont(kSettingsNoteSize), ColorRole::Muted, Label::WhenNarrow::Wrap, m_frame);
     note->setText(text);
     add(note);
     return note;

@@ -3,12 +3,12 @@
 #include "platform/Accessibility.h"
 #include "platform/qt/TextConversion.h"
 #include "ui/base/Fonts.h"
-#include "ui/base/ShareNotice.h"
+#include "ui/base/ShareStatus.h"
 #include "ui/settings/AboutTab.h"
 #include "ui/settings/AppearanceTab.h"
 #include "ui/settings/GeneralTab.h"
 #include "ui/settings/SettingsSection.h"
-#include "ui/widgets/PanelLabel.h"
+#include "ui/widgets/Label.h"
 #include "ui/widgets/SymbolIcon.h"
 
 #include <QShortcut>
@@ -27,12 +27,11 @@ constexpr int kAdvicePadding = 10;
 
 } // namespace
 
-SettingsView::SettingsView(const PanelContext& context, std::function<void()> reset, QWidget* parent)
+SettingsView::SettingsView(const UiContext& context, std::function<void()> reset, QWidget* parent)
     : QWidget(parent)
     , m_context(context)
     , m_tabs(new QTabWidget(this))
-    , m_shareAdvice(
-          new PanelLabel(context, systemFont(kSettingsNoteSize), Ink::Text, PanelLabel::WhenNarrow::Wrap, this))
+    , m_shareAdvice(new Label(context, systemFont(kSettingsNoteSize), ColorRole::Text, Label::WhenNarrow::Wrap, this))
 {
     setFont(systemFont(kSettingsTextSize));
     m_tabs->setDocumentMode(true);

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "foundation/Signal.h"
-#include "ui/base/PanelContext.h"
+#include "ui/base/UiContext.h"
 
 #include <QWidget>
 
@@ -11,22 +11,22 @@ class QTabWidget;
 
 namespace cuebright {
 
-class PanelLabel;
+class Label;
 
 /// Everything there is to set, in tabs. What is changed here holds at once; what is changed elsewhere shows here.
 class SettingsView final : public QWidget {
 public:
     /// `reset` puts everything back to the first day; it is called when the user has confirmed it.
-    SettingsView(const PanelContext& context, std::function<void()> reset, QWidget* parent);
+    SettingsView(const UiContext& context, std::function<void()> reset, QWidget* parent);
     ~SettingsView() override;
 
 private:
     void addPagingKeys();
     void tellWhatTheAudienceSees();
 
-    const PanelContext& m_context;
+    const UiContext& m_context;
     QTabWidget* m_tabs;
-    PanelLabel* m_shareAdvice;
+    Label* m_shareAdvice;
     Subscription m_accessibilitySubscription;
     Subscription m_exclusionSubscription;
 };

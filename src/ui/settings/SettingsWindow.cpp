@@ -15,8 +15,8 @@ constexpr QSize kSize {460, 480};
 
 } // namespace
 
-SettingsWindow::SettingsWindow(const PanelContext& context, std::function<void()> reset)
-    : CompanionWindow(context, QStringLiteral("Cuebright Settings"))
+SettingsWindow::SettingsWindow(const UiContext& context, std::function<void()> reset)
+    : AuxiliaryWindow(context, QStringLiteral("Cuebright Settings"))
 {
     const auto view = new SettingsView(context, std::move(reset), this);
     const auto column = new QVBoxLayout(this);

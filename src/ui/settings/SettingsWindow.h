@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/settings/CompanionWindow.h"
+#include "ui/settings/AuxiliaryWindow.h"
 
 #include <functional>
 
@@ -9,10 +9,10 @@ class QMenuBar;
 namespace cuebright {
 
 /// The settings in a window of their own.
-class SettingsWindow final : public CompanionWindow {
+class SettingsWindow final : public AuxiliaryWindow {
 public:
     /// `reset` puts everything back to the first day; it is called when the user has confirmed it.
-    SettingsWindow(const PanelContext& context, std::function<void()> reset);
+    SettingsWindow(const UiContext& context, std::function<void()> reset);
 
     /// For the main menu, which has to be there for the keyboard in this window too.
     [[nodiscard]] QMenuBar& addMenuBar();

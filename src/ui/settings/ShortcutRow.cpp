@@ -2,17 +2,17 @@
 
 #include "ui/base/Fonts.h"
 #include "ui/settings/SettingsSection.h"
-#include "ui/widgets/PanelLabel.h"
+#include "ui/widgets/Label.h"
 
 #include <QHBoxLayout>
 
 namespace cuebright {
 
-ShortcutRow::ShortcutRow(const PanelContext& context, const ShortcutSection::Row& row, QWidget* parent)
+ShortcutRow::ShortcutRow(const UiContext& context, const ShortcutSection::Row& row, QWidget* parent)
     : QWidget(parent)
 {
     const auto add = [&](const QString& text, const QFont& font) {
-        const auto label = new PanelLabel(context, font, Ink::Text, PanelLabel::WhenNarrow::Keep, this);
+        const auto label = new Label(context, font, ColorRole::Text, Label::WhenNarrow::Keep, this);
         label->setText(text);
         return label;
     };

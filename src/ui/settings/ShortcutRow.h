@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/base/PanelContext.h"
+#include "ui/base/UiContext.h"
 #include "ui/settings/ShortcutReference.h"
 
 #include <QWidget>
@@ -10,7 +10,7 @@ namespace cuebright {
 /// One line of the shortcut reference: what is done on the left, by which keys on the right.
 class ShortcutRow final : public QWidget {
 public:
-    ShortcutRow(const PanelContext& context, const ShortcutSection::Row& row, QWidget* parent);
+    ShortcutRow(const UiContext& context, const ShortcutSection::Row& row, QWidget* parent);
 };
 
 } // namespace cuebright

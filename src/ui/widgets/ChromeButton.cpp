@@ -48,26 +48,26 @@ void drawSymbol(QPainter& painter, Icon icon, double side, const QRectF& rect)
 
 } // namespace
 
-ChromeButton::ChromeButton(const PanelContext& context, std::optional<Symbol> symbol, QWidget* parent)
-    : PanelButton(context, parent)
+ChromeButton::ChromeButton(const UiContext& context, std::optional<Symbol> symbol, QWidget* parent)
+    : ButtonBase(context, parent)
     , m_symbol(symbol)
     , m_frameWidth(kFrameWidth)
     , m_press(
           0, Seconds(CuebrightChromeStyle::kPressAnimationTime / 1000.0), [this] { update(); },
           Animation::Curve::EaseOut)
 {
-    connect(this, &QAbstractButton::pressed, this, [this] { m_press.moveTo(1, Presence::Motion::Animated); });
-    connect(this, &QAbstractButton::released, this, [this] { m_press.moveTo(0, Presence::Motion::Animated); });
+    connect(this, &QAbstractButton::pressed, this, [this] { m_press.moveTo(1, AnimatedValue::Motion::Animated); });
+    connect(this, &QAbstractButton::released, this, [this] { m_press.moveTo(0, AnimatedValue::Motion::Animated); });
 }
 
-ChromeButton::ChromeButton(const PanelContext& context, const QString& text, QWidget* parent)
+ChromeButton::ChromeButton(const UiContext& context, const QString& text, QWidget* parent)
     : ChromeButton(context, std::nullopt, parent)
 {
     setText(text);
     setFont(letterSpaced(monospacedFont(kTitleSize, QFont::DemiBold), kTitleSpacing));
 }
 
-ChromeButton::ChromeButton(const PanelContext& context, Icon icon, int side, const QString& name, QWidget* parent)
+ChromeButton::ChromeButton(const UiContext& context, Icon icon, int side, const QString& name, QWidget* parent)
     : ChromeButton(context, Symbol {icon, side}, parent)
 {
     setName(name);
@@ -85,7 +85,7 @@ void ChromeButton::setFrameWidth(int width)
     updateGeometry();
 }
 
-void ChromeButton::setSymbol(Icon icon, Ink ink, const QString& name)
+void ChromeButton::setSymbol(Icon icon, ColorRole ink, const QString& name)
 {
     if (name != accessibleName())
         setName(name);
@@ -110,7 +110,7 @@ void ChromeButton::paintEvent(QPaintEvent*)
     const CuebrightChromeStyle::State state {m_press.value(), isEnabled(), hasFocus()};
     CuebrightChromeStyle(colors).draw(painter, rect(), state, [&](QPainter& labelPainter) {
         if (m_symbol && m_symbol->ink)
-            labelPainter.setPen(toQColor(inkColor(*m_symbol->ink, colors)));
+            labelPainter.setPen(toQColor(colorFor(*m_symbol->ink, colors)));
         if (m_symbol)
             drawSymbol(labelPainter, m_symbol->icon, m_symbol->side, rect());
         else

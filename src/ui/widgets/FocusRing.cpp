@@ -15,7 +15,7 @@ constexpr double kCornerRadius = 5;
 
 } // namespace
 
-FocusRing::FocusRing(const PanelContext& context, QWidget* target, When when)
+FocusRing::FocusRing(const UiContext& context, QWidget* target, When when)
     : QFocusFrame(target)
     , m_context(context)
     , m_target(target)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/base/PanelContext.h"
+#include "ui/base/UiContext.h"
 
 #include <QFocusFrame>
 
@@ -15,7 +15,7 @@ public:
     /// Something large needs no ring as long as nobody goes through the window by Tab.
     enum class When { Focused, ReachedByTab };
 
-    FocusRing(const PanelContext& context, QWidget* target, When when = When::Focused);
+    FocusRing(const UiContext& context, QWidget* target, When when = When::Focused);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -24,7 +24,7 @@ protected:
 private:
     void place();
 
-    const PanelContext& m_context;
+    const UiContext& m_context;
     QWidget* m_target;
     When m_when;
     bool m_isReachedByTab = false;

@@ -37,7 +37,7 @@ struct EditorModel {
 };
 
 /// What ends with the program.
-struct Session {
+struct DesktopSession {
     bool isEditing = false;
     std::string editText;
     std::string originalText;
@@ -69,7 +69,7 @@ struct Session {
 
 /// The rules of the whole program once more, as plainly as they can be put: values without views, on surroundings of
 /// its own that are treated as the program's are.
-struct Model : Session {
+struct Model : DesktopSession {
     Model() { start(); }
 
     std::vector<Deck> decks;

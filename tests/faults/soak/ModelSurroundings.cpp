@@ -10,7 +10,7 @@ namespace cuebright::soak {
 /// For the first time or again.
 void Model::start()
 {
-    static_cast<Session&>(*this) = {};
+    static_cast<DesktopSession&>(*this) = {};
     fake.preferences.setBoolean(preferenceKeys::kOnboardingDone, true);
     transitionId = fake.uuids.makeUuid();
     load();

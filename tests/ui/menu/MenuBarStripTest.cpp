@@ -6,10 +6,10 @@ using MenuBarStripTest = MenuFixture;
 
 TEST_F(MenuBarStripTest, IsThereWhileTheKeyboardOrThePointerIsInThePanelAndElseNeitherSeenNorClicked)
 {
-    EXPECT_TRUE(waitUntil([&] { return strip.presence() == 1; }));
+    EXPECT_TRUE(waitUntil([&] { return strip.fade() == 1; }));
     QWidget other;
     giveKeyboardTo(other);
-    ASSERT_TRUE(waitUntil([&] { return strip.presence() == 0; }));
+    ASSERT_TRUE(waitUntil([&] { return strip.fade() == 0; }));
     EXPECT_TRUE(strip.isVisible()) << "hidden it would have no keys";
     const auto picture = panel.grab(QRect(0, 0, panel.width(), 40)).toImage();
     auto plain = picture;
@@ -19,10 +19,10 @@ TEST_F(MenuBarStripTest, IsThereWhileTheKeyboardOrThePointerIsInThePanelAndElseN
     const QPointF spot(200, 200);
     QEnterEvent enter(spot, spot, spot);
     QApplication::sendEvent(&panel, &enter);
-    EXPECT_TRUE(waitUntil([&] { return strip.presence() == 1; }));
+    EXPECT_TRUE(waitUntil([&] { return strip.fade() == 1; }));
     QEvent leave(QEvent::Leave);
     QApplication::sendEvent(&panel, &leave);
-    EXPECT_TRUE(waitUntil([&] { return strip.presence() == 0; }));
+    EXPECT_TRUE(waitUntil([&] { return strip.fade() == 0; }));
 }
 
 TEST_F(MenuBarStripTest, LeavesRoomToDragThePanelAndFitsTheNarrowestOne)

@@ -1,6 +1,6 @@
 #include "ui/menu/StatusItem.h"
 
-#include "platform/system/TrayWatch.h"
+#include "platform/system/TrayAvailability.h"
 #include "ui/panel/PanelController.h"
 #include "ui/panel/PanelFixture.h"
 

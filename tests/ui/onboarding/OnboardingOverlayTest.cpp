@@ -1,9 +1,9 @@
 #include "ui/onboarding/OnboardingOverlay.h"
 
 #include "support/EventLoop.h"
-#include "ui/base/ShareNotice.h"
+#include "ui/base/ShareStatus.h"
 #include "ui/panel/PanelFixture.h"
-#include "ui/widgets/PanelLabel.h"
+#include "ui/widgets/Label.h"
 
 #include <QApplication>
 #include <QLineEdit>
@@ -105,7 +105,7 @@ TEST_F(OnboardingOverlayTest, EveryPageFitsIntoTheSmallestPanel)
     const int buttonTop = button().geometry().top();
     for (int page = 0; page < 4; ++page) {
         int bottom = 0;
-        for (const auto label : overlay->findChildren<PanelLabel*>()) {
+        for (const auto label : overlay->findChildren<Label*>()) {
             if (!label->isVisible())
                 continue;
             const QRect place(label->mapTo(overlay, QPoint()), label->size());

@@ -2,7 +2,7 @@
 
 #include "platform/qt/Contrast.h"
 #include "support/EventLoop.h"
-#include "ui/base/Ink.h"
+#include "ui/base/ColorRole.h"
 #include "ui/panel/CardContentView.h"
 #include "ui/panel/FooterView.h"
 #include "ui/panel/PanelFixture.h"
@@ -57,18 +57,18 @@ TEST(FooterPlaces, StandInTheirOrderAndTheErrorGivesWayFirstThenTheFeedbackThenT
         EXPECT_EQ(describe(footerPlaces(widths, available)), places) << available;
 }
 
-TEST(Ink, WarningsCanBeReadInEveryLook)
+TEST(ColorRole, WarningsCanBeReadInEveryLook)
 {
     using Urgency = TimerManager::Urgency;
     for (const int look : {0, 1, 2, 3}) {
         const bool highContrast = look >= 2;
         const Colors colors(look % 2 == 1, highContrast);
-        for (const auto ink : {Ink::Red, Ink::Orange})
-            EXPECT_GE(contrast(inkColor(ink, colors), colors.warmBg()), highContrast ? 7 : 4.5)
+        for (const auto ink : {ColorRole::Red, ColorRole::Orange})
+            EXPECT_GE(contrast(colorFor(ink, colors), colors.warmBg()), highContrast ? 7 : 4.5)
                 << static_cast<int>(ink) << look;
         for (const auto urgency : {Urgency::Warning, Urgency::Critical, Urgency::Expired})
             EXPECT_GE(
-                contrast(inkColor(timerColor(urgency), colors), over(timerFill(urgency, colors), colors.warmBg())),
+                contrast(colorFor(timerColor(urgency), colors), over(timerFill(urgency, colors), colors.warmBg())),
                 highContrast ? 6.0 : 4.5)
                 << static_cast<int>(urgency) << look;
     }

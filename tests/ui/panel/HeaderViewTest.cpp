@@ -2,7 +2,7 @@
 #include "ui/base/Notifications.h"
 
 #include "platform/qt/QtAppearance.h"
-#include "ui/base/ShareNotice.h"
+#include "ui/base/ShareStatus.h"
 #include "ui/panel/DeckPicker.h"
 #include "ui/panel/PanelFixture.h"
 
@@ -43,10 +43,10 @@ protected:
 TEST_F(HeaderViewTest, TheBadgeSaysWhatIsKnownOfScreenShares)
 {
     using enum CaptureExclusion::State;
-    EXPECT_EQ(badgeFor(Excluded), (ShareBadge {"HIDDEN FROM SHARE", Ink::Accent}));
-    EXPECT_EQ(badgeFor(Blackout), (ShareBadge {"BLACK BOX IN SHARE", Ink::Accent}));
-    EXPECT_EQ(badgeFor(Visible), (ShareBadge {"VISIBLE IN SHARE", Ink::Red}));
-    EXPECT_EQ(badgeFor(Unknown), (ShareBadge {"MAY BE VISIBLE IN SHARE", Ink::Orange}));
+    EXPECT_EQ(badgeFor(Excluded), (ShareBadge {"HIDDEN FROM SHARE", ColorRole::Accent}));
+    EXPECT_EQ(badgeFor(Blackout), (ShareBadge {"BLACK BOX IN SHARE", ColorRole::Accent}));
+    EXPECT_EQ(badgeFor(Visible), (ShareBadge {"VISIBLE IN SHARE", ColorRole::Red}));
+    EXPECT_EQ(badgeFor(Unknown), (ShareBadge {"MAY BE VISIBLE IN SHARE", ColorRole::Orange}));
 }
 
 TEST_F(HeaderViewTest, APulseShowsTheBadgeForOneSecond)

@@ -3,7 +3,7 @@
 #include "foundation/NotificationCenter.h"
 #include "store/CardStore.h"
 #include "support/FakePlatform.h"
-#include "ui/base/PanelContext.h"
+#include "ui/base/UiContext.h"
 
 #include <QAccessible>
 #include <QMenu>
@@ -21,7 +21,7 @@ protected:
     FakePlatform fake;
     NotificationCenter notifications;
     CardStore store {fake.platform()};
-    PanelContext context {store, notifications, fake.platform(), fake.desktop()};
+    UiContext context {store, notifications, fake.platform(), fake.desktop()};
 
     /// Replaces all decks by one with these cards.
     void setCards(const std::vector<std::string>& contents, std::int64_t activeCard = 0);

@@ -81,8 +81,9 @@ TEST_F(TimerViewTest, TheMenuOpensByMouseAndKeyboardAndSetsTheTimer)
 TEST_F(TimerViewTest, ColoursTellHowUrgentItIs)
 {
     using enum TimerManager::Urgency;
-    const std::tuple<TimerManager::Urgency, Ink, Ink> cases[] = {{Normal, Ink::Muted, Ink::Muted},
-        {Warning, Ink::Orange, Ink::Muted}, {Critical, Ink::Red, Ink::Red}, {Expired, Ink::Red, Ink::Red}};
+    const std::tuple<TimerManager::Urgency, ColorRole, ColorRole> cases[] = {
+        {Normal, ColorRole::Muted, ColorRole::Muted}, {Warning, ColorRole::Orange, ColorRole::Muted},
+        {Critical, ColorRole::Red, ColorRole::Red}, {Expired, ColorRole::Red, ColorRole::Red}};
     for (const auto& [urgency, time, button] : cases) {
         EXPECT_EQ(timerColor(urgency), time);
         EXPECT_EQ(playButtonInk(urgency), button);

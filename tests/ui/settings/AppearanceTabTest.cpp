@@ -14,7 +14,7 @@ namespace cuebright::test {
 class AppearanceTabTest : public PanelFixture {
 protected:
     std::unique_ptr<CardStore> storeShown;
-    std::unique_ptr<PanelContext> contextShown;
+    std::unique_ptr<UiContext> contextShown;
     std::unique_ptr<AppearanceTab> tab;
 
     /// With what the preferences hold at the start.
@@ -22,7 +22,7 @@ protected:
     {
         tab.reset();
         storeShown = std::make_unique<CardStore>(fake.platform());
-        contextShown.reset(new PanelContext {*storeShown, notifications, fake.platform(), fake.desktop()});
+        contextShown.reset(new UiContext {*storeShown, notifications, fake.platform(), fake.desktop()});
         tab = std::make_unique<AppearanceTab>(*contextShown, nullptr);
         fake.preferences.writes.clear();
     }

@@ -11,7 +11,7 @@ namespace {
 constexpr HyprlandVersion kHasRule {0, 50};
 constexpr HyprlandVersion kHasProperty {0, 53};
 constexpr HyprlandVersion kHasLanguages {0, 55};
-constexpr Seconds kPatience {3};
+constexpr Seconds kReplyTimeout {3};
 
 std::string withoutLineEnd(const std::string& text) { return text.substr(0, text.find_last_not_of("\r\n ") + 1); }
 
@@ -44,7 +44,7 @@ void HyprlandCaptureExclusion::sendRuleAnew()
 {
     m_isUnverified = false;
     m_ipc->abandonRequests();
-    startPatience();
+    startTimeout();
     request("j/version", [this](const std::string& reply) {
         const auto version = hyprlandVersion(reply);
         if (!version)
@@ -79,15 +79,15 @@ void HyprlandCaptureExclusion::sendRule(HyprlandVersion version, HyprlandLanguag
     });
 }
 
-void HyprlandCaptureExclusion::startPatience()
+void HyprlandCaptureExclusion::startTimeout()
 {
     m_deadline.cancel();
-    m_deadline = m_mainQueue.after(kPatience, m_self.guard([this] { giveUp(); }));
+    m_deadline = m_mainQueue.after(kReplyTimeout, m_self.guard([this] { giveUp(); }));
 }
 
 void HyprlandCaptureExclusion::lookUpWindows()
 {
-    startPatience();
+    startTimeout();
     m_isUnverified = false;
     m_hasNewWindow = false;
     request("j/clients", [this](const std::string& reply) {

@@ -35,7 +35,7 @@ private:
     void sendRuleAnew();
     void learnLanguage(HyprlandVersion version);
     void sendRule(HyprlandVersion version, HyprlandLanguage language);
-    void startPatience();
+    void startTimeout();
     void lookUpWindows();
     void verify(std::vector<std::string> addresses);
     void request(const std::string& text, std::function<void(const std::string&)> answered);

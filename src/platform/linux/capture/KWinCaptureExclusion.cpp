@@ -11,15 +11,15 @@ namespace cuebright {
 namespace {
 
 constexpr std::string_view kPlugin = "cuebright";
-constexpr Seconds kPatience {3};
+constexpr Seconds kReplyTimeout {3};
 
 } // namespace
 
 KWinCaptureExclusion::KWinCaptureExclusion(std::unique_ptr<KWinScripting> scripting, MainQueue& mainQueue)
     : m_scripting(std::move(scripting))
     , m_mainQueue(mainQueue)
-    , m_presenceSubscription(m_scripting->presenceChanged.subscribe(
-          [this](KWinScripting::Presence presence) { followCompositor(presence); }))
+    , m_availabilitySubscription(m_scripting->availabilityChanged.subscribe(
+          [this](KWinScripting::Availability availability) { followCompositor(availability); }))
     , m_reportSubscription(m_scripting->reported.subscribe([this](std::string_view word) { takeReport(word); }))
 {
 }
@@ -46,9 +46,9 @@ void KWinCaptureExclusion::reapplyIfLost(std::function<void()> reapplied)
         load();
 }
 
-void KWinCaptureExclusion::followCompositor(KWinScripting::Presence presence)
+void KWinCaptureExclusion::followCompositor(KWinScripting::Availability availability)
 {
-    m_isPresent = presence == KWinScripting::Presence::Present;
+    m_isPresent = availability == KWinScripting::Availability::Present;
     if (m_isPresent)
         return load();
     beginAttempt();
@@ -60,7 +60,7 @@ void KWinCaptureExclusion::beginAttempt()
     ++m_attempt;
     m_isRunning = false;
     m_deadline.cancel();
-    m_deadline = m_mainQueue.after(kPatience, m_self.guard([this] { settle(State::Unknown); }));
+    m_deadline = m_mainQueue.after(kReplyTimeout, m_self.guard([this] { settle(State::Unknown); }));
 }
 
 void KWinCaptureExclusion::load()

@@ -29,7 +29,7 @@ public:
     void reapplyIfLost(std::function<void()> reapplied) override;
 
 private:
-    void followCompositor(KWinScripting::Presence presence);
+    void followCompositor(KWinScripting::Availability availability);
     void beginAttempt();
     void load();
     void run(int script);
@@ -48,7 +48,7 @@ private:
     PendingTask m_deadline;
     std::function<void()> m_reapplied;
     WeakTarget m_self;
-    Subscription m_presenceSubscription;
+    Subscription m_availabilitySubscription;
     Subscription m_reportSubscription;
 };
 

@@ -13,11 +13,11 @@ namespace cuebright {
 /// at all once this object is gone.
 class KWinScripting {
 public:
-    enum class Presence { Absent, Present };
+    enum class Availability { Absent, Present };
 
     virtual ~KWinScripting() = default;
 
-    /// Looks for KWin. Call once; `presenceChanged` answers.
+    /// Looks for KWin. Call once; `availabilityChanged` answers.
     virtual void start() = 0;
 
     /// The name under which a script reaches us; empty before `start` and where there is no bus.
@@ -32,7 +32,7 @@ public:
     virtual void run(int id, std::function<void(bool isRunning)> done) = 0;
 
     /// With `Present`: it is a KWin that has not been seen yet and holds none of our scripts.
-    Signal<Presence> presenceChanged;
+    Signal<Availability> availabilityChanged;
     /// A script in the present KWin has reported this word.
     Signal<std::string_view> reported;
 };

@@ -1,8 +1,8 @@
 #include "platform/linux/capture/SessionCaptureExclusion.h"
 
 #include "platform/fallback/NoCaptureExclusion.h"
-#include "platform/linux/base/Session.h"
-#include "platform/linux/capture/BusKWinScripting.h"
+#include "platform/linux/base/DesktopSession.h"
+#include "platform/linux/capture/DBusKWinScripting.h"
 #include "platform/linux/capture/HyprlandCaptureExclusion.h"
 #include "platform/linux/capture/HyprlandSocket.h"
 #include "platform/linux/capture/KWinCaptureExclusion.h"
@@ -30,30 +30,30 @@ SessionCaptureExclusion nothingToAsk(CaptureExclusion::State known)
 
 } // namespace
 
-CaptureExclusionWay captureExclusionWay(const Session& session)
+CaptureExclusionMethod captureExclusionMethod(const DesktopSession& session)
 {
     if (!session.isWayland) // every X11 client can read the whole screen
-        return CaptureExclusionWay::NoneAndVisible;
+        return CaptureExclusionMethod::NoneAndVisible;
     if (!session.hyprlandInstance.empty())
-        return CaptureExclusionWay::Hyprland;
+        return CaptureExclusionMethod::Hyprland;
     if (session.isDesktop("KDE"))
-        return CaptureExclusionWay::KWin;
+        return CaptureExclusionMethod::KWin;
     const bool isKnown = std::ranges::any_of(kHideNothing, [&](auto name) { return session.isDesktop(name); });
-    return isKnown ? CaptureExclusionWay::NoneAndVisible : CaptureExclusionWay::NoneAndUnknown;
+    return isKnown ? CaptureExclusionMethod::NoneAndVisible : CaptureExclusionMethod::NoneAndUnknown;
 }
 
-SessionCaptureExclusion makeCaptureExclusion(const Session& session, MainQueue& mainQueue)
+SessionCaptureExclusion makeCaptureExclusion(const DesktopSession& session, MainQueue& mainQueue)
 {
-    switch (captureExclusionWay(session)) {
-    case CaptureExclusionWay::KWin:
+    switch (captureExclusionMethod(session)) {
+    case CaptureExclusionMethod::KWin:
         return startable(std::make_unique<KWinCaptureExclusion>(
-            std::make_unique<BusKWinScripting>(&QDBusConnection::sessionBus, session.runtimeDirectory), mainQueue));
-    case CaptureExclusionWay::Hyprland:
+            std::make_unique<DBusKWinScripting>(&QDBusConnection::sessionBus, session.runtimeDirectory), mainQueue));
+    case CaptureExclusionMethod::Hyprland:
         return startable(std::make_unique<HyprlandCaptureExclusion>(
             std::make_unique<HyprlandSocket>(session.runtimeDirectory / "hypr" / session.hyprlandInstance), mainQueue));
-    case CaptureExclusionWay::NoneAndVisible:
+    case CaptureExclusionMethod::NoneAndVisible:
         return nothingToAsk(CaptureExclusion::State::Visible);
-    case CaptureExclusionWay::NoneAndUnknown:
+    case CaptureExclusionMethod::NoneAndUnknown:
         break;
     }
     return nothingToAsk(CaptureExclusion::State::Unknown);

@@ -8,12 +8,12 @@
 namespace cuebright {
 
 class MainQueue;
-struct Session;
+struct DesktopSession;
 
 /// Who can keep windows out of screen shares in a session, and where nobody can, what is known of it.
-enum class CaptureExclusionWay { KWin, Hyprland, NoneAndVisible, NoneAndUnknown };
+enum class CaptureExclusionMethod { KWin, Hyprland, NoneAndVisible, NoneAndUnknown };
 
-[[nodiscard]] CaptureExclusionWay captureExclusionWay(const Session& session);
+[[nodiscard]] CaptureExclusionMethod captureExclusionMethod(const DesktopSession& session);
 
 struct SessionCaptureExclusion {
     std::unique_ptr<CaptureExclusion> exclusion;
@@ -21,6 +21,6 @@ struct SessionCaptureExclusion {
 };
 
 /// `mainQueue` outlives the result.
-[[nodiscard]] SessionCaptureExclusion makeCaptureExclusion(const Session& session, MainQueue& mainQueue);
+[[nodiscard]] SessionCaptureExclusion makeCaptureExclusion(const DesktopSession& session, MainQueue& mainQueue);
 
 } // namespace cuebright

@@ -14,7 +14,7 @@ namespace cuebright {
 
 namespace {
 
-std::optional<FileDescriptor> connectedTo(const std::filesystem::path& socket)
+std::optional<FileDescriptor> tryConnect(const std::filesystem::path& socket)
 {
     const auto& path = socket.native();
     sockaddr_un address {};
@@ -33,7 +33,7 @@ std::optional<FileDescriptor> connectedTo(const std::filesystem::path& socket)
 
 UnixConnection::UnixConnection(const std::filesystem::path& socket)
 {
-    if (auto descriptor = connectedTo(socket))
+    if (auto descriptor = tryConnect(socket))
         m_descriptor.emplace(std::move(*descriptor));
     if (!m_descriptor)
         return;

@@ -43,16 +43,16 @@ Message busCall(const char* member)
     return Message(dbus_message_new_method_call(DBUS_SERVICE_DBUS, DBUS_PATH_DBUS, DBUS_INTERFACE_DBUS, member));
 }
 
-Message send(DBusConnection* connection, const Message& call, std::chrono::milliseconds patience, Error& error)
+Message send(DBusConnection* connection, const Message& call, std::chrono::milliseconds timeout, Error& error)
 {
     return Message(dbus_connection_send_with_reply_and_block(
-        connection, call.get(), static_cast<int>(patience.count()), error.get()));
+        connection, call.get(), static_cast<int>(timeout.count()), error.get()));
 }
 
 /// libdbus waits for the other side's half of the handshake for ever when a call is sent before it.
-bool isAdmitted(DBusConnection* connection, std::chrono::milliseconds patience)
+bool isAdmitted(DBusConnection* connection, std::chrono::milliseconds timeout)
 {
-    const auto deadline = std::chrono::steady_clock::now() + patience;
+    const auto deadline = std::chrono::steady_clock::now() + timeout;
     while (dbus_connection_get_is_connected(connection) && !dbus_connection_get_is_authenticated(connection)) {
         const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - std::chrono::steady_clock::now());
         if (left.count() <= 0)
@@ -63,27 +63,27 @@ bool isAdmitted(DBusConnection* connection, std::chrono::milliseconds patience)
 }
 
 /// Not `dbus_bus_get`, which would start a bus where there is none, and wait for one that hangs.
-Connection connectTo(const std::string& address, std::chrono::milliseconds patience)
+Connection connectTo(const std::string& address, std::chrono::milliseconds timeout)
 {
     Error error;
     Connection connection(dbus_connection_open_private(address.c_str(), error.get()));
     if (!connection)
         return nullptr;
     dbus_connection_set_exit_on_disconnect(connection.get(), FALSE);
-    if (!isAdmitted(connection.get(), patience) || !send(connection.get(), busCall("Hello"), patience, error))
+    if (!isAdmitted(connection.get(), timeout) || !send(connection.get(), busCall("Hello"), timeout, error))
         return nullptr;
     return connection;
 }
 
 /// The bus's answer to the wish for the program's name.
-std::optional<dbus_uint32_t> requestName(DBusConnection* connection, std::chrono::milliseconds patience)
+std::optional<dbus_uint32_t> requestName(DBusConnection* connection, std::chrono::milliseconds timeout)
 {
     const char* const name = kApplicationName;
     const dbus_uint32_t flags = DBUS_NAME_FLAG_DO_NOT_QUEUE;
     const auto call = busCall("RequestName");
     dbus_message_append_args(call.get(), DBUS_TYPE_STRING, &name, DBUS_TYPE_UINT32, &flags, DBUS_TYPE_INVALID);
     Error error;
-    const auto reply = send(connection, call, patience, error);
+    const auto reply = send(connection, call, timeout, error);
     dbus_uint32_t answer = 0;
     if (!reply || !dbus_message_get_args(reply.get(), error.get(), DBUS_TYPE_UINT32, &answer, DBUS_TYPE_INVALID))
         return std::nullopt;
@@ -117,10 +117,10 @@ Message activateCall(const ApplicationBusName::PlatformData& data)
 
 /// Nothing where the owner of the name has gone meanwhile.
 std::optional<InstanceClaim> handOver(
-    DBusConnection* connection, const ApplicationBusName::PlatformData& data, std::chrono::milliseconds patience)
+    DBusConnection* connection, const ApplicationBusName::PlatformData& data, std::chrono::milliseconds timeout)
 {
     Error error;
-    if (send(connection, activateCall(data), patience, error))
+    if (send(connection, activateCall(data), timeout, error))
         return InstanceClaim::HandedOver;
     if (error.is(DBUS_ERROR_SERVICE_UNKNOWN) || error.is(DBUS_ERROR_NAME_HAS_NO_OWNER))
         return std::nullopt;
@@ -152,7 +152,7 @@ struct ApplicationBusName::Bus {
             return reply;
         }
         const auto request = requestIn(call);
-        if (const auto* const refusal = std::get_if<BusRefusal>(&request))
+        if (const auto* const refusal = std::get_if<DBusRefusal>(&request))
             return Message(dbus_message_new_error(call, refusal->error, refusal->text));
         perform(std::get<RemoteRequest>(request));
         return Message(dbus_message_new_method_return(call));
@@ -181,14 +181,14 @@ ApplicationBusName::ApplicationBusName(std::optional<std::string> busAddress)
 
 ApplicationBusName::~ApplicationBusName() = default;
 
-InstanceClaim ApplicationBusName::claim(const PlatformData& data, std::chrono::milliseconds patience)
+InstanceClaim ApplicationBusName::claim(const PlatformData& data, std::chrono::milliseconds timeout)
 {
-    auto connection = m_address ? connectTo(*m_address, patience) : nullptr;
+    auto connection = m_address ? connectTo(*m_address, timeout) : nullptr;
     if (!connection)
         return InstanceClaim::Unavailable;
     bool isQueued = false;
     for (int attempt = 0; attempt < 3; ++attempt) {
-        const auto answer = requestName(connection.get(), patience);
+        const auto answer = requestName(connection.get(), timeout);
         if (!answer)
             return InstanceClaim::Unavailable;
         if (*answer == DBUS_REQUEST_NAME_REPLY_PRIMARY_OWNER) {
@@ -197,7 +197,7 @@ InstanceClaim ApplicationBusName::claim(const PlatformData& data, std::chrono::m
         }
         if (isQueued)
             return InstanceClaim::Queued;
-        const auto outcome = handOver(connection.get(), data, patience);
+        const auto outcome = handOver(connection.get(), data, timeout);
         isQueued = outcome == InstanceClaim::Queued; // or the owner went instead of answering, and the name is free
         if (outcome && !isQueued)
             return *outcome;

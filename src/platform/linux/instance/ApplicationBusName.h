@@ -33,7 +33,8 @@ public:
     ApplicationBusName& operator=(const ApplicationBusName&) = delete;
 
     /// Takes the name, or asks its owner to activate itself.
-    [[nodiscard]] InstanceClaim claim(const PlatformData& data, std::chrono::milliseconds patience = kInstancePatience);
+    [[nodiscard]] InstanceClaim claim(
+        const PlatformData& data, std::chrono::milliseconds timeout = kInstanceReplyTimeout);
 
     /// Passes on what is asked for, from now on from the event loop. Does nothing where the claim was not granted.
     void deliver(std::function<void(const RemoteRequest&)> perform);

@@ -24,16 +24,16 @@ constexpr std::array<NamedAction, 3> kActions {
     {{"toggle-panel", Action::TogglePanel}, {"next-card", Action::NextCard}, {"previous-card", Action::PreviousCard}}};
 
 /// The first argument is the action, the second its parameters.
-std::variant<Action, BusRefusal> actionIn(DBusMessageIter argument)
+std::variant<Action, DBusRefusal> actionIn(DBusMessageIter argument)
 {
     const char* name = nullptr;
     dbus_message_iter_get_basic(&argument, &name);
     const auto known = std::ranges::find(kActions, std::string_view(name), &NamedAction::name);
     if (known == kActions.end())
-        return BusRefusal {DBUS_ERROR_INVALID_ARGS, "There is no such action"};
+        return DBusRefusal {DBUS_ERROR_INVALID_ARGS, "There is no such action"};
     dbus_message_iter_next(&argument);
     if (dbus_message_iter_get_element_count(&argument) != 0)
-        return BusRefusal {DBUS_ERROR_INVALID_ARGS, "The action takes no parameter"};
+        return DBusRefusal {DBUS_ERROR_INVALID_ARGS, "The action takes no parameter"};
     return known->action;
 }
 
@@ -69,23 +69,23 @@ std::string tokenIn(DBusMessageIter argument)
 
 } // namespace
 
-std::variant<RemoteRequest, BusRefusal> requestIn(DBusMessage* call)
+std::variant<RemoteRequest, DBusRefusal> requestIn(DBusMessage* call)
 {
     const char* const interface = dbus_message_get_interface(call);
     if (interface && std::string_view(interface) != kApplicationInterface)
-        return BusRefusal {DBUS_ERROR_UNKNOWN_INTERFACE, "There is no such interface here"};
+        return DBusRefusal {DBUS_ERROR_UNKNOWN_INTERFACE, "There is no such interface here"};
     const auto method = std::ranges::find(kMethods, std::string_view(dbus_message_get_member(call)), &Method::name);
     if (method == kMethods.end())
-        return BusRefusal {DBUS_ERROR_UNKNOWN_METHOD, "There is no such method"};
+        return DBusRefusal {DBUS_ERROR_UNKNOWN_METHOD, "There is no such method"};
     if (!dbus_message_has_signature(call, method->signature))
-        return BusRefusal {DBUS_ERROR_INVALID_ARGS, "The method has other arguments"};
+        return DBusRefusal {DBUS_ERROR_INVALID_ARGS, "The method has other arguments"};
 
     DBusMessageIter arguments;
     dbus_message_iter_init(call, &arguments);
     if (method->name != "ActivateAction")
         return RemoteRequest {Action::Activate, tokenIn(arguments)};
     const auto action = actionIn(arguments);
-    if (const auto* const refusal = std::get_if<BusRefusal>(&action))
+    if (const auto* const refusal = std::get_if<DBusRefusal>(&action))
         return *refusal;
     return RemoteRequest {std::get<Action>(action), tokenIn(arguments)};
 }

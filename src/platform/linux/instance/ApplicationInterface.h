@@ -15,13 +15,13 @@ constexpr const char* kApplicationPath = "/app/cuebright/Cuebright";
 constexpr const char* kApplicationInterface = "org.freedesktop.Application";
 
 /// What is sent back instead of an answer.
-struct BusRefusal {
+struct DBusRefusal {
     const char* error;
     const char* text;
 };
 
 /// What a call to the object asks for, or why that cannot be had. Files to be opened are passed over.
-[[nodiscard]] std::variant<RemoteRequest, BusRefusal> requestIn(DBusMessage* call);
+[[nodiscard]] std::variant<RemoteRequest, DBusRefusal> requestIn(DBusMessage* call);
 
 [[nodiscard]] bool isIntrospection(DBusMessage* call);
 [[nodiscard]] const char* applicationIntrospection();

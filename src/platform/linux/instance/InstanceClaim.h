@@ -14,6 +14,6 @@ enum class InstanceClaim {
 };
 
 /// How long an instance that has stopped answering may hold up a launch.
-constexpr std::chrono::milliseconds kInstancePatience {1000};
+constexpr std::chrono::milliseconds kInstanceReplyTimeout {1000};
 
 } // namespace cuebright

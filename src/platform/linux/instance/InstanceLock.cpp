@@ -56,7 +56,7 @@ sockaddr_un addressIn(const FileDescriptor& folder)
 }
 
 /// A socket that has sent the token to the one that listens, and that the answer comes to.
-std::optional<FileDescriptor> sentTo(const FileDescriptor& folder, std::string_view token)
+std::optional<FileDescriptor> trySend(const FileDescriptor& folder, std::string_view token)
 {
     FileDescriptor socket(openSocket());
     const sockaddr_un own {AF_UNIX, {}};
@@ -99,11 +99,11 @@ InstanceLock::InstanceLock(const std::vector<std::filesystem::path>& folders)
 
 InstanceLock::~InstanceLock() = default;
 
-InstanceClaim InstanceLock::claim(const std::string& token, std::chrono::milliseconds patience)
+InstanceClaim InstanceLock::claim(const std::string& token, std::chrono::milliseconds timeout)
 {
     if (m_lock.get() < 0)
         return InstanceClaim::Unavailable;
-    const auto deadline = Clock::now() + patience;
+    const auto deadline = Clock::now() + timeout;
     std::optional<FileDescriptor> conversation;
     do {
         // Again each time: the other one may be on its way out.
@@ -114,7 +114,7 @@ InstanceClaim InstanceLock::claim(const std::string& token, std::chrono::millise
         if (errno != EWOULDBLOCK && errno != EINTR) // a file system without locks
             return InstanceClaim::Unavailable;
         if (!conversation) {
-            if (auto socket = sentTo(m_folder, std::string_view(token).substr(0, kLongestToken)))
+            if (auto socket = trySend(m_folder, std::string_view(token).substr(0, kLongestToken)))
                 conversation.emplace(std::move(*socket));
         }
         if (!conversation) // between its lock and its socket

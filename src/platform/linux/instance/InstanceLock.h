@@ -26,7 +26,8 @@ public:
     explicit InstanceLock(const std::vector<std::filesystem::path>& folders = usualFolders());
     ~InstanceLock();
 
-    [[nodiscard]] InstanceClaim claim(const std::string& token, std::chrono::milliseconds patience = kInstancePatience);
+    [[nodiscard]] InstanceClaim claim(
+        const std::string& token, std::chrono::milliseconds timeout = kInstanceReplyTimeout);
 
     /// Passes on what further launches ask for, from now on from the event loop. Does nothing where the claim was not
     /// granted.

@@ -25,9 +25,9 @@ void Portal::call(const QString& interface, const QString& method, const QVarian
     ++m_owedAnswers;
     auto* const watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(message), &m_context);
     QObject::connect(watcher, &QDBusPendingCallWatcher::finished, watcher,
-        [this, watcher, era = m_era, answered = std::move(answered)] {
+        [this, watcher, generation = m_generation, answered = std::move(answered)] {
             watcher->deleteLater();
-            if (era != m_era)
+            if (generation != m_generation)
                 return;
             --m_owedAnswers;
             answered(watcher->reply());
@@ -47,7 +47,7 @@ void Portal::changeOwner(const QString& oldOwner, const QString& newOwner)
     const bool isStartedByUs = oldOwner.isEmpty() && m_owedAnswers > 0;
     if (isStartedByUs)
         return;
-    ++m_era;
+    ++m_generation;
     m_owedAnswers = 0;
     if (!oldOwner.isEmpty())
         m_left();

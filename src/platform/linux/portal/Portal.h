@@ -33,7 +33,7 @@ private:
     QDBusConnection m_bus;
     std::function<void()> m_appeared;
     std::function<void()> m_left;
-    int m_era = 0; ///< tells the answers of one portal from those of the one before
+    int m_generation = 0; ///< tells the answers of one portal from those of the one before
     int m_owedAnswers = 0;
     QObject m_context; ///< ends the watching of calls with this object
     QDBusServiceWatcher m_watcher;

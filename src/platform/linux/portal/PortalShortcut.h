@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/HotKeys.h"
-#include "platform/linux/base/BusSignal.h"
+#include "platform/linux/base/DBusSignal.h"
 #include "platform/linux/portal/Portal.h"
 
 #include <functional>
@@ -39,9 +39,9 @@ private:
     QString m_session; ///< path of the session; empty while there is none
     bool m_isBound = false;
     Portal m_portal;
-    BusSignal m_response;
-    BusSignal m_activated;
-    BusSignal m_closed;
+    DBusSignal m_response;
+    DBusSignal m_activated;
+    DBusSignal m_closed;
 };
 
 } // namespace cuebright

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/linux/base/BusSignal.h"
+#include "platform/linux/base/DBusSignal.h"
 #include "platform/linux/portal/DesktopSettings.h"
 #include "platform/linux/portal/Portal.h"
 
@@ -24,7 +24,7 @@ private:
     DesktopSettings m_settings;
     bool m_hasAnswer = false;
     Portal m_portal;
-    BusSignal m_settingChanged;
+    DBusSignal m_settingChanged;
 };
 
 } // namespace cuebright

@@ -46,7 +46,7 @@ void X11WindowSystem::release(WindowId window)
         m_x11.deleteProperty(static_cast<xcb_window_t>(window), XCB_ATOM_WM_TRANSIENT_FOR);
 }
 
-void X11WindowSystem::setGlass(WindowId window, bool isOn)
+void X11WindowSystem::setBlurBehind(WindowId window, bool isOn)
 {
     // No rectangles: all of the window.
     if (isOn)

@@ -21,7 +21,7 @@ public:
 
     void keepAboveFullScreen(WindowId window) override;
     void release(WindowId window) override;
-    void setGlass(WindowId window, bool isOn) override;
+    void setBlurBehind(WindowId window, bool isOn) override;
 
     bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* result) override;
 

@@ -91,7 +91,7 @@ Answers answersOf(const std::string& version)
 }
 
 /// An exclusion with the compositor that it talks to.
-struct Conversation {
+struct Request {
     void start(Answers answers)
     {
         compositor.answers = std::move(answers);
@@ -116,7 +116,7 @@ struct Conversation {
     HyprlandCaptureExclusion exclusion {std::make_unique<HyprlandSocket>(folder.path()), platform.mainQueue};
 };
 
-class HyprlandCaptureExclusionTest : public testing::Test, protected Conversation { };
+class HyprlandCaptureExclusionTest : public testing::Test, protected Request { };
 
 const std::string kPattern = "^(Cuebright|cuebright|app[.]cuebright[.]Cuebright)$";
 const std::string kFirst = "/keyword windowrule noscreenshare, class:" + kPattern;
@@ -169,7 +169,7 @@ TEST(HyprlandConversation, UsesTheRuleOfEachVersionAndEndsInWhatTheCompositorCon
         SCOPED_TRACE(name);
         auto answers = differently;
         answers.merge(answersOf(version));
-        Conversation conversation;
+        Request conversation;
         conversation.start(std::move(answers));
         EXPECT_TRUE(conversation.reaches(state));
         EXPECT_EQ(conversation.compositor.requests, requests);
@@ -247,7 +247,7 @@ TEST_F(HyprlandCaptureExclusionTest, NothingIsClaimedWhereACompositorCannotBeRea
     EXPECT_FALSE(exclusion.isSettled()) << "a failure comes later, as an answer would";
     EXPECT_TRUE(reaches(State::Unknown));
 
-    Conversation deaf;
+    Request deaf;
     std::filesystem::remove(deaf.folder.file(".socket2.sock"));
     deaf.start(answersOf("0.52.0"));
     EXPECT_TRUE(deaf.exclusion.isSettled());

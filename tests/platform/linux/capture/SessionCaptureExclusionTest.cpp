@@ -1,6 +1,6 @@
 #include "platform/linux/capture/SessionCaptureExclusion.h"
 
-#include "platform/linux/base/Session.h"
+#include "platform/linux/base/DesktopSession.h"
 
 #include <gtest/gtest.h>
 
@@ -10,8 +10,8 @@ namespace cuebright::test {
 
 TEST(SessionCaptureExclusion, EachSessionGetsWhatItsCompositorOffers)
 {
-    using enum CaptureExclusionWay;
-    const std::tuple<const char*, Session, CaptureExclusionWay> cases[] = {
+    using enum CaptureExclusionMethod;
+    const std::tuple<const char*, DesktopSession, CaptureExclusionMethod> cases[] = {
         {"Plasma", {true, {"KDE"}, {}, {}}, KWin},
         {"Plasma on X11", {false, {"KDE"}, {}, {}}, NoneAndVisible},
         {"bare X11", {}, NoneAndVisible},
@@ -27,7 +27,7 @@ TEST(SessionCaptureExclusion, EachSessionGetsWhatItsCompositorOffers)
         {"nameless Wayland", {true, {}, {}, {}}, NoneAndUnknown},
     };
     for (const auto& [name, session, way] : cases)
-        EXPECT_EQ(captureExclusionWay(session), way) << name;
+        EXPECT_EQ(captureExclusionMethod(session), way) << name;
 }
 
 } // namespace cuebright::test

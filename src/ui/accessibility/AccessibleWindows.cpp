@@ -1,0 +1,23 @@
+#include "ui/accessibility/AccessibleWindows.h"
+
+#include <QAccessibleWidget>
+#include <QWidget>
+
+namespace cuebright {
+
+namespace {
+
+QAccessibleInterface* makeInterface(const QString& className, QObject* object)
+{
+    // Windows of the program's own, which have no class of the toolkit's but this.
+    if (className != QLatin1String("QWidget") || !object->isWidgetType())
+        return nullptr;
+    const auto widget = static_cast<QWidget*>(object);
+    return widget->windowType() == Qt::Window ? new QAccessibleWidget(widget, QAccessible::Window) : nullptr;
+}
+
+} // namespace
+
+void presentWindowsToScreenReaders() { QAccessible::installFactory(makeInterface); }
+
+} // namespace cuebright

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QGraphicsEffect>
+
+namespace cuebright {
+
+/// Draws a widget a little smaller, about its centre.
+class ScaleEffect final : public QGraphicsEffect {
+public:
+    /// 1 is the full size.
+    void setScale(double scale);
+
+protected:
+    void draw(QPainter* painter) override;
+
+private:
+    double m_scale = 1;
+};
+
+} // namespace cuebright

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/Accessibility.h"
+#include "platform/Appearance.h"
+#include "platform/Desktop.h"
+#include "platform/Platform.h"
+#include "theme/Colors.h"
+
+namespace cuebright {
+
+class CardStore;
+class NotificationCenter;
+
+/// What the panel and its views work with. Outlives them all.
+struct UiContext {
+    CardStore& store;
+    NotificationCenter& notifications;
+    Platform platform;
+    Desktop desktop;
+
+    /// The colours to draw with now.
+    [[nodiscard]] Colors colors() const
+    {
+        return {platform.appearance.isDark(), platform.accessibility.increaseContrast()};
+    }
+};
+
+} // namespace cuebright

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "ui/base/UiContext.h"
+
+#include <QAbstractButton>
+
+namespace cuebright {
+
+/// A button of the panel that draws itself: reached by Tab only, pressed by mouse, Space and Return.
+class ButtonBase : public QAbstractButton {
+public:
+    ButtonBase(const UiContext& context, QWidget* parent)
+        : QAbstractButton(parent)
+        , m_context(context)
+    {
+        setFocusPolicy(Qt::TabFocus);
+        setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    }
+
+    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+    /// Shows where the keyboard is, around `rect`.
+    void drawFocusRing(QPainter& painter, const QRectF& rect, double cornerRadius) const;
+
+    const UiContext& m_context;
+};
+
+} // namespace cuebright
