@@ -22,7 +22,7 @@ const QString kPath = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString kSettings = QStringLiteral("org.freedesktop.portal.Settings");
 const QString kShortcuts = QStringLiteral("org.freedesktop.portal.GlobalShortcuts");
 const QString kRegistry = QStringLiteral("org.freedesktop.host.portal.Registry");
-const QString kSession = QStringLiteral("org.freedesktop.portal.DesktopSession");
+const QString kSession = QStringLiteral("org.freedesktop.portal.Session");
 const QString kRequest = QStringLiteral("org.freedesktop.portal.Request");
 
 /// What throws is answered with an error.

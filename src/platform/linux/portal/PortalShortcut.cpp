@@ -16,7 +16,7 @@ namespace {
 using Shortcuts = QList<QPair<QString, QVariantMap>>; // a(sa{sv})
 
 QString shortcutsInterface() { return QStringLiteral("org.freedesktop.portal.GlobalShortcuts"); }
-QString sessionInterface() { return QStringLiteral("org.freedesktop.portal.DesktopSession"); }
+QString sessionInterface() { return QStringLiteral("org.freedesktop.portal.Session"); }
 QString createStep() { return QStringLiteral("create"); }
 QString bindStep() { return QStringLiteral("bind"); }
 
