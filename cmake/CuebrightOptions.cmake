@@ -8,12 +8,12 @@ if(NOT MSVC)
         target_compile_options(cuebright_options INTERFACE -Werror)
     endif()
     if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-        # Optimised, it finds fault with the library's own strings.
+        # GCC 12 reports a false -Wrestrict inside std::string at -O2.
         target_compile_options(cuebright_options INTERFACE "$<$<CONFIG:Release>:-Wno-restrict>")
     endif()
 endif()
 
-# What distributions build with: a smashed stack or an overrun buffer ends the program.
+# The hardening that distributions use: a smashed stack or an overrun buffer ends the program.
 if(CMAKE_SYSTEM_NAME STREQUAL Linux AND NOT CUEBRIGHT_SANITIZE)
     target_compile_options(cuebright_options INTERFACE
         "$<$<CONFIG:Release>:-fstack-protector-strong;-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>")
@@ -26,11 +26,11 @@ if(CUEBRIGHT_SANITIZE)
     target_link_options(cuebright_options INTERFACE -fsanitize=${CUEBRIGHT_SANITIZE})
 endif()
 
-# Qt targets link this as well: Qt's keywords and silent conversions stay off.
+# For Qt targets as well: without Qt's keywords and implicit string conversions.
 add_library(cuebright_qt_options INTERFACE)
 target_compile_definitions(cuebright_qt_options INTERFACE QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_FOREACH)
 target_link_libraries(cuebright_qt_options INTERFACE cuebright_options)
-# Code around widgets waits for the toolkit: small is worth more than fast, in memory as at the start.
+# Widget code spends its time in Qt, so optimise it for size: less memory, faster start.
 if(NOT MSVC)
     target_compile_options(cuebright_qt_options INTERFACE "$<$<CONFIG:Release>:-Os>")
 endif()

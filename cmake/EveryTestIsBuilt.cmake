@@ -1,4 +1,4 @@
-# Stops the configuration at a test file that no suite builds, for it would never run.
+# Stops the configuration if a test file is in no suite, since it would never run.
 function(cuebright_check_every_test_is_built)
     set(built "")
     foreach(suite core_tests ui_tests desktop_tests)
