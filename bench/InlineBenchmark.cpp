@@ -1,5 +1,5 @@
 #include "markdown/CardParser.h"
-#include "markdown/StyledText.h"
+#include "markdown/InlineParser.h"
 #include "support/LargeState.h"
 
 #include <benchmark/benchmark.h>

@@ -10,8 +10,8 @@ struct Block {
     enum class Kind { Heading, Bullet, NumberedItem, Blockquote, Paragraph };
 
     Kind kind;
-    std::string text; ///< UTF-8, inline markers still in it
-    std::int64_t number = 0; ///< of a numbered item, as written; 1 where it does not fit
+    std::string text; ///< UTF-8, with its inline markers
+    std::int64_t number = 0; ///< of a numbered item; 1 if too large or not in ASCII digits
 
     bool operator==(const Block&) const = default;
 };

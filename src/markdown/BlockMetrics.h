@@ -7,7 +7,7 @@
 /// Sizes of a card's blocks, in logical pixels.
 namespace cuebright {
 
-/// The size of a heading's text beside body text of `fontSize`.
+/// The size of a heading's text for body text of `fontSize`.
 [[nodiscard]] constexpr double headingSize(double fontSize) { return std::min(2 * fontSize, 42.0); }
 
 /// The space below a block, the last one included.

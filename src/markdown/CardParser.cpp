@@ -32,8 +32,8 @@ std::optional<NumberMarker> numberMarker(std::string_view line)
     return NumberMarker {digits, position + 1 + space.length};
 }
 
-/// 1 for what does not fit and for the digits of other scripts.
-std::int64_t numberOf(std::string_view digits)
+/// 1 if the number is too large or has digits of another script.
+std::int64_t parseNumber(std::string_view digits)
 {
     std::int64_t number = 1;
     const auto end = digits.data() + digits.size();
@@ -41,7 +41,7 @@ std::int64_t numberOf(std::string_view digits)
     return result.ec == std::errc() && result.ptr == end ? number : 1;
 }
 
-Block blockOf(std::string_view line)
+Block parseLine(std::string_view line)
 {
     if (line.starts_with("# "))
         return {Block::Kind::Heading, std::string(line.substr(kMarkerLength))};
@@ -50,7 +50,7 @@ Block blockOf(std::string_view line)
     if (line.starts_with("- "))
         return {Block::Kind::Bullet, std::string(line.substr(kMarkerLength))};
     if (const auto marker = numberMarker(line))
-        return {Block::Kind::NumberedItem, std::string(line.substr(marker->length)), numberOf(marker->digits)};
+        return {Block::Kind::NumberedItem, std::string(line.substr(marker->length)), parseNumber(marker->digits)};
     return {Block::Kind::Paragraph, std::string(line)};
 }
 
@@ -62,7 +62,7 @@ std::vector<Block> parseMarkdown(std::string_view content)
     for (std::size_t start = 0; start < content.size();) {
         const auto end = std::min(content.find('\n', start), content.size());
         if (const auto line = trimBlanks(content.substr(start, end - start)); !line.empty())
-            blocks.push_back(blockOf(line));
+            blocks.push_back(parseLine(line));
         start = end + 1;
     }
     return blocks;

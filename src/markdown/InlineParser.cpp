@@ -11,20 +11,21 @@ namespace cuebright {
 
 namespace {
 
-constexpr std::size_t kLongestText = 16'384;
-constexpr std::ptrdiff_t kMostBrackets = 2000;
+constexpr std::size_t kMaxLength = 16'384;
+constexpr std::ptrdiff_t kMaxBrackets = 2000;
 
-/// A word before and after the text keeps it a paragraph of one line whatever it holds; the blanks beside them look to
-/// the parser like the line's ends.
+/// With a word before and after it, any text is a paragraph to cmark; the spaces act as the ends of a line would.
 constexpr std::string_view kFrameStart = "a ";
 constexpr std::string_view kFrameEnd = " a";
 
-/// What would end the line. The parser sees a blank in its place: one that the text neither holds nor spells as a
-/// character reference, hence the number of them; none of these has a reference by name.
+/// cmark would treat a line break as a soft break. Each is replaced, before parsing, by a rare space that occurs in the
+/// text neither literally nor as a numeric reference, and restored afterwards. No space listed here has a named
+/// reference.
 constexpr std::array<std::string_view, 2> kLineEnds {"\r", "\n"};
-constexpr std::array<std::string_view, 7> kBlanks {"\f", "\u1680", "\u2000", "\u2001", "\u2006", "\u202f", "\u3000"};
+constexpr std::array<std::string_view, 7> kRareSpaces {
+    "\f", "\u1680", "\u2000", "\u2001", "\u2006", "\u202f", "\u3000"};
 
-std::string replacedAll(std::string_view text, std::string_view from, std::string_view to)
+std::string replaceAll(std::string_view text, std::string_view from, std::string_view to)
 {
     std::string result;
     std::size_t start = 0;
@@ -35,10 +36,10 @@ std::string replacedAll(std::string_view text, std::string_view from, std::strin
     return result.append(text.substr(start));
 }
 
-bool mustStayPlain(std::string_view text)
+bool isTooComplex(std::string_view text)
 {
     const auto isBracket = [](char c) { return c == '[' || c == ']'; };
-    return text.size() > kLongestText || std::count_if(text.begin(), text.end(), isBracket) > kMostBrackets;
+    return text.size() > kMaxLength || std::count_if(text.begin(), text.end(), isBracket) > kMaxBrackets;
 }
 
 struct NodeDeleter {
@@ -48,9 +49,9 @@ struct IteratorDeleter {
     void operator()(cmark_iter* iterator) const { cmark_iter_free(iterator); }
 };
 
-bool looksLike(const InlineRun& a, const InlineRun& b)
+bool haveSameStyle(const StyledRun& a, const StyledRun& b)
 {
-    return a.isStrong == b.isStrong && a.isEmphasised == b.isEmphasised && a.isCode == b.isCode && a.link == b.link;
+    return a.isBold == b.isBold && a.isItalic == b.isItalic && a.isCode == b.isCode && a.link == b.link;
 }
 
 class RunCollector final {
@@ -81,7 +82,7 @@ public:
             leaveStyle(node);
     }
 
-    [[nodiscard]] std::vector<InlineRun> take() { return std::move(m_runs); }
+    [[nodiscard]] std::vector<StyledRun> take() { return std::move(m_runs); }
 
 private:
     [[nodiscard]] bool isInDescription() const { return m_images > 0; }
@@ -112,21 +113,21 @@ private:
     {
         if (*text == '\0')
             return;
-        InlineRun run {text, m_strong > 0, m_emphasis > 0, isCode, m_link};
-        if (!m_runs.empty() && looksLike(run, m_runs.back()))
+        StyledRun run {text, m_strong > 0, m_emphasis > 0, isCode, m_link};
+        if (!m_runs.empty() && haveSameStyle(run, m_runs.back()))
             m_runs.back().text += run.text;
         else
             m_runs.push_back(std::move(run));
     }
 
-    std::vector<InlineRun> m_runs;
-    int m_images = 0; ///< that we are in the description of
+    std::vector<StyledRun> m_runs;
+    int m_images = 0; ///< nesting depth of image descriptions
     int m_strong = 0;
     int m_emphasis = 0;
     std::optional<std::string> m_link;
 };
 
-std::vector<InlineRun> parsed(const std::string& framed)
+std::vector<StyledRun> parse(const std::string& framed)
 {
     const std::unique_ptr<cmark_node, NodeDeleter> document(
         cmark_parse_document(framed.data(), framed.size(), CMARK_OPT_DEFAULT));
@@ -142,69 +143,67 @@ std::vector<InlineRun> parsed(const std::string& framed)
     return collector.take();
 }
 
-void cutFrame(std::vector<InlineRun>& runs)
+void removeFrame(std::vector<StyledRun>& runs)
 {
     runs.front().text.erase(0, kFrameStart.size());
     auto& last = runs.back().text;
     last.resize(last.size() - kFrameEnd.size());
-    std::erase_if(runs, [](const InlineRun& run) { return run.text.empty(); });
+    std::erase_if(runs, [](const StyledRun& run) { return run.text.empty(); });
 }
 
-std::vector<InlineRun> runsOfLine(std::string_view line)
+std::vector<StyledRun> parseLine(std::string_view line)
 {
     std::string framed(kFrameStart);
     framed.append(line).append(kFrameEnd);
-    auto runs = parsed(framed);
-    cutFrame(runs);
+    auto runs = parse(framed);
+    removeFrame(runs);
     return runs;
 }
 
-/// The blanks that occur in none of the texts, as many as there are line ends; fewer where they do not suffice.
-std::vector<std::string_view> freeBlanks(std::string_view text, const std::vector<InlineRun>& runs)
+/// Rare spaces that occur neither in `text` nor in `runs`: one for each kind of line end, or fewer if all are in use.
+std::vector<std::string_view> unusedSpaces(std::string_view text, const std::vector<StyledRun>& runs)
 {
-    std::vector<std::string_view> blanks;
-    for (const auto blank : kBlanks) {
-        const auto holds = [blank](const InlineRun& run) { return run.text.find(blank) != std::string::npos; };
-        const bool isFree = text.find(blank) == std::string_view::npos && std::none_of(runs.begin(), runs.end(), holds);
-        if (isFree && blanks.size() < kLineEnds.size())
-            blanks.push_back(blank);
+    std::vector<std::string_view> spaces;
+    for (const auto space : kRareSpaces) {
+        const auto holds = [space](const StyledRun& run) { return run.text.find(space) != std::string::npos; };
+        const bool isUnused =
+            text.find(space) == std::string_view::npos && std::none_of(runs.begin(), runs.end(), holds);
+        if (isUnused && spaces.size() < kLineEnds.size())
+            spaces.push_back(space);
     }
-    return blanks;
+    return spaces;
 }
 
-std::vector<InlineRun> plainRun(std::string_view text)
-{
-    return {InlineRun {.text = std::string(text), .link = std::nullopt}};
-}
+std::vector<StyledRun> plainRun(std::string_view text) { return {StyledRun {.text = std::string(text)}}; }
 
-std::vector<InlineRun> runsOfLines(std::string_view text)
+std::vector<StyledRun> parseLines(std::string_view text)
 {
     std::string line(text);
     std::replace_if(
         line.begin(), line.end(), [](char c) { return c == '\r' || c == '\n'; }, ' ');
-    const auto blanks = freeBlanks(text, runsOfLine(line));
-    if (blanks.size() < kLineEnds.size())
+    const auto spaces = unusedSpaces(text, parseLine(line));
+    if (spaces.size() < kLineEnds.size())
         return plainRun(text);
 
     line = text;
     for (std::size_t i = 0; i < kLineEnds.size(); ++i)
-        line = replacedAll(line, kLineEnds[i], blanks[i]);
-    auto runs = runsOfLine(line);
+        line = replaceAll(line, kLineEnds[i], spaces[i]);
+    auto runs = parseLine(line);
     for (auto& run : runs)
         for (std::size_t i = 0; i < kLineEnds.size(); ++i)
-            run.text = replacedAll(run.text, blanks[i], kLineEnds[i]);
+            run.text = replaceAll(run.text, spaces[i], kLineEnds[i]);
     return runs;
 }
 
 } // namespace
 
-std::vector<InlineRun> parseInline(std::string_view text)
+std::vector<StyledRun> renderInline(std::string_view text)
 {
     if (text.empty())
         return {};
-    if (mustStayPlain(text))
+    if (isTooComplex(text))
         return plainRun(text);
-    return text.find_first_of("\r\n") == std::string_view::npos ? runsOfLine(text) : runsOfLines(text);
+    return text.find_first_of("\r\n") == std::string_view::npos ? parseLine(text) : parseLines(text);
 }
 
 } // namespace cuebright

@@ -21,11 +21,11 @@ bool isValidUtf8(std::string_view text)
     return true;
 }
 
-bool isPlain(const InlineRun& run) { return !run.isStrong && !run.isEmphasised && !run.isCode && !run.link; }
+bool isPlain(const StyledRun& run) { return !run.isBold && !run.isItalic && !run.isCode && !run.link; }
 
-bool looksLike(const InlineRun& a, const InlineRun& b)
+bool looksLike(const StyledRun& a, const StyledRun& b)
 {
-    return a.isStrong == b.isStrong && a.isEmphasised == b.isEmphasised && a.isCode == b.isCode && a.link == b.link;
+    return a.isBold == b.isBold && a.isItalic == b.isItalic && a.isCode == b.isCode && a.link == b.link;
 }
 
 /// Nothing in it can be a marker, a character reference or an escape, and the zero character is not replaced.
@@ -45,7 +45,7 @@ std::size_t longestText(std::string_view text)
 
 void checkText(std::string_view text)
 {
-    const auto runs = parseInline(text);
+    const auto runs = renderInline(text);
     std::size_t length = 0;
     for (const auto& run : runs) {
         length += run.text.size();
@@ -67,6 +67,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (isValidUtf8(text))
         checkText(text);
     else
-        (void)parseInline(text);
+        (void)renderInline(text);
     return 0;
 }

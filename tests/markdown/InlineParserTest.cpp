@@ -8,15 +8,15 @@ namespace {
 void expectRuns(const std::vector<std::pair<std::string_view, std::string_view>>& cases)
 {
     for (const auto& [text, runs] : cases)
-        EXPECT_EQ(describe(parseInline(text)), runs) << "of " << testing::PrintToString(text);
+        EXPECT_EQ(describe(renderInline(text)), runs) << "of " << testing::PrintToString(text);
 }
 
 /// They are plain, in one run.
 void expectUnchanged(const std::vector<std::string_view>& texts)
 {
     for (const auto text : texts) {
-        const std::vector<InlineRun> itself {{.text = std::string(text), .link = std::nullopt}};
-        EXPECT_EQ(parseInline(text), itself) << "of " << testing::PrintToString(text.substr(0, 100));
+        const std::vector<StyledRun> itself {{.text = std::string(text)}};
+        EXPECT_EQ(renderInline(text), itself) << "of " << testing::PrintToString(text.substr(0, 100));
     }
 }
 
@@ -154,17 +154,17 @@ TEST(InlineParser, WhatCouldTakeSecondsIsOnePlainRunAndWhatIsJustShortEnoughIsPa
     expectUnchanged({std::string(10'000, '['), repeated("![[]()", 10'000),
         repeated("[", 10'000) + "a" + repeated("](b)", 10'000), brackets + "]*a*", "*a*" + std::string(16'382, 'b')});
     const std::string longWord(16'381, 'b');
-    EXPECT_EQ(describe(parseInline("*a*" + longWord)), "⟨em|a⟩" + longWord);
-    EXPECT_EQ(describe(parseInline(brackets + "*a*")), brackets + "⟨em|a⟩");
+    EXPECT_EQ(describe(renderInline("*a*" + longWord)), "⟨em|a⟩" + longWord);
+    EXPECT_EQ(describe(renderInline(brackets + "*a*")), brackets + "⟨em|a⟩");
 }
 
 TEST(InlineParser, DeepNestingIsNoTrouble)
 {
     const auto stars = repeated("*", 5'000);
-    EXPECT_EQ(describe(parseInline(stars + "a" + stars)), "⟨strong|a⟩");
+    EXPECT_EQ(describe(renderInline(stars + "a" + stars)), "⟨strong|a⟩");
     expectUnchanged({repeated("*a _b ", 1'000), std::string(10'000, '*'), std::string(10'000, '`')});
     const auto links = repeated("[", 1'000) + "a" + repeated("](b)", 999);
-    EXPECT_EQ(describe(parseInline(links)).find("⟨link=b|a⟩"), 999U);
+    EXPECT_EQ(describe(renderInline(links)).find("⟨link=b|a⟩"), 999U);
 }
 
 TEST(InlineParser, NeverInventsTextAndNeverLeavesNeighboursAlike)
@@ -180,8 +180,8 @@ TEST(InlineParser, NeverInventsTextAndNeverLeavesNeighboursAlike)
             text += parts[(state >> 33U) % std::size(parts)];
         }
         std::string shown;
-        InlineRun former;
-        for (const auto& run : parseInline(text)) {
+        StyledRun former;
+        for (const auto& run : renderInline(text)) {
             EXPECT_FALSE(run.text.empty()) << testing::PrintToString(text);
             former.text = run.text;
             EXPECT_TRUE(shown.empty() || former != run) << testing::PrintToString(text);

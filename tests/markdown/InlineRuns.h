@@ -9,15 +9,15 @@
 namespace cuebright {
 
 /// Runs in one line: plain text as it is, styled text as ⟨strong em code link=target|text⟩ with what applies.
-inline std::string describe(const std::vector<InlineRun>& runs)
+inline std::string describe(const std::vector<StyledRun>& runs)
 {
     std::string line;
     for (const auto& run : runs) {
         std::string styles;
         const auto add = [&styles](std::string_view style) { (styles += styles.empty() ? "" : " ") += style; };
-        if (run.isStrong)
+        if (run.isBold)
             add("strong");
-        if (run.isEmphasised)
+        if (run.isItalic)
             add("em");
         if (run.isCode)
             add("code");
@@ -28,6 +28,6 @@ inline std::string describe(const std::vector<InlineRun>& runs)
     return line;
 }
 
-inline void PrintTo(const InlineRun& run, std::ostream* out) { *out << describe({run}); }
+inline void PrintTo(const StyledRun& run, std::ostream* out) { *out << describe({run}); }
 
 } // namespace cuebright

@@ -52,9 +52,9 @@ QTextCharFormat runFormat(const StyledRun& run, double fontSize, const Colors& c
         format.setFontWeight(QFont::Bold);
     if (run.isItalic)
         format.setFontItalic(true);
-    if (run.isUnderlined)
+    if (run.link)
         format.setFontUnderline(true);
-    if (run.isAccented)
+    if (run.isItalic || run.link)
         format.setForeground(toQColor(colors.accent()));
     return format;
 }

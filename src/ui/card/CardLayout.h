@@ -1,7 +1,7 @@
 #pragma once
 
 #include "markdown/Block.h"
-#include "markdown/StyledText.h"
+#include "markdown/InlineParser.h"
 #include "theme/Colors.h"
 
 #include <QPointF>

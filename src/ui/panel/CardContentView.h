@@ -4,7 +4,6 @@
 #include "markdown/Block.h"
 #include "markdown/BlockMetrics.h"
 #include "markdown/CardParser.h"
-#include "markdown/StyledText.h"
 #include "store/Change.h"
 #include "timer/TimerManager.h"
 #include "ui/base/CoalescedCall.h"

@@ -2,6 +2,7 @@
 
 #include "platform/qt/QtColors.h"
 #include "ui/base/Fonts.h"
+#include "ui/card/BlockText.h"
 #include "ui/panel/PanelFixture.h"
 
 #include <QBitmap>
@@ -91,8 +92,12 @@ TEST_F(CardLayoutTest, ANumberWiderThanItsBoxPushesTheTextRight)
 
 TEST_F(CardLayoutTest, InlineMarkersBecomeLooks)
 {
-    EXPECT_TRUE(boundsOf(layoutOf({{Block::Kind::Paragraph, "plain"}}), colors.accent()).isEmpty());
-    EXPECT_FALSE(boundsOf(layoutOf({{Block::Kind::Paragraph, "*it*"}}), colors.accent()).isEmpty());
+    for (const auto plain : {"plain", "**b**", "`c`"})
+        EXPECT_TRUE(boundsOf(layoutOf({{Block::Kind::Paragraph, plain}}), colors.accent()).isEmpty()) << plain;
+    for (const auto accented : {"*it*", "[link](target)"})
+        EXPECT_FALSE(boundsOf(layoutOf({{Block::Kind::Paragraph, accented}}), colors.accent()).isEmpty()) << accented;
+    EXPECT_TRUE(runFormat({.text = "link", .link = "target"}, 17, colors).fontUnderline());
+    EXPECT_FALSE(runFormat({.text = "it", .isItalic = true}, 17, colors).fontUnderline());
     EXPECT_EQ(layoutOf({{Block::Kind::Heading, "a **b** `c` [d](e)"}}).blockText(0), QStringLiteral("a b c d"));
 }
 
