@@ -4,6 +4,7 @@
 
 #include "platform/RemoteRequest.h"
 #include "platform/system/WindowActivation.h"
+#include "store/ThemeNames.h"
 #include "ui/base/LinkOpener.h"
 #include "ui/base/ModalSheets.h"
 #include "ui/menu/EditCommands.h"
@@ -49,11 +50,11 @@ void AppDelegate::perform(Command command)
     case Command::CancelEdit:
         return m_store.cancelEdit();
     case Command::SetThemeSystem:
-        return m_store.setTheme("system");
+        return m_store.setTheme(themeNames::kSystem);
     case Command::SetThemeLight:
-        return m_store.setTheme("light");
+        return m_store.setTheme(themeNames::kLight);
     case Command::SetThemeDark:
-        return m_store.setTheme("dark");
+        return m_store.setTheme(themeNames::kDark);
     case Command::IncreaseTextSize:
         return m_store.increaseFontSize();
     case Command::DecreaseTextSize:

@@ -6,7 +6,6 @@
 #include "platform/MainQueue.h"
 #include "platform/Platform.h"
 #include "store/Change.h"
-#include "store/NavigationDirection.h"
 
 #include <cstdint>
 #include <filesystem>
@@ -22,14 +21,14 @@ namespace cuebright {
 class UndoManager;
 
 /// All decks and cards, the active position, the open edit and the display preferences.
-/// The one place where any of them changes.
+/// The only place where any of them changes.
 ///
-/// An operation that asks for the impossible does nothing: no notice, no undo step, no save. Indices count from 0 and
-/// may be out of range; there is no active deck or card then. All texts are UTF-8. Lives on the main thread.
+/// An operation that is not possible does nothing: no signal, no undo step, no save. Indices count from 0; the active
+/// ones may be out of range, and then there is no active deck or card. Texts are UTF-8. Main thread only.
 class CardStore final {
 public:
-    /// Reads the preferences and the state file, falling back to the sample decks without a word, and applies the
-    /// theme.
+    /// Reads the preferences, loads from disk and applies the theme. `platform` is copied; what it refers to must
+    /// outlive the store.
     explicit CardStore(const Platform& platform);
     CardStore(const CardStore&) = delete;
     CardStore& operator=(const CardStore&) = delete;
@@ -50,89 +49,94 @@ public:
     [[nodiscard]] std::string positionLabel() const; ///< "CARD 01 / 05"
     [[nodiscard]] std::string footerLabel() const; ///< "1 OF 5"
     [[nodiscard]] NavigationDirection navigationDirection() const { return m_navigationDirection; }
-    [[nodiscard]] const Uuid& deckTransitionID() const { return m_deckTransitionID; } ///< fresh after each deck switch
+    [[nodiscard]] const Uuid& deckTransitionID() const { return m_deckTransitionID; } ///< new at each deck switch
     [[nodiscard]] bool isDeckSwitch() const { return m_isDeckSwitch; } ///< true for 0.16 s after a deck switch
-    /// Moves to the following card; stays on the last one and while an edit is open. Saves nothing.
+    /// To the next or previous card, without wrapping; not while an edit is open. Schedules no save.
     void nextCard();
     void prevCard();
-    /// Opens a deck at its first card. An open edit is kept, without touching the card's date.
+    /// Opens another deck at its first card. The text of an open edit is kept; the card's date does not change.
     void switchToDeck(std::int64_t index);
 
     // Editing the active card (CardStoreEditing.cpp)
     [[nodiscard]] bool isEditing() const { return m_isEditing; }
     [[nodiscard]] const std::string& editText() const { return m_editText; } ///< keeps its value after the edit
     void setEditText(std::string text);
-    /// Opens an edit; a blank card opens with "# ".
+    /// Opens the active card; a blank one opens with "# ", which counts as a change.
     void beginEditing();
-    /// Writes the text into the card, unchanged or not, and closes the edit.
+    /// Writes the text and new dates to the card, even if nothing changed, and closes the edit.
     void saveEdit();
+    /// Discards the text and closes the edit.
     void cancelEdit();
 
     // Cards of the active deck (CardStoreCards.cpp)
-    /// Appends a card and opens it in the editor.
+    /// Saves an open edit, appends a card and opens it for editing.
     void addCard();
-    /// Deletes the active card, open edit included, unless it is the deck's last one.
+    /// Discards an open edit and deletes the active card, unless it is the only one of its deck.
     void deleteCard();
     [[nodiscard]] bool canDeleteCard() const;
+    /// Swaps the active card with its neighbour; it stays active. Not while an edit is open.
     void moveCardUp();
     void moveCardDown();
     [[nodiscard]] bool canMoveCardUp() const;
     [[nodiscard]] bool canMoveCardDown() const;
-    /// A message for 2.0 s; replaces the one before.
+    /// Sets `feedbackMessage` for 2 s, replacing any earlier message.
     void showFeedback(std::string message);
     [[nodiscard]] const std::optional<std::string>& feedbackMessage() const { return m_feedbackMessage; }
-    /// Where undo steps go; without one, operations register nothing.
+    /// Receives the undo steps of cards and decks. Without one, operations register none.
     void setUndoManager(std::weak_ptr<UndoManager> undoManager);
 
     // Decks (CardStoreDecks.cpp)
-    /// Appends a deck with one card and opens it. A blank name becomes "Untitled Deck".
+    /// Appends a deck with one card and opens it; the text of an open edit is kept. A blank name becomes "Untitled
+    /// Deck".
     void createNewDeck(std::string_view name);
-    /// A blank name changes nothing.
+    /// Renames the active deck. A blank name does nothing.
     void renameDeck(std::string_view name);
-    /// Deletes the active deck, open edit included, unless it is the last one.
+    /// Drops an open edit and deletes the active deck, unless it is the only one.
     void deleteActiveDeck();
     [[nodiscard]] bool canDeleteDeck() const;
-    /// The active deck's cards with rules between them; empty without an active deck.
+    /// The active deck's cards, separated by "---" lines; empty without an active deck.
     [[nodiscard]] std::string exportDeckAsMarkdown() const;
 
-    // Display preferences (CardStorePreferences.cpp); each setter stores the preference at once
+    // Display preferences (CardStorePreferences.cpp); each setter stores the preference immediately
     [[nodiscard]] const std::string& theme() const { return m_theme; }
-    [[nodiscard]] double fontSize() const { return m_fontSize; } ///< points; finite, any value > 0
-    [[nodiscard]] double opacity() const { return m_opacity; } ///< 1 = opaque; finite, any value > 0
+    [[nodiscard]] double fontSize() const { return m_fontSize; } ///< points; any finite value > 0
+    [[nodiscard]] double opacity() const { return m_opacity; } ///< 1 = opaque; any finite value > 0
     [[nodiscard]] bool showWordCount() const { return m_showWordCount; }
     [[nodiscard]] std::int64_t speakingPace() const { return m_speakingPace; } ///< words per minute, at least 1
-    void setTheme(std::string theme); ///< "light" and "dark"; anything else follows the system
-    void setFontSize(double points); ///< limited to 14 … 28
-    void setOpacity(double opacity); ///< limited to 0.4 … 1
-    void setSpeakingPace(std::int64_t wordsPerMinute); ///< limited to 80 … 250
-    void increaseFontSize();
+    void setTheme(std::string theme); ///< one of `themeNames`; any other text follows the system
+    void setFontSize(double points); ///< clamped, as the next two, to the range in DisplayLimits.h
+    void setOpacity(double opacity);
+    void setSpeakingPace(std::int64_t wordsPerMinute);
+    void increaseFontSize(); ///< by 1 point
     void decreaseFontSize();
-    void resetFontSize();
-    void increaseOpacity();
+    void resetFontSize(); ///< to 17 points
+    void increaseOpacity(); ///< by 0.1
     void decreaseOpacity();
     void toggleWordCount();
     void applyThemeToApp();
-    [[nodiscard]] std::int64_t wordCount() const; ///< of the open edit, else of the active card; Markdown counts
-    [[nodiscard]] std::string readingTime() const; ///< "~2 min"
+    [[nodiscard]] std::int64_t wordCount() const; ///< of the open edit, else of the active card; markers count
+    [[nodiscard]] std::string readingTime() const; ///< "~2 min", rounded up; at least "~1 min"
 
     // Persistence (CardStorePersistence.cpp)
-    /// Replaces decks and position from the state file, or by the defaults where it is no good.
+    /// Replaces decks and position by those in the state file. Falls back silently to the sample decks if the file is
+    /// missing, invalid or has no decks. An open edit stays open.
     void loadFromDisk();
-    /// Asks for a save 0.25 s after the last call.
+    /// Saves 0.25 s after the last call.
     void scheduleSave();
-    /// Saves now, a pending save included.
+    /// Cancels a pending save and saves immediately.
     void flushToDisk();
-    /// Deletes the state file and the preferences but for word count and speaking pace, and starts again from the
-    /// sample decks. Nothing of it can be undone; an open edit stays as it is. Saves nothing.
+    /// Deletes the state file, resets all preferences except word count and speaking pace, loads the sample decks and
+    /// empties the undo manager. An open edit stays open. Schedules no save.
     void resetAllData();
+    /// Set while the last save has failed; results of a save arrive after the current event.
     [[nodiscard]] const std::optional<std::string>& persistentError() const { return m_persistentError; }
     [[nodiscard]] bool errorDismissed() const { return m_errorDismissed; }
-    /// Hides the error until the next save fails.
+    /// Sets `errorDismissed`; the next failed save clears it.
     void dismissError();
     [[nodiscard]] const std::filesystem::path& appSupportDir() const { return m_appSupportDir; }
     [[nodiscard]] std::filesystem::path stateURL() const;
 
-    /// Sent before each value is stored; read the store later, not inside the notice.
+    /// Emitted before a property changes: a handler still reads the old value, so schedule a refresh there.
     Signal<const Change&> willChange;
 
 private:
@@ -144,12 +148,11 @@ private:
 
     [[nodiscard]] Deck* mutableActiveDeck();
     [[nodiscard]] Card* mutableActiveCard();
-    void replaceActiveCardContent(std::string content);
-    void touchActiveDeck();
     void setEditing(bool isEditing);
     void moveTo(std::int64_t cardIndex, NavigationDirection direction);
     void saveTextAndCloseEdit();
 
+    [[nodiscard]] Card makeCard(const std::string& title, Instant now);
     void performCardInsertion(Card card, std::int64_t index, const std::string& actionName);
     void performCardRemoval(std::int64_t index, const std::string& actionName);
     void moveActiveCard(std::int64_t distance);
@@ -189,9 +192,9 @@ private:
     PendingTask m_saveWorkItem;
     std::int64_t m_consecutiveSaveFailures = 0;
     std::filesystem::path m_appSupportDir;
-    std::string m_writeBuffer; ///< kept for the next save, which is faster in memory that is there already
+    std::string m_writeBuffer; ///< reused by the next save to avoid reallocating
     std::weak_ptr<UndoManager> m_undoManager;
-    std::optional<Animation> m_animation; ///< of the transaction that is open
+    std::optional<Animation> m_animation; ///< of the current `AnimatedTransaction`
     WeakTarget m_weakTarget;
 };
 

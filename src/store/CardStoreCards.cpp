@@ -11,7 +11,6 @@ namespace cuebright {
 namespace {
 
 constexpr Seconds kFeedbackTime {2.0};
-constexpr auto kNewCardContent = "# New Card\n\nStart writing here.";
 
 } // namespace
 
@@ -20,10 +19,14 @@ void CardStore::addCard()
     if (!activeDeck())
         return;
     saveEdit();
-    const auto now = m_platform.clock.now();
-    performCardInsertion({m_platform.uuids.makeUuid(), kNewCardContent, now, now}, cardCount(), "Add Card");
+    performCardInsertion(makeCard("New Card", m_platform.clock.now()), cardCount(), "Add Card");
     beginEditing();
     showFeedback("Card added");
+}
+
+Card CardStore::makeCard(const std::string& title, Instant now)
+{
+    return {m_platform.uuids.makeUuid(), "# " + title + "\n\nStart writing here.", now, now};
 }
 
 bool CardStore::canDeleteCard() const { return activeCard() && cardCount() >= 2; }
@@ -41,12 +44,12 @@ void CardStore::performCardInsertion(Card card, std::int64_t index, const std::s
 {
     if (!activeDeck())
         return;
-    assert(index >= 0 && "a card is inserted at a position, never before the first");
+    assert(index >= 0 && "a card is inserted at a non-negative index");
     const auto position = std::min(index, cardCount());
     notifyWillChange(Property::Decks);
-    auto& cards = mutableActiveDeck()->cards;
-    cards.insert(cards.begin() + position, std::move(card));
-    touchActiveDeck();
+    const auto deck = mutableActiveDeck();
+    deck->cards.insert(deck->cards.begin() + position, std::move(card));
+    deck->updatedAt = m_platform.clock.now();
     set(m_navigationDirection, NavigationDirection::Forward, Property::NavigationDirection);
     set(m_activeCardIndex, position, Property::ActiveCardIndex);
     scheduleSave();
@@ -58,11 +61,11 @@ void CardStore::performCardRemoval(std::int64_t index, const std::string& action
     if (index < 0 || index >= cardCount())
         return;
     notifyWillChange(Property::Decks);
-    auto& cards = mutableActiveDeck()->cards;
-    const auto removed = cards.begin() + index;
+    const auto deck = mutableActiveDeck();
+    const auto removed = deck->cards.begin() + index;
     auto card = std::move(*removed);
-    cards.erase(removed);
-    touchActiveDeck();
+    deck->cards.erase(removed);
+    deck->updatedAt = m_platform.clock.now();
     const auto lastIndex = std::max<std::int64_t>(cardCount() - 1, 0);
     set(m_activeCardIndex, std::min(m_activeCardIndex, lastIndex), Property::ActiveCardIndex);
     scheduleSave();
@@ -87,9 +90,9 @@ void CardStore::moveActiveCard(std::int64_t distance)
     if (to < 0 || to >= cardCount())
         return;
     notifyWillChange(Property::Decks);
-    auto& cards = mutableActiveDeck()->cards;
-    std::swap(cards[static_cast<std::size_t>(from)], cards[static_cast<std::size_t>(to)]);
-    touchActiveDeck();
+    const auto deck = mutableActiveDeck();
+    std::swap(deck->cards[static_cast<std::size_t>(from)], deck->cards[static_cast<std::size_t>(to)]);
+    deck->updatedAt = m_platform.clock.now();
     set(m_activeCardIndex, to, Property::ActiveCardIndex);
     scheduleSave();
     registerUndo(distance < 0 ? "Move Card Up" : "Move Card Down", [this, distance] { moveActiveCard(-distance); });

@@ -16,7 +16,7 @@ void CardStore::createNewDeck(std::string_view name)
     if (trimmed.empty())
         trimmed = "Untitled Deck";
     const auto now = m_platform.clock.now();
-    Card card {m_platform.uuids.makeUuid(), "# " + trimmed + "\n\nStart writing here.", now, now};
+    auto card = makeCard(trimmed, now);
     Deck deck {m_platform.uuids.makeUuid(), std::move(trimmed), {}, now, now};
     deck.cards.push_back(std::move(card));
     performDeckInsertion(std::move(deck), deckCount(), "New Deck");
@@ -24,7 +24,7 @@ void CardStore::createNewDeck(std::string_view name)
 
 void CardStore::performDeckInsertion(Deck deck, std::int64_t index, const std::string& actionName)
 {
-    assert(index >= 0 && "a deck is inserted at a position, never before the first");
+    assert(index >= 0 && "a deck is inserted at a non-negative index");
     const auto position = std::min(index, deckCount());
     notifyWillChange(Property::Decks);
     m_decks.insert(m_decks.begin() + position, std::move(deck));
@@ -69,7 +69,7 @@ void CardStore::renameDeck(std::string_view name)
     auto oldName = deck->name;
     nameActiveDeck(std::string(trimmed));
     showFeedback("Renamed");
-    // On purpose this names whichever deck is active when it runs, and offers no redo.
+    // Deliberately renames the deck that is active when it runs, and registers no redo.
     registerUndo("Rename Deck", [this, oldName = std::move(oldName)] {
         if (activeDeck())
             nameActiveDeck(oldName);
@@ -79,8 +79,9 @@ void CardStore::renameDeck(std::string_view name)
 void CardStore::nameActiveDeck(std::string name)
 {
     notifyWillChange(Property::Decks);
-    mutableActiveDeck()->name = std::move(name);
-    touchActiveDeck();
+    const auto deck = mutableActiveDeck();
+    deck->name = std::move(name);
+    deck->updatedAt = m_platform.clock.now();
     scheduleSave();
 }
 

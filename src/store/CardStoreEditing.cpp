@@ -28,10 +28,11 @@ void CardStore::saveEdit()
     if (!m_isEditing || !activeCard())
         return;
     const bool isUnchanged = m_editText == m_originalEditText;
-    replaceActiveCardContent(m_editText);
     notifyWillChange(Property::Decks);
-    mutableActiveCard()->updatedAt = m_platform.clock.now();
-    touchActiveDeck();
+    const auto card = mutableActiveCard();
+    card->content = m_editText;
+    card->updatedAt = m_platform.clock.now();
+    mutableActiveDeck()->updatedAt = m_platform.clock.now();
     setEditing(false);
     scheduleSave();
     if (!isUnchanged)
@@ -55,26 +56,16 @@ void CardStore::setEditing(bool isEditing)
     set(m_isEditing, isEditing, Property::IsEditing);
 }
 
-/// Ends an open edit for a move to another deck: the text is kept, the card's date and the screen stay as they are.
+/// Keeps the text of an open edit, but not as `saveEdit` does: no new dates, no animation, no feedback.
 void CardStore::saveTextAndCloseEdit()
 {
     if (!m_isEditing)
         return;
-    if (activeCard())
-        replaceActiveCardContent(m_editText);
+    if (activeCard()) {
+        notifyWillChange(Property::Decks);
+        mutableActiveCard()->content = m_editText;
+    }
     set(m_isEditing, false, Property::IsEditing);
-}
-
-void CardStore::replaceActiveCardContent(std::string content)
-{
-    notifyWillChange(Property::Decks);
-    mutableActiveCard()->content = std::move(content);
-}
-
-void CardStore::touchActiveDeck()
-{
-    notifyWillChange(Property::Decks);
-    mutableActiveDeck()->updatedAt = m_platform.clock.now();
 }
 
 } // namespace cuebright

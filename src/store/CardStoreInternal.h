@@ -6,10 +6,10 @@
 
 #include <utility>
 
-/// What the store's sources share; nobody else includes this.
+/// Shared by the store's sources; not for any other file.
 namespace cuebright {
 
-/// While it lives, the store's changes carry an animation, unless the user wants less motion.
+/// While it exists, changes carry the animation, unless the user asked for reduced motion.
 class CardStore::AnimatedTransaction final {
 public:
     AnimatedTransaction(CardStore& store, Animation animation)
@@ -32,7 +32,7 @@ template <typename Value> void CardStore::set(Value& member, std::type_identity_
     member = std::move(value);
 }
 
-/// Registers `work`, which runs only while the store lives.
+/// Registers `work`, which does nothing once the store is destroyed.
 template <typename Work> void CardStore::registerUndo(const std::string& actionName, Work work)
 {
     const auto undoManager = m_undoManager.lock();

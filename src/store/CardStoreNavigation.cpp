@@ -1,5 +1,6 @@
 #include "store/CardStoreInternal.h"
 
+#include "foundation/TwoDigits.h"
 #include "platform/UuidSource.h"
 
 namespace cuebright {
@@ -9,14 +10,6 @@ namespace {
 constexpr Animation kCardMove {Animation::Curve::EaseInOut, Seconds(0.18)};
 constexpr Animation kDeckSwitch {Animation::Curve::EaseInOut, Seconds(0.14)};
 constexpr Seconds kDeckSwitchFlagTime {0.16};
-
-std::string twoDigits(std::int64_t number)
-{
-    auto text = std::to_string(number);
-    if (number >= 0 && number < 10)
-        text.insert(0, 1, '0');
-    return text;
-}
 
 } // namespace
 

@@ -5,6 +5,7 @@
 #include "platform/FileSystem.h"
 #include "platform/Log.h"
 #include "platform/Preferences.h"
+#include "store/ThemeNames.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -22,9 +23,9 @@ void CardStore::openAppSupportDir()
 {
     const auto directory = m_platform.fileSystem.applicationSupportDirectory();
     if (!directory)
-        std::abort(); // no supported system is without one: our own mistake
+        std::abort(); // every supported system has one
     m_appSupportDir = *directory / "Cuebright";
-    m_platform.fileSystem.createDirectories(m_appSupportDir); // a failure shows when saving
+    m_platform.fileSystem.createDirectories(m_appSupportDir); // saving reports a failure
 }
 
 std::filesystem::path CardStore::stateURL() const { return m_appSupportDir / "state.json"; }
@@ -77,7 +78,7 @@ void CardStore::writeToDisk()
         reportSaveFailure(error->description);
         return;
     }
-    m_platform.fileSystem.createDirectories(m_appSupportDir); // somebody may have removed it meanwhile
+    m_platform.fileSystem.createDirectories(m_appSupportDir); // it may have been removed since the start
     m_writeBuffer = std::get<std::string>(std::move(encoded));
     const auto error = m_platform.fileSystem.writeFileAtomically(stateURL(), m_writeBuffer, FileSystem::Readers::Owner);
     if (error)
@@ -118,7 +119,7 @@ void CardStore::resetAllData()
              preferenceKeys::kWindowFrame, preferenceKeys::kOnboardingDone})
         m_platform.preferences.remove(key);
     loadFromDisk();
-    setTheme("system");
+    setTheme(themeNames::kSystem);
     resetFontSize();
     setOpacity(1.0);
     if (const auto undoManager = m_undoManager.lock())

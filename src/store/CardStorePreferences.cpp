@@ -3,6 +3,8 @@
 #include "foundation/Unicode.h"
 #include "platform/Appearance.h"
 #include "platform/Preferences.h"
+#include "store/DisplayLimits.h"
+#include "store/ThemeNames.h"
 
 #include <algorithm>
 
@@ -11,34 +13,28 @@ namespace cuebright {
 namespace {
 
 constexpr double kDefaultFontSize = 17;
-constexpr double kMinFontSize = 14;
-constexpr double kMaxFontSize = 28;
 constexpr double kFontSizeStep = 1;
 constexpr double kDefaultOpacity = 1;
-constexpr double kMinOpacity = 0.4;
-constexpr double kMaxOpacity = 1;
 constexpr double kOpacityStep = 0.1;
 constexpr std::int64_t kDefaultPace = 130;
-constexpr std::int64_t kMinPace = 80;
-constexpr std::int64_t kMaxPace = 250;
 
 template <typename Number> Number positiveOr(std::optional<Number> stored, Number fallback)
 {
     return stored && *stored > 0 ? *stored : fallback;
 }
 
-/// What is no number becomes the least.
-double limited(double value, double least, double most) { return std::min(std::max(least, value), most); }
+/// `std::clamp`, but NaN becomes `least`.
+double clamped(double value, double least, double most) { return std::min(std::max(least, value), most); }
 
 } // namespace
 
-/// Values are taken as stored, even out of range, so that a start writes nothing.
+/// Takes values as stored, even outside the limits: a start changes no preference.
 void CardStore::readPreferences()
 {
     auto& preferences = m_platform.preferences;
     m_showWordCount = preferences.boolean(preferenceKeys::kWordCount).value_or(false);
     m_speakingPace = positiveOr(preferences.integer(preferenceKeys::kSpeakingPace), kDefaultPace);
-    m_theme = preferences.text(preferenceKeys::kTheme).value_or("system");
+    m_theme = preferences.text(preferenceKeys::kTheme).value_or(themeNames::kSystem);
     m_fontSize = positiveOr(preferences.number(preferenceKeys::kFontSize), kDefaultFontSize);
     m_opacity = positiveOr(preferences.number(preferenceKeys::kOpacity), kDefaultOpacity);
 }
@@ -53,12 +49,14 @@ void CardStore::setTheme(std::string theme)
 void CardStore::applyThemeToApp()
 {
     using enum Appearance::Choice;
-    m_platform.appearance.choose(m_theme == "light" ? Light : m_theme == "dark" ? Dark : FollowSystem);
+    m_platform.appearance.choose(m_theme == themeNames::kLight ? Light
+            : m_theme == themeNames::kDark                     ? Dark
+                                                               : FollowSystem);
 }
 
 void CardStore::setFontSize(double points)
 {
-    set(m_fontSize, limited(points, kMinFontSize, kMaxFontSize), Property::FontSize);
+    set(m_fontSize, clamped(points, kMinFontSize, kMaxFontSize), Property::FontSize);
     m_platform.preferences.setNumber(preferenceKeys::kFontSize, m_fontSize);
 }
 
@@ -70,7 +68,7 @@ void CardStore::resetFontSize() { setFontSize(kDefaultFontSize); }
 
 void CardStore::setOpacity(double opacity)
 {
-    set(m_opacity, limited(opacity, kMinOpacity, kMaxOpacity), Property::Opacity);
+    set(m_opacity, clamped(opacity, kMinOpacity, kMaxOpacity), Property::Opacity);
     m_platform.preferences.setNumber(preferenceKeys::kOpacity, m_opacity);
 }
 
@@ -80,7 +78,7 @@ void CardStore::decreaseOpacity() { setOpacity(m_opacity - kOpacityStep); }
 
 void CardStore::setSpeakingPace(std::int64_t wordsPerMinute)
 {
-    set(m_speakingPace, std::clamp(wordsPerMinute, kMinPace, kMaxPace), Property::SpeakingPace);
+    set(m_speakingPace, std::clamp(wordsPerMinute, kMinSpeakingPace, kMaxSpeakingPace), Property::SpeakingPace);
     m_platform.preferences.setInteger(preferenceKeys::kSpeakingPace, m_speakingPace);
 }
 

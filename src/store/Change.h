@@ -2,9 +2,14 @@
 
 #include "foundation/Seconds.h"
 
+#include <algorithm>
+#include <initializer_list>
 #include <optional>
 
 namespace cuebright {
+
+/// The direction of the last move between cards.
+enum class NavigationDirection { Forward, Backward };
 
 /// The curve and length of an animated change.
 struct Animation {
@@ -16,10 +21,10 @@ struct Animation {
     bool operator==(const Animation&) const = default;
 };
 
-/// Notice that a property of the store is about to get a value, be it a new one or the same.
+/// Says that a property of the store is about to be assigned, possibly the value it already has.
 struct Change {
     enum class Property {
-        Decks,
+        Decks, ///< the list, or anything in a deck or card
         ActiveDeckIndex,
         ActiveCardIndex,
         IsEditing,
@@ -38,7 +43,13 @@ struct Change {
     };
 
     Property property;
-    std::optional<Animation> animation; ///< how the change is to be shown; absent: at once
+    std::optional<Animation> animation; ///< absent: show the change immediately
+
+    /// For observers: whether the change concerns one of the properties that they show.
+    [[nodiscard]] bool isOneOf(std::initializer_list<Property> properties) const
+    {
+        return std::find(properties.begin(), properties.end(), property) != properties.end();
+    }
 
     bool operator==(const Change&) const = default;
 };

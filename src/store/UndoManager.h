@@ -8,31 +8,31 @@
 
 namespace cuebright {
 
-/// Two stacks of named actions.
+/// An undo stack and a redo stack of named actions.
 ///
-/// An action registered while undoing becomes the redo, one registered while redoing the next undo; both keep the name
-/// of the action that is being performed. Any other registration empties the redo stack.
+/// An action registered while undoing goes to the redo stack, one registered while redoing to the undo stack; both keep
+/// the name of the action being performed. Any other registration clears the redo stack.
 class UndoManager final {
 public:
     using Action = std::function<void()>;
 
     [[nodiscard]] bool canUndo() const { return !m_undoStack.empty(); }
     [[nodiscard]] bool canRedo() const { return !m_redoStack.empty(); }
-    /// The name of what `undo` or `redo` would perform next; empty when there is nothing.
+    /// The name of the action that `undo` or `redo` would perform; empty if there is none.
     [[nodiscard]] std::string undoActionName() const;
     [[nodiscard]] std::string redoActionName() const;
 
-    /// `action` must do nothing once its target is gone.
+    /// `action` must do nothing once its target is destroyed.
     void registerUndo(Action action);
-    /// Names the action registered last. Without effect while undoing or redoing.
+    /// Names the action registered last. Does nothing while undoing or redoing.
     void setActionName(std::string name);
 
-    /// Performs the latest action; nothing happens without one. The action is used up whatever it does.
+    /// Performs and removes the latest action, if there is one, whatever it does.
     void undo();
     void redo();
     void removeAllActions();
 
-    /// The stacks or a name have changed.
+    /// Emitted after a stack or a name has changed.
     Signal<> changed;
 
 private:

@@ -1,5 +1,7 @@
 #include "timer/TimerManager.h"
 
+#include "foundation/TwoDigits.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -12,20 +14,12 @@ constexpr Seconds kTickTolerance {0.1};
 constexpr Seconds kCriticalTime {60};
 constexpr Seconds kWarningTime {300};
 
-/// No tick comes at its second exactly. A countdown that is a millisecond late would skip a second that it then shows
-/// nowhere, and end a second early.
-Seconds withoutLateness(Seconds time)
+/// No tick comes exactly on time. Without this, a countdown whose tick is a millisecond late would skip a second and
+/// end a second early.
+Seconds snappedToTick(Seconds time)
 {
     const auto due = std::round(time / kTickInterval) * kTickInterval;
     return abs(time - due) <= kTickTolerance ? due : time;
-}
-
-std::string twoDigits(std::int64_t number)
-{
-    auto text = std::to_string(number);
-    if (text.size() < 2)
-        text.insert(0, 1, '0');
-    return text;
 }
 
 } // namespace
@@ -143,7 +137,7 @@ void TimerManager::tick()
     if (!m_startDate)
         return;
     willChange.notify();
-    setElapsed(m_accumulated + withoutLateness(m_clock.uptime() - *m_startDate));
+    setElapsed(m_accumulated + snappedToTick(m_clock.uptime() - *m_startDate));
     if (m_mode == Mode::Countdown && m_countdownDuration <= m_elapsed)
         stopTimer();
 }

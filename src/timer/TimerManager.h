@@ -13,8 +13,8 @@ namespace cuebright {
 
 /// The talk timer: a stopwatch, or a countdown that warns as time runs out. Not persisted.
 ///
-/// Elapsed time is computed from the start point at each tick, so late ticks do not drift; a tick that is as good as on
-/// time counts as on time. An expired countdown stays `Running` without a tick, until the user acts.
+/// Each tick computes the elapsed time from the start, so that lateness does not add up; a tick up to 0.1 s off
+/// counts as on time. An expired countdown stays `Running`, without ticks, until the user acts.
 class TimerManager final {
 public:
     enum class Mode { Stopwatch, Countdown };
@@ -32,11 +32,11 @@ public:
     [[nodiscard]] Seconds elapsed() const { return m_elapsed; }
     [[nodiscard]] Seconds countdownDuration() const { return m_countdownDuration; }
     [[nodiscard]] Seconds remaining() const; ///< of the countdown, never negative
-    [[nodiscard]] Seconds displayTime() const; ///< what counts down or up, by mode
+    [[nodiscard]] Seconds displayTime() const; ///< `remaining` or `elapsed`, by mode
     [[nodiscard]] std::string displayString() const; ///< "mm:ss", minutes without limit
     [[nodiscard]] Urgency urgency() const; ///< `Normal` unless a countdown is running
 
-    /// Whether the countdown of so many minutes is the one chosen.
+    /// Whether the mode is a countdown of this length.
     [[nodiscard]] bool isCountdownOf(std::int64_t minutes) const;
 
     void start();
@@ -48,7 +48,7 @@ public:
     void setCountdown(std::int64_t minutes);
     void setStopwatch();
 
-    /// A value is about to change.
+    /// Emitted before a value changes.
     Signal<> willChange;
 
 private:
@@ -64,8 +64,8 @@ private:
     Seconds m_elapsed {0};
     Seconds m_countdownDuration {1800};
     PendingTask m_timer;
-    std::optional<Seconds> m_startDate; ///< uptime when the current running stretch began
-    Seconds m_accumulated {0}; ///< counted in earlier stretches
+    std::optional<Seconds> m_startDate; ///< uptime of the last start or resume; absent unless running
+    Seconds m_accumulated {0}; ///< elapsed before `m_startDate`
     WeakTarget m_weakTarget;
 };
 

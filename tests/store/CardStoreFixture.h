@@ -44,7 +44,7 @@ protected:
     [[nodiscard]] std::string& stateFile() { return surroundings.fileSystem.files[std::string(kStateFile)]; }
     [[nodiscard]] std::size_t saves() const { return surroundings.fileSystem.writes.size(); }
     /// Each property about to change, its value at that moment, and the animation: "navigationDirection forward;
-    /// activeCardIndex 0 ease-in-out 0.18". Equal changes in a row count once. Empties the record.
+    /// activeCardIndex 0 ease-in-out 0.18". Empties the record.
     [[nodiscard]] std::string takeNotices();
     void advance(Seconds duration) { surroundings.mainQueue.advance(duration); }
     [[nodiscard]] const Deck& deck(std::size_t index) const { return store->decks().at(index); }
@@ -72,7 +72,6 @@ private:
     void record(const Change& change);
 
     std::string m_notices;
-    std::optional<Change> m_lastChange;
     Subscription m_subscription;
 };
 

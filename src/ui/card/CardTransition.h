@@ -1,7 +1,6 @@
 #pragma once
 
 #include "store/Change.h"
-#include "store/NavigationDirection.h"
 
 #include <QPixmap>
 #include <QRectF>

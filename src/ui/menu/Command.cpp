@@ -1,6 +1,7 @@
 #include "ui/menu/Command.h"
 
 #include "store/CardStore.h"
+#include "store/ThemeNames.h"
 
 namespace cuebright {
 
@@ -11,11 +12,11 @@ const char* themeOf(Command command)
 {
     switch (command) {
     case Command::SetThemeSystem:
-        return "system";
+        return themeNames::kSystem;
     case Command::SetThemeLight:
-        return "light";
+        return themeNames::kLight;
     case Command::SetThemeDark:
-        return "dark";
+        return themeNames::kDark;
     default:
         return nullptr;
     }

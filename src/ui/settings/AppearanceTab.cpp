@@ -3,6 +3,8 @@
 #include "platform/Accessibility.h"
 #include "platform/qt/TextConversion.h"
 #include "store/CardStore.h"
+#include "store/DisplayLimits.h"
+#include "store/ThemeNames.h"
 #include "ui/settings/SettingSlider.h"
 #include "ui/settings/SettingsSection.h"
 #include "ui/widgets/Label.h"
@@ -17,9 +19,14 @@ namespace cuebright {
 
 namespace {
 
-constexpr SliderScale kFontSizes {14, 28, 1, 4};
-constexpr SliderScale kSpeakingPaces {80, 250, 10, 50};
-constexpr SliderScale kOpacities {40, 100, 1, 10, 100};
+constexpr SliderScale scale(double least, double most, int step, int page, int partsOfOne = 1)
+{
+    return {static_cast<int>(least * partsOfOne), static_cast<int>(most * partsOfOne), step, page, partsOfOne};
+}
+
+constexpr auto kFontSizes = scale(kMinFontSize, kMaxFontSize, 1, 4);
+constexpr auto kSpeakingPaces = scale(kMinSpeakingPace, kMaxSpeakingPace, 10, 50);
+constexpr auto kOpacities = scale(kMinOpacity, kMaxOpacity, 1, 10, 100);
 
 QString wholeNumber(double value) { return QString::number(std::round(value), 'f', 0); }
 
@@ -40,7 +47,11 @@ AppearanceTab::AppearanceTab(const UiContext& context, QWidget* parent)
     column().addWidget(makeOpacitySection());
     column().addStretch(1);
     m_accessibilitySubscription = context.platform.accessibility.changed.subscribe([this] { m_refresh.request(); });
-    m_storeSubscription = context.store.willChange.subscribe([this](const Change& change) { refreshIfShown(change); });
+    m_storeSubscription = context.store.willChange.subscribe([this](const Change& change) {
+        using enum Change::Property;
+        if (change.isOneOf({Theme, FontSize, SpeakingPace, Opacity}))
+            m_refresh.request();
+    });
     refresh();
 }
 
@@ -52,9 +63,9 @@ QWidget* AppearanceTab::makeThemeSection()
     m_theme = new QComboBox(section);
     m_theme->setAccessibleName(QStringLiteral("Theme"));
     m_theme->setAccessibleDescription(QStringLiteral("Theme")); // Qt 6.4 gives what is chosen for the name
-    m_theme->addItem(QStringLiteral("System"), QStringLiteral("system"));
-    m_theme->addItem(QStringLiteral("Light"), QStringLiteral("light"));
-    m_theme->addItem(QStringLiteral("Dark"), QStringLiteral("dark"));
+    m_theme->addItem(QStringLiteral("System"), QLatin1String(themeNames::kSystem));
+    m_theme->addItem(QStringLiteral("Light"), QLatin1String(themeNames::kLight));
+    m_theme->addItem(QStringLiteral("Dark"), QLatin1String(themeNames::kDark));
     connect(m_theme, &QComboBox::activated, this,
         [this] { m_context.store.setTheme(toUtf8(m_theme->currentData().toString())); });
     section->add(m_theme);
@@ -101,17 +112,9 @@ QWidget* AppearanceTab::makeOpacitySection()
     return section;
 }
 
-void AppearanceTab::refreshIfShown(const Change& change)
-{
-    using enum Change::Property;
-    if (change.property == Theme || change.property == FontSize || change.property == SpeakingPace
-        || change.property == Opacity)
-        m_refresh.request();
-}
-
 void AppearanceTab::refresh()
 {
-    // Any text but the other two means the system's look.
+    // Any other text means the system's look, which comes first.
     m_theme->setCurrentIndex(std::max(0, m_theme->findData(toQString(m_context.store.theme()))));
     for (const auto slider : m_sliders)
         slider->refresh();

@@ -26,7 +26,6 @@ private:
     QWidget* makeFontSizeSection();
     QWidget* makeSpeakingPaceSection();
     QWidget* makeOpacitySection();
-    void refreshIfShown(const Change& change);
     void refresh();
 
     const UiContext& m_context;
