@@ -55,7 +55,7 @@ bool Iso8601Writer::write(Instant instant, char* out)
     if (day != m_day) {
         const year_month_day date(day);
         const int year = static_cast<int>(date.year());
-        // The calendar's own year wraps far outside the range, so the day itself is checked too.
+        // std::chrono::year wraps outside its range, so the day is checked too.
         if (year < 0 || year > 9999 || sys_days(date) != day)
             return false;
         writeTwoDigits(m_dayText, static_cast<unsigned>(year) / 100);

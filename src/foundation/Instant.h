@@ -21,11 +21,11 @@ inline constexpr std::size_t kIso8601Length = 20;
 /// The same form; fractions of a second are dropped towards the past. Absent outside the years 0000 to 9999.
 [[nodiscard]] std::optional<std::string> iso8601(Instant instant);
 
-/// Turns instants into text one after the other, fast where neighbours fall on one day.
+/// Writes instants as text; consecutive ones of the same day are fast.
 class Iso8601Writer final {
 public:
-    /// Writes `kIso8601Length` characters to `out`, without a terminator. False, and nothing written, outside the
-    /// years 0000 to 9999.
+    /// Writes `kIso8601Length` characters to `out`, without a terminator. Returns false and writes nothing outside
+    /// the years 0000 to 9999.
     [[nodiscard]] bool write(Instant instant, char* out);
 
 private:

@@ -8,8 +8,8 @@
 
 namespace cuebright {
 
-/// Passes named messages between pieces that do not hold each other. Delivery is synchronous, in the order of
-/// observing; a name that nobody observes is not an error.
+/// Delivers named notifications between objects that do not know each other: synchronously, in the order of
+/// subscription. Posting a name without observers does nothing.
 class NotificationCenter final {
 public:
     [[nodiscard]] Subscription observe(std::string_view name, std::function<void()> observer)

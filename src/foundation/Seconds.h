@@ -4,7 +4,7 @@
 
 namespace cuebright {
 
-/// A length of time in seconds.
+/// A duration in seconds.
 using Seconds = std::chrono::duration<double>;
 
 } // namespace cuebright

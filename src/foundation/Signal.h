@@ -8,7 +8,7 @@
 
 namespace cuebright {
 
-/// Keeps one listener of a `Signal` connected for as long as it lives. Movable; may outlive the signal.
+/// Keeps one listener connected to a `Signal` while it exists. Movable; may outlive the signal.
 class [[nodiscard]] Subscription final {
 public:
     Subscription() = default;
@@ -32,7 +32,7 @@ public:
     Subscription& operator=(const Subscription&) = delete;
     ~Subscription() { end(); }
 
-    /// The listener is not called any more, not even later in a notification that is under way.
+    /// Disconnects the listener, which is then no longer called, not even by a notification in progress.
     void end()
     {
         if (auto endNow = std::exchange(m_end, nullptr))
@@ -69,7 +69,7 @@ public:
 
     void notify(Args... args) const
     {
-        const auto state = m_state; // the signal may go away under a listener
+        const auto state = m_state; // a listener may destroy the signal
         const auto count = state->slots.size();
         ++state->depth;
         for (std::size_t i = 0; i < count && state->alive; ++i) {

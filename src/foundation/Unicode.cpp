@@ -12,7 +12,7 @@ constexpr bool isAsciiWhiteSpace(char32_t c) { return c == ' ' || (c >= '\t' && 
 
 utf8proc_category_t category(char32_t c)
 {
-    return utf8proc_category(static_cast<utf8proc_int32_t>(c)); // "not assigned" for what is no code point
+    return utf8proc_category(static_cast<utf8proc_int32_t>(c)); // "not assigned" for an invalid code point
 }
 
 } // namespace

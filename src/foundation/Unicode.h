@@ -3,8 +3,7 @@
 #include <cstddef>
 #include <string_view>
 
-/// Character classes of the Unicode standard and the few cuts of UTF-8 text that need them. Bytes that are not valid
-/// UTF-8 belong to no class.
+/// Unicode character classes, and the operations on UTF-8 text that need them. Invalid bytes belong to no class.
 namespace cuebright {
 
 inline constexpr char32_t kInvalidCodePoint = 0xffffffff;
@@ -18,7 +17,7 @@ struct CodePoint {
 [[nodiscard]] CodePoint firstCodePoint(std::string_view text);
 [[nodiscard]] CodePoint lastCodePoint(std::string_view text);
 
-/// General category Zs, or the tab. Line breaks are not in it.
+/// General category Zs, or the tab; no line breaks.
 [[nodiscard]] bool isBlank(char32_t c);
 /// White space and line breaks: U+0009 to U+000D, U+0085, and the general categories Zs, Zl and Zp.
 [[nodiscard]] bool isWhiteSpace(char32_t c);
@@ -27,9 +26,9 @@ struct CodePoint {
 
 /// `text` without blanks (`isBlank`) at both ends.
 [[nodiscard]] std::string_view trimBlanks(std::string_view text);
-/// Whether `text` holds nothing but white space.
+/// Whether `text` is empty or only white space.
 [[nodiscard]] bool isAllWhiteSpace(std::string_view text);
-/// The number of pieces between white space, empty ones not counted.
+/// The number of words, separated by white space.
 [[nodiscard]] std::size_t countWords(std::string_view text);
 
 } // namespace cuebright

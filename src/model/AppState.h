@@ -32,7 +32,7 @@ struct AppState {
     /// The state of a first start: the sample decks, the first one active at its first card.
     [[nodiscard]] static AppState makeDefault(Instant now, UuidSource& uuids);
 
-    /// Three decks that teach the program. All dates are `now`; every call gives fresh identifiers.
+    /// Three decks that introduce the program, with new identifiers; all dates are `now`.
     [[nodiscard]] static std::vector<Deck> sampleDecks(Instant now, UuidSource& uuids);
 };
 

@@ -12,20 +12,19 @@
 /// Dates are `YYYY-MM-DDThh:mm:ssZ`, identifiers 36-character UUIDs. Decoding is all or nothing.
 namespace cuebright {
 
-/// Bytes that must be readable behind the text given to `decodeState`, else it copies the text first.
+/// Spare capacity, in bytes, that lets `decodeState` parse a text in place instead of copying it.
 inline constexpr std::size_t kDecodePadding = 64;
 
-/// The state in `json`, or absent when it is not valid UTF-8 or JSON, misses a required member, or holds one of the
-/// wrong kind, a bad date or a bad UUID anywhere. A leading byte-order mark is skipped; unknown members are ignored;
+/// The state in `json`; absent if that is not valid UTF-8 or JSON, a required member is missing, or any member has the
+/// wrong type, an invalid date or an invalid UUID. A leading byte-order mark is skipped; unknown members are ignored;
 /// of duplicate members the first counts. Numbers beyond 64 bits or a double and nesting beyond 1,024 are refused.
-/// A `json` with a capacity of at least its size plus `kDecodePadding` is read in place.
 [[nodiscard]] std::optional<AppState> decodeState(const std::string& json);
 
 struct EncodeError {
     std::string description; ///< one line, for the log
 };
 
-/// What `encodeState` writes: the parts of the state that are kept, as references, so that nothing is copied.
+/// The parts of the state that are saved, by reference to avoid a copy.
 struct StateToEncode {
     const std::vector<Deck>& decks; ///< all texts valid UTF-8
     std::optional<Uuid> activeDeckId;
@@ -36,7 +35,7 @@ struct StateToEncode {
 
 /// The state as text: keys sorted, two-space indent, a blank on both sides of the colon, slashes escaped, shortest
 /// numbers, no line feed at the end. Fails on a number that JSON cannot hold and on a date outside the years 0 to 9999.
-/// Writes into the memory of `recycled`, whose text does not matter: a long text is then twice as fast.
+/// Reuses the memory of `recycled`, whatever its content: a long text is then written twice as fast.
 [[nodiscard]] std::variant<std::string, EncodeError> encodeState(const StateToEncode& state, std::string recycled = {});
 
 } // namespace cuebright

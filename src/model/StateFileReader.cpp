@@ -16,7 +16,7 @@ static_assert(kDecodePadding >= simdjson::SIMDJSON_PADDING);
 
 using Value = std::optional<dom::element>; ///< absent where the member is missing
 
-/// The first member of each name, in one pass over the object; all absent when `value` is no object.
+/// The first member of each name, in one pass over the object; all absent if `value` is not an object.
 template <std::size_t count>
 std::array<Value, count> membersOf(const Value& value, const std::array<std::string_view, count>& names)
 {

@@ -13,12 +13,12 @@ namespace cuebright {
 
 namespace {
 
-constexpr std::size_t kWord = 8; ///< bytes looked at in one go
-constexpr std::size_t kPiece = 1024; ///< bytes of a text escaped in one go
-constexpr std::size_t kCardOverhead = 256; ///< an estimate of what surrounds a text
+constexpr std::size_t kWord = 8; ///< bytes tested together
+constexpr std::size_t kPiece = 1024; ///< bytes escaped between two checks of the room left
+constexpr std::size_t kCardOverhead = 256; ///< estimated size of a record without its text
 
-/// The number of bytes in front of the first one that needs an escape, `kWord` if none does. Looks at all bytes of a
-/// word at once: each test sets the high bit of the bytes it finds, and is exact up to the first of them.
+/// The number of bytes before the first one that needs an escape; `kWord` if none does. Tests all bytes of a word
+/// together: each test sets the high bit of the bytes that match, and is exact up to the first of them.
 std::size_t plainBytesInWord(const char* text)
 {
     constexpr std::uint64_t kOnes = 0x0101010101010101;
@@ -47,7 +47,7 @@ constexpr std::array<Escape, 256> kEscapes = [] {
     return escapes;
 }();
 
-/// Writes up to `sizeof(Escape)` bytes, of which the ones up to the returned end count.
+/// Writes `sizeof(Escape)` bytes, of which only those before the returned end are valid.
 char* writeEscape(char c, char* out)
 {
     const auto& escape = kEscapes[static_cast<unsigned char>(c)];
@@ -55,8 +55,8 @@ char* writeEscape(char c, char* out)
     return out + escape.length;
 }
 
-/// Collects the text in a buffer that stays in the processor's cache, and moves it on when that is full: neither is
-/// the text cleared before it is written, nor its room checked byte by byte.
+/// Builds the text in a buffer small enough for the CPU cache and flushes it when it is full. This avoids clearing the
+/// string before writing and checking its capacity at every byte.
 class JsonText final {
 public:
     JsonText(std::size_t expectedSize, std::string recycled)
@@ -91,7 +91,7 @@ public:
     {
         makeRoom(kIso8601Length + 2);
         *m_end++ = '"';
-        m_datesHold = m_dates.write(instant, m_end) && m_datesHold;
+        m_datesAreValid = m_dates.write(instant, m_end) && m_datesAreValid;
         m_end += kIso8601Length;
         *m_end++ = '"';
     }
@@ -104,12 +104,12 @@ public:
         add("\"");
     }
 
-    /// False once a date could not be written.
-    [[nodiscard]] bool datesHold() const { return m_datesHold; }
+    /// False after a date that could not be written.
+    [[nodiscard]] bool datesAreValid() const { return m_datesAreValid; }
 
     [[nodiscard]] std::string take()
     {
-        moveOn();
+        flush();
         return std::move(m_text);
     }
 
@@ -119,7 +119,7 @@ private:
         makeRoom(sizeof(Escape) * kPiece + kWord);
         const char* in = piece.data();
         const char* const end = in + piece.size();
-        char* out = m_end; // a local: the bytes written might otherwise be its own
+        char* out = m_end; // a local, since writing a char may alias a member
         while (end - in >= static_cast<std::ptrdiff_t>(kWord)) {
             std::memcpy(out, in, kWord);
             const auto plain = plainBytesInWord(in);
@@ -140,10 +140,10 @@ private:
     void makeRoom(std::size_t size)
     {
         if (static_cast<std::size_t>(m_buffer.data() + m_buffer.size() - m_end) < size)
-            moveOn();
+            flush();
     }
 
-    void moveOn()
+    void flush()
     {
         m_text.append(m_buffer.data(), static_cast<std::size_t>(m_end - m_buffer.data()));
         m_end = m_buffer.data();
@@ -153,10 +153,10 @@ private:
     std::array<char, 16384> m_buffer;
     char* m_end = m_buffer.data();
     Iso8601Writer m_dates;
-    bool m_datesHold = true;
+    bool m_datesAreValid = true;
 };
 
-/// The elements of an array, each on lines of its own, and the closing bracket.
+/// A whole array, each element on separate lines.
 template <typename T>
 void addList(JsonText& json, const std::vector<T>& items, std::string_view indent, void (*addItem)(JsonText&, const T&))
 {
@@ -199,7 +199,7 @@ void addDeck(JsonText& json, const Deck& deck)
     json.add("\n    }");
 }
 
-/// Roomy enough for any usual text: the pages that stay untouched cost nothing.
+/// An upper estimate for usual texts; memory pages that stay unused cost nothing.
 std::size_t expectedSize(const std::vector<Deck>& decks)
 {
     std::size_t size = kCardOverhead;
@@ -232,7 +232,7 @@ std::variant<std::string, EncodeError> encodeState(const StateToEncode& state, s
     json.add(",\n  \"opacity\" : ");
     json.addNumber(state.opacity);
     json.add("\n}");
-    if (!json.datesHold())
+    if (!json.datesAreValid())
         return EncodeError {"a date lies outside the years 0 to 9999"};
     return json.take();
 }

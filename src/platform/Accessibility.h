@@ -4,7 +4,7 @@
 
 namespace cuebright {
 
-/// What the user asks of every program. Read anew at each use; cheap, never waits for another process.
+/// The user's accessibility settings. Cheap to read; never waits for another process.
 class Accessibility {
 public:
     virtual ~Accessibility() = default;
@@ -13,7 +13,7 @@ public:
     [[nodiscard]] virtual bool reduceTransparency() = 0;
     [[nodiscard]] virtual bool increaseContrast() = 0;
 
-    /// One of the three has changed.
+    /// Emitted after one of the three has changed.
     Signal<> changed;
 };
 

@@ -13,10 +13,10 @@ public:
 
     virtual void choose(Choice choice) = 0;
 
-    /// Whether the look is dark now, after the choice and the system's own setting.
+    /// Whether the look is dark: as chosen or, for `FollowSystem`, as the system's setting is now.
     [[nodiscard]] virtual bool isDark() = 0;
 
-    /// `isDark` has changed.
+    /// Emitted after `isDark` has changed.
     Signal<> changed;
 };
 

@@ -6,15 +6,15 @@
 
 namespace cuebright {
 
-/// What becomes of the program's windows in a screen share or a recording: what the system is known to do, never what
-/// was asked of it. Holds for all windows of the program alike.
+/// How the program's windows appear in a screen share or a recording: what the system is known to do, never what was
+/// requested. The same for all windows of the program.
 class CaptureExclusion {
 public:
     enum class State {
-        Excluded, ///< left out: what is behind the windows shows
-        Blackout, ///< a black box shows in their place
+        Excluded, ///< left out; what is behind them shows
+        Blackout, ///< replaced by a black box
         Visible,
-        Unknown, ///< cannot be found out
+        Unknown, ///< cannot be determined
     };
 
     virtual ~CaptureExclusion() = default;
@@ -22,14 +22,14 @@ public:
     /// Cheap; never waits for another process.
     [[nodiscard]] virtual State state() = 0;
 
-    /// False while the system has been asked and has not answered yet; becomes true within seconds, whatever happens.
+    /// False while the system's answer is pending; becomes true within seconds in any case.
     [[nodiscard]] virtual bool isSettled() { return true; }
 
-    /// Call before each show. Where the windows were `Excluded` once and are no longer, hides them again; `reapplied`
-    /// runs once, on the main thread, as soon as the system confirms that they are out, and never otherwise.
+    /// Call before each show. If the windows were `Excluded` and no longer are, excludes them again: `reapplied` runs
+    /// once, on the main thread, when the system confirms it, and never otherwise.
     virtual void reapplyIfLost(std::function<void()> reapplied) = 0;
 
-    /// `state` or `isSettled` has changed.
+    /// Emitted after `state` or `isSettled` has changed.
     Signal<> changed;
 };
 

@@ -5,12 +5,12 @@
 
 namespace cuebright {
 
-/// Where time comes from.
+/// The current time.
 class Clock {
 public:
     virtual ~Clock() = default;
 
-    /// The date and time of day; jumps when somebody sets the system's clock.
+    /// The date and time of day; jumps when the system clock is set.
     [[nodiscard]] virtual Instant now() = 0;
 
     /// Time since an arbitrary start. Counts while the system is suspended and never jumps.

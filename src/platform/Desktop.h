@@ -6,7 +6,7 @@ class CaptureExclusion;
 class HotKeys;
 class WindowSystem;
 
-/// What the program's windows ask of the desktop they are on. All of it outlives whatever holds this; main thread only.
+/// The desktop services that the program's windows use. Each outlives every copy of this; main thread only.
 struct Desktop {
     CaptureExclusion& captureExclusion;
     HotKeys& hotKeys;

@@ -9,10 +9,10 @@
 namespace cuebright {
 
 struct FileError {
-    std::string description; ///< one line in the system's words
+    std::string description; ///< one line, worded by the system
 };
 
-/// The few file operations that the program needs. Nothing here throws.
+/// The file operations that the program needs. None throws.
 class FileSystem {
 public:
     virtual ~FileSystem() = default;
@@ -28,13 +28,13 @@ public:
     /// Removes a file; false if there was none or it could not be removed.
     virtual bool removeFile(const std::filesystem::path& path) = 0;
 
-    /// The whole content of a regular file, with at least `spareCapacity` bytes of capacity behind it; absent when it
-    /// cannot be read.
+    /// The whole content of a regular file, with at least `spareCapacity` bytes of spare capacity; absent if it cannot
+    /// be read.
     [[nodiscard]] virtual std::optional<std::string> readFile(
         const std::filesystem::path& path, std::size_t spareCapacity) = 0;
 
-    /// Who may read a file that was not there before; one that was keeps its permissions. A file for its owner alone is
-    /// the program's: it is replaced even where it may not be written.
+    /// Who may read a new file; an existing one keeps its permissions. A file for `Owner` is the program's own: it is
+    /// replaced even if it is write-protected.
     enum class Readers { Owner, AsUsual };
 
     /// Replaces the file's content as a whole: a reader sees the old content or the new, also after a power cut. On

@@ -16,7 +16,7 @@ struct HotKey {
     std::string_view purpose; ///< for the user, where the desktop lists its keys
 };
 
-/// Holds a hot key as long as it lives.
+/// Keeps a hot key registered while it exists.
 class HotKeyRegistration {
 public:
     virtual ~HotKeyRegistration() = default;
@@ -25,13 +25,13 @@ public:
     [[nodiscard]] virtual bool isSystemWide() const = 0;
 };
 
-/// Keys that work whatever program has the keyboard.
+/// Keys that work whichever program has the focus.
 class HotKeys {
 public:
     virtual ~HotKeys() = default;
 
-    /// `pressed` runs on the main thread for each press, not for its repetitions. Null where the system offers no such
-    /// key or another program holds this one.
+    /// `pressed` runs on the main thread for each press, not for auto-repeat. Null if the system has no such keys or
+    /// another program holds this one.
     [[nodiscard]] virtual std::unique_ptr<HotKeyRegistration> registerHotKey(
         const HotKey& key, std::function<void()> pressed) = 0;
 };

@@ -4,12 +4,12 @@
 
 namespace cuebright {
 
-/// Diagnostics for whoever started the program from a terminal.
+/// Diagnostics for users who start the program from a terminal.
 class Log {
 public:
     virtual ~Log() = default;
 
-    /// Writes one line to standard output at once. `line` has no line feed.
+    /// Writes one line to standard output and flushes it. `line` has no line feed.
     virtual void writeLine(std::string_view line) = 0;
 };
 

@@ -11,7 +11,7 @@ class MainQueue;
 class Preferences;
 class UuidSource;
 
-/// What the core asks of its surroundings. All of it outlives whatever holds this; main thread only.
+/// The system services that the core uses. Each outlives every copy of this; main thread only.
 struct Platform {
     Clock& clock;
     UuidSource& uuids;

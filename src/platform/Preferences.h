@@ -8,8 +8,8 @@
 
 namespace cuebright {
 
-/// The user's preferences by key. Reading never fails: what is not there, or does not hold a value of the kind asked
-/// for, is absent. Writing takes effect at once and reports nothing.
+/// The user's preferences by key. A value that is missing or of another type reads as absent. Writing takes effect
+/// immediately and reports no errors.
 class Preferences {
 public:
     using Numbers = std::map<std::string, double, std::less<>>;
@@ -22,7 +22,7 @@ public:
     /// Always finite.
     [[nodiscard]] virtual std::optional<double> number(std::string_view key) = 0;
     [[nodiscard]] virtual std::optional<std::string> text(std::string_view key) = 0;
-    /// The finite numbers kept under `key`, each by its own name; empty when there are none.
+    /// The finite numbers kept under `key`, each by its own name; empty if there are none.
     [[nodiscard]] virtual Numbers numbers(std::string_view key) = 0;
 
     virtual void setBoolean(std::string_view key, bool value) = 0;
@@ -31,7 +31,7 @@ public:
     virtual void setText(std::string_view key, std::string_view value) = 0;
     virtual void setNumbers(std::string_view key, const Numbers& values) = 0;
 
-    /// Removes the value of whatever kind.
+    /// Removes the value, whatever its type.
     virtual void remove(std::string_view key) = 0;
 };
 

@@ -4,11 +4,11 @@
 
 namespace cuebright {
 
-/// What reaches the running program from outside: a further launch of it, the desktop, a script.
+/// A request to the running program from another launch, the desktop or a script.
 struct RemoteRequest {
     enum class Action {
-        Activate, ///< show the panel and give it the keyboard
-        ShowPanel, ///< leave the keyboard where it is
+        Activate, ///< show the panel and give it the focus
+        ShowPanel, ///< without giving it the focus
         TogglePanel,
         NextCard,
         PreviousCard,

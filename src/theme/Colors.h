@@ -4,7 +4,7 @@
 
 namespace cuebright {
 
-/// The colours that a view draws with, in its current look. A small value: make one for each drawing.
+/// The colours for the light or dark look, in normal or high contrast. A small value: make one for each paint.
 class Colors final {
 public:
     Colors(bool isDark, bool highContrast)
