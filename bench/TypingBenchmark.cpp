@@ -1,5 +1,10 @@
 // A key in the editor: delivered, in the store, counted in the footer, on the screen.
 #include "support/PanelContent.h"
+#include "ui/menu/EditCommands.h"
+#include "ui/menu/MainMenu.h"
+#include "ui/menu/StatusItem.h"
+#include "ui/panel/NotesPanel.h"
+#include "ui/panel/PanelController.h"
 
 #include <QPlainTextEdit>
 #include <QTest>
@@ -8,8 +13,10 @@
 
 #include <algorithm>
 #include <chrono>
+#include <ctime>
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace cuebright::bench {
 
@@ -78,7 +85,46 @@ BENCHMARK_CAPTURE(key, InOneLine, words)->Arg(100'000)->Arg(1'000'000)->Unit(ben
 BENCHMARK_CAPTURE(key, InOneLineOfEmoji, emoji)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(key, InOneWord, oneWord)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
 
-/// The toolkit's editor with nothing around it.
+/// Everything that follows the store while the settings are closed: panel, main menu and status item.
+struct Observers {
+    explicit Observers(Bench& bench)
+        : controller(bench.context)
+        , edit(bench.store, controller.panelWindow())
+        , mainMenu(bench.context, edit, controller.panelWindow(), [](Command) {})
+        , statusItem(bench.context, controller, [] {})
+    {
+    }
+
+    PanelController controller;
+    EditCommands edit;
+    MainMenu mainMenu;
+    StatusItem statusItem;
+};
+
+/// Costs the same whatever the number of decks.
+void keyAmongDecks(benchmark::State& state)
+{
+    Bench bench(lines(1000));
+    bench.store.cancelEdit();
+    while (bench.store.deckCount() < state.range(0))
+        bench.store.createNewDeck("Deck " + std::to_string(bench.store.deckCount()));
+    bench.store.beginEditing();
+    Observers observers(bench);
+    QCoreApplication::processEvents();
+    bench.store.flushToDisk();
+    std::vector<std::clock_t> times;
+    for (auto _ : state) {
+        const auto start = std::clock();
+        QTest::keyClick(&bench.editor(), 'x');
+        QCoreApplication::processEvents();
+        times.push_back(std::clock() - start);
+    }
+    std::nth_element(times.begin(), times.begin() + std::ssize(times) / 2, times.end());
+    state.counters["median_cpu_ms"] = 1000.0 * static_cast<double>(times[times.size() / 2]) / CLOCKS_PER_SEC;
+}
+BENCHMARK(keyAmongDecks)->Arg(3)->Arg(10'000)->Iterations(500)->Unit(benchmark::kMillisecond);
+
+/// Qt's editor with nothing around it.
 void keysReferencePlainTextEdit(benchmark::State& state)
 {
     QPlainTextEdit editor;

@@ -64,6 +64,8 @@ public:
     void runPosted();
     /// Moves both clocks on and runs all that falls due, each at its time.
     void advance(Seconds duration);
+    /// Posted work that still waits.
+    [[nodiscard]] std::size_t postedCount() const { return m_posted.size(); }
     /// Delayed and repeating work that still waits.
     [[nodiscard]] std::size_t pendingCount() const { return m_timed.size(); }
 

@@ -78,9 +78,8 @@ void MarkdownEditor::open()
     }));
 }
 
-void MarkdownEditor::refresh()
+void MarkdownEditor::refreshText()
 {
-    refreshStyle();
     const auto& store = m_context.store;
     if (!store.isEditing() || !isVisibleTo(window()) || window()->focusWidget() == this
         || store.editText() == toUtf8(text()))
@@ -143,7 +142,7 @@ void MarkdownEditor::showEvent(QShowEvent* event)
 void MarkdownEditor::focusOutEvent(QFocusEvent* event)
 {
     QPlainTextEdit::focusOutEvent(event);
-    refresh(); // what has changed in the store meanwhile may be shown now
+    refreshText(); // changes that waited for the user's typing to end
 }
 
 void MarkdownEditor::hideEvent(QHideEvent* event)

@@ -34,8 +34,9 @@ public:
     /// Takes the store's text, forgets the text's own history, puts the selection where writing starts, and asks for
     /// the focus once that is possible.
     void open();
-    /// Follows the store's preferences, and its text too unless the user is typing here.
-    void refresh();
+    /// Shows the store's text, unless the editor has the focus.
+    void refreshText();
+    /// Follows the text size and the colours.
     void refreshStyle();
 
     /// Has an input method finish the word it composes. To be called before an edit ends, or the word is lost.

@@ -74,9 +74,18 @@ EditCommands::EditCommands(const CardStore& store, const NotesPanel& panel)
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget* old, QWidget* now) {
         if (qobject_cast<QMenuBar*>(now))
             m_focusBeforeMenus = old;
-        if (targetChanged)
-            targetChanged();
+        if (const auto text = qobject_cast<QPlainTextEdit*>(now)) {
+            connect(text, &QPlainTextEdit::undoAvailable, this, &EditCommands::notify, Qt::UniqueConnection);
+            connect(text, &QPlainTextEdit::redoAvailable, this, &EditCommands::notify, Qt::UniqueConnection);
+        }
+        notify();
     });
+}
+
+void EditCommands::notify()
+{
+    if (targetChanged)
+        targetChanged();
 }
 
 QWidget* EditCommands::focusedText() const

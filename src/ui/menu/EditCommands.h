@@ -34,12 +34,12 @@ public:
     [[nodiscard]] std::string title(Command undoOrRedo) const;
     [[nodiscard]] bool isEnabled(Command undoOrRedo) const;
 
-    /// Called when the keyboard has gone to another widget.
+    /// Called when another widget has the focus, or Undo or Redo has become available or unavailable in the text.
     std::function<void()> targetChanged;
 
 private:
     [[nodiscard]] QWidget* focusedText() const;
-
+    void notify();
     [[nodiscard]] bool isStoreUndoBlocked() const;
 
     const CardStore& m_store;

@@ -51,7 +51,11 @@ MainMenu::MainMenu(
         QObject::connect(menu.get(), &QMenu::aboutToShow, menu.get(), [this] { refresh(); });
     }
     refresh();
-    m_storeSubscription = context.store.willChange.subscribe([this](const Change&) { m_refresh.request(); });
+    m_storeSubscription = context.store.willChange.subscribe([this](const Change& change) {
+        using enum Change::Property;
+        if (change.isOneOf({Decks, ActiveDeckIndex, ActiveCardIndex, IsEditing, Theme}))
+            m_refresh.request();
+    });
     m_undoSubscription = panel.undoManager()->changed.subscribe([this] { m_refresh.request(); });
     m_panelSubscription = panel.isBlockedChanged.subscribe([this] { m_refresh.request(); });
     edit.targetChanged = [this] { m_refresh.request(); };

@@ -49,8 +49,12 @@ StatusItem::StatusItem(const UiContext& context, PanelController& panelControlle
 {
     rebuildStatusMenu();
     QObject::connect(&m_menu, &QMenu::aboutToShow, &m_menu, [this] { rebuildStatusMenu(); });
-    // Not every desktop tells when it opens the menu.
-    m_storeSubscription = context.store.willChange.subscribe([this](const Change&) { m_refresh.request(); });
+    // Not every desktop emits aboutToShow.
+    m_storeSubscription = context.store.willChange.subscribe([this](const Change& change) {
+        using enum Change::Property;
+        if (change.isOneOf({Decks, ActiveDeckIndex}))
+            m_refresh.request();
+    });
     m_panelSubscription = panelController.panelWindow().isOnScreenChanged.subscribe([this] { m_refresh.request(); });
 }
 

@@ -35,20 +35,6 @@ constexpr int kBottomPadding = 24;
 constexpr int kToolbarGap = 12; ///< below the editor's toolbar
 constexpr int kGap = 20; ///< below the header and below the rule
 
-bool changesTheCard(Change::Property property)
-{
-    switch (property) {
-    case Change::Property::Decks:
-    case Change::Property::ActiveDeckIndex:
-    case Change::Property::ActiveCardIndex:
-    case Change::Property::DeckTransitionID:
-    case Change::Property::FontSize:
-        return true;
-    default:
-        return false;
-    }
-}
-
 /// One line across the column.
 class Rule final : public QWidget {
 public:
@@ -130,14 +116,17 @@ int CardContentView::columnPadding(int width) { return std::max((width - kColumn
 
 void CardContentView::onStoreWillChange(const Change& change)
 {
-    if (change.property == Change::Property::IsEditing && !m_context.store.isEditing())
-        m_editBegins = true;
-    if (changesTheCard(change.property))
-        m_cardContent = CardArea::Content::Stale;
-    if (change.property == Change::Property::IsEditing)
+    using enum Change::Property;
+    if (change.isOneOf({NavigationDirection, IsDeckSwitch, Theme, Opacity}))
+        return; // not shown here, or only through `Appearance`
+    if (change.property == IsEditing) {
         m_editAnimation = change.animation;
-    else if (change.animation)
+        m_editBegins |= !m_context.store.isEditing();
+    } else if (change.animation) {
         m_cardAnimation = change.animation;
+    }
+    if (change.isOneOf({Decks, ActiveDeckIndex, ActiveCardIndex, DeckTransitionID, FontSize}))
+        m_cardContent = CardArea::Content::Stale;
     m_refresh.request();
 }
 
@@ -163,12 +152,14 @@ void CardContentView::refresh()
     m_footer->refresh();
     if (isEditing && !m_editor)
         makeEditView();
+    const auto content = std::exchange(m_cardContent, CardArea::Content::Same);
     if (m_editor) {
-        m_editor->refresh();
+        if (content == CardArea::Content::Stale)
+            m_editor->refreshStyle();
+        m_editor->refreshText();
         if (isEditing && std::exchange(m_editBegins, false))
             m_editor->open();
     }
-    const auto content = std::exchange(m_cardContent, CardArea::Content::Same);
     const auto cardAnimation = std::exchange(m_cardAnimation, std::nullopt);
     const bool staysWithTheCard = !m_showsEditor && !isEditing;
     m_cardArea->refresh(content, staysWithTheCard ? cardAnimation : std::nullopt);

@@ -187,6 +187,7 @@ KeyMonitor::Action PanelController::actionFor(const QKeyEvent& event)
 
 void PanelController::observeStore()
 {
+    // Any change restarts the delay, also one that the window does not show.
     m_storeSubscription = m_context.store.willChange.subscribe([this](const Change&) {
         m_storeUpdate.cancel();
         m_storeUpdate =

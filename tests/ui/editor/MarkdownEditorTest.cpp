@@ -72,7 +72,7 @@ TEST_F(MarkdownEditorTest, OpeningAndStylingWriteNothing)
     editor.show();
     store.increaseFontSize();
     store.setTheme("dark");
-    editor.refresh();
+    editor.refreshStyle();
     compose(u"ni"_s, {});
     compose({}, {});
     EXPECT_EQ(writes, 0);
@@ -104,7 +104,7 @@ TEST_F(MarkdownEditorTest, ChangesFromOutsideShowOnceTheFocusIsElsewhere)
     inside.moveCursor(QTextCursor::Right);
     inside.moveCursor(QTextCursor::End, QTextCursor::KeepAnchor);
     store.setEditText("short\r");
-    inside.refresh();
+    inside.refreshText();
     EXPECT_EQ(inside.text(), u"a long text"_s);
     other.setFocus();
     EXPECT_EQ(inside.text(), u"short\r"_s);
@@ -121,7 +121,7 @@ TEST_F(MarkdownEditorTest, StyleFollowsThePreferencesLiveAndTheCaretHasTheColour
     const int before = editor.document()->defaultFont().pixelSize();
     store.increaseFontSize();
     store.setTheme("dark");
-    editor.refresh();
+    editor.refreshStyle();
     const int size = editor.document()->defaultFont().pixelSize();
     EXPECT_EQ(size, static_cast<int>(store.fontSize()));
     EXPECT_GT(size, before);
@@ -161,7 +161,7 @@ TEST_F(MarkdownEditorTest, OverlongLinesKeepToOneFont)
     paste(QString(11'000, u'a'));
     EXPECT_TRUE(keepsToOneFont());
     store.increaseFontSize();
-    editor.refresh();
+    editor.refreshStyle();
     EXPECT_TRUE(keepsToOneFont());
     open(std::string(9'000, 'a') + "\n" + std::string(9'000, 'a'));
     EXPECT_FALSE(keepsToOneFont());

@@ -1,4 +1,5 @@
 #include "ui/menu/MenuFixture.h"
+#include "ui/menu/StatusItem.h"
 
 #include <QClipboard>
 #include <QLabel>
@@ -104,6 +105,18 @@ TEST_F(MainMenuTest, EditCommandsActOnTheTextThatHasTheKeyboard)
     trigger(Command::SelectAll);
     trigger(Command::Cut);
     EXPECT_TRUE(other.text().isEmpty());
+}
+
+TEST_F(MainMenuTest, TypingRefreshesTheContentAndOnlyTheFirstLetterTheMenu)
+{
+    const StatusItem statusItem(context, controller, [] {});
+    auto& text = editor();
+    ASSERT_FALSE(mainMenu.action(Command::Undo).isEnabled());
+    QTest::keyClick(&text, 'x');
+    refresh();
+    EXPECT_TRUE(mainMenu.action(Command::Undo).isEnabled());
+    QTest::keyClick(&text, 'y');
+    EXPECT_EQ(fake.mainQueue.postedCount(), 1U);
 }
 
 TEST_F(MainMenuTest, UndoOutsideTheTextRestsWhileACardIsEdited)

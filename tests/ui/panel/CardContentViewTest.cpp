@@ -36,6 +36,17 @@ protected:
     }
 };
 
+TEST_F(CardContentViewTest, OnlyWhatItShowsRefreshesIt)
+{
+    refresh();
+    store.setOpacity(0.5);
+    store.setTheme("light");
+    EXPECT_EQ(fake.mainQueue.postedCount(), 0U);
+    store.setFontSize(20);
+    store.setEditText("typed");
+    EXPECT_EQ(fake.mainQueue.postedCount(), 1U);
+}
+
 TEST_F(CardContentViewTest, PageKeysScrollFirstAndThenStep)
 {
     setCards({longCard(60), longCard(60), "a card that fits"});
