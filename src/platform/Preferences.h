@@ -35,14 +35,4 @@ public:
     virtual void remove(std::string_view key) = 0;
 };
 
-namespace preferenceKeys {
-inline constexpr std::string_view kTheme = "cuebrightTheme";
-inline constexpr std::string_view kFontSize = "cuebrightFontSize";
-inline constexpr std::string_view kOpacity = "cuebrightOpacity";
-inline constexpr std::string_view kWordCount = "cuebrightWordCount";
-inline constexpr std::string_view kSpeakingPace = "cuebrightSpeakingPace";
-inline constexpr std::string_view kWindowFrame = "cuebrightWindowFrame";
-inline constexpr std::string_view kOnboardingDone = "cuebrightOnboardingDone";
-} // namespace preferenceKeys
-
 } // namespace cuebright

@@ -46,8 +46,8 @@ public:
     [[nodiscard]] std::int64_t cardCount() const;
     [[nodiscard]] bool canGoNext() const;
     [[nodiscard]] bool canGoPrev() const;
-    [[nodiscard]] std::string positionLabel() const; ///< "CARD 01 / 05"
-    [[nodiscard]] std::string footerLabel() const; ///< "1 OF 5"
+    [[nodiscard]] std::string positionLabel() const; ///< "CARD 01 / 05"; "CARD 0 / 0" without cards
+    [[nodiscard]] std::string footerLabel() const; ///< "1 OF 5"; "0 OF 0" without cards
     [[nodiscard]] NavigationDirection navigationDirection() const { return m_navigationDirection; }
     [[nodiscard]] const Uuid& deckTransitionID() const { return m_deckTransitionID; } ///< new at each deck switch
     [[nodiscard]] bool isDeckSwitch() const { return m_isDeckSwitch; } ///< true for 0.16 s after a deck switch
@@ -63,7 +63,7 @@ public:
     void setEditText(std::string text);
     /// Opens the active card; a blank one opens with "# ", which counts as a change.
     void beginEditing();
-    /// Writes the text and new dates to the card, even if nothing changed, and closes the edit.
+    /// Writes the text to the card, renews the dates of card and deck, even if nothing changed, and closes the edit.
     void saveEdit();
     /// Discards the text and closes the edit.
     void cancelEdit();
@@ -82,11 +82,11 @@ public:
     /// Sets `feedbackMessage` for 2 s, replacing any earlier message.
     void showFeedback(std::string message);
     [[nodiscard]] const std::optional<std::string>& feedbackMessage() const { return m_feedbackMessage; }
-    /// Receives the undo steps of cards and decks. Without one, operations register none.
+    /// Receives the undo steps, if there is one. Steps for cards and deck names act on the deck active when they run.
     void setUndoManager(std::weak_ptr<UndoManager> undoManager);
 
     // Decks (CardStoreDecks.cpp)
-    /// Appends a deck with one card and opens it; the text of an open edit is kept. A blank name becomes "Untitled
+    /// Appends a deck with one card and opens it, keeping the text of an open edit. A blank name becomes "Untitled
     /// Deck".
     void createNewDeck(std::string_view name);
     /// Renames the active deck. A blank name does nothing.

@@ -5,6 +5,7 @@
 #include "platform/FileSystem.h"
 #include "platform/Log.h"
 #include "platform/Preferences.h"
+#include "store/PreferenceKeys.h"
 #include "store/ThemeNames.h"
 
 #include <algorithm>

@@ -4,6 +4,7 @@
 #include "platform/Appearance.h"
 #include "platform/Preferences.h"
 #include "store/DisplayLimits.h"
+#include "store/PreferenceKeys.h"
 #include "store/ThemeNames.h"
 
 #include <algorithm>

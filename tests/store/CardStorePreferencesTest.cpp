@@ -1,4 +1,5 @@
 #include "store/CardStoreFixture.h"
+#include "store/PreferenceKeys.h"
 
 #include <limits>
 #include <tuple>

@@ -3,6 +3,7 @@
 #include "platform/CaptureExclusion.h"
 #include "platform/Preferences.h"
 #include "platform/qt/QtColors.h"
+#include "store/PreferenceKeys.h"
 #include "ui/animation/FadingSnapshot.h"
 #include "ui/base/ShareStatus.h"
 #include "ui/onboarding/OnboardingPageView.h"

@@ -1,6 +1,7 @@
 #include "ui/panel/FrameMemory.h"
 
 #include "platform/Preferences.h"
+#include "store/PreferenceKeys.h"
 #include "ui/base/UiContext.h"
 #include "ui/panel/WindowFrame.h"
 

@@ -4,6 +4,7 @@
 #include "Program.h"
 #include "platform/qt/TextConversion.h"
 #include "store/CardStore.h"
+#include "store/PreferenceKeys.h"
 
 #include <QDebug>
 #include <QRegularExpression>

@@ -1,6 +1,7 @@
 #include "Model.h"
 
 #include "platform/qt/TextConversion.h"
+#include "store/PreferenceKeys.h"
 
 #include <algorithm>
 #include <cmath>

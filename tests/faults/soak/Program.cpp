@@ -1,6 +1,7 @@
 #include "Program.h"
 
 #include "store/CardStore.h"
+#include "store/PreferenceKeys.h"
 
 #include <QApplication>
 #include <QDialog>

@@ -1,6 +1,7 @@
 #include "platform/qt/QtPlatform.h"
 
 #include "platform/Clock.h"
+#include "store/PreferenceKeys.h"
 #include "support/TemporaryFolder.h"
 
 #include <QApplication>

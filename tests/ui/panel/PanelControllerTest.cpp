@@ -1,6 +1,7 @@
 #include "ui/panel/PanelController.h"
 #include "ui/base/Notifications.h"
 
+#include "store/PreferenceKeys.h"
 #include "support/EventLoop.h"
 #include "ui/panel/CardContentView.h"
 #include "ui/panel/NotesPanel.h"

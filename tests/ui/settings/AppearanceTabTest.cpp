@@ -1,5 +1,6 @@
 #include "ui/settings/AppearanceTab.h"
 
+#include "store/PreferenceKeys.h"
 #include "ui/panel/PanelFixture.h"
 
 #include <QComboBox>
