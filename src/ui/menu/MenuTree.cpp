@@ -1,5 +1,7 @@
 #include "ui/menu/MenuTree.h"
 
+#include "ui/panel/GlobalHotKey.h"
+
 namespace cuebright {
 
 namespace {
@@ -64,7 +66,7 @@ std::vector<MenuItem> viewItems()
         {"Increase Opacity", IncreaseOpacity, {Qt::CTRL | Qt::Key_BracketRight}},
         {"Decrease Opacity", DecreaseOpacity, {Qt::CTRL | Qt::Key_BracketLeft}},
         kSeparator,
-        {"Show Cuebright", ShowPanel, {kCommandShift | Qt::Key_S}},
+        {"Show Cuebright", ShowPanel, {kTogglePanelKeys}},
     };
 }
 

@@ -5,6 +5,7 @@
 #include "store/CardStore.h"
 #include "ui/base/ModalSheets.h"
 #include "ui/editor/MarkdownEditor.h"
+#include "ui/panel/GlobalHotKey.h"
 #include "ui/panel/NotesPanel.h"
 #include "ui/panel/PanelController.h"
 #include "ui/widgets/ApplicationIcon.h"
@@ -70,7 +71,7 @@ void StatusItem::appear()
     rebuildStatusMenu();
     QObject::connect(m_icon.get(), &QSystemTrayIcon::activated, m_icon.get(), [this](auto reason) {
         if (reason == QSystemTrayIcon::Trigger)
-            m_panelController.togglePanel();
+            m_context.notifications.post(kTogglePanelNotification);
     });
     m_icon->show();
 }
@@ -98,8 +99,9 @@ void StatusItem::addItem(const StatusMenuItem& item)
     const auto action = item.kind == Kind::Separator ? m_menu.addSeparator() : m_menu.addAction(actionText(item.title));
     switch (item.kind) {
     case Kind::TogglePanel:
-        showKey(*action, Qt::CTRL | Qt::SHIFT | Qt::Key_S);
-        QObject::connect(action, &QAction::triggered, &m_menu, [this] { m_panelController.togglePanel(); });
+        showKey(*action, kTogglePanelKeys);
+        QObject::connect(
+            action, &QAction::triggered, &m_menu, [this] { m_context.notifications.post(kTogglePanelNotification); });
         return;
     case Kind::Deck:
         action->setData(QVariant::fromValue<qlonglong>(item.deckIndex));

@@ -4,13 +4,18 @@
 #include "platform/HotKeys.h"
 #include "ui/base/Notifications.h"
 
+#include <QKeyCombination>
+
 namespace cuebright {
 
-/// ⌘⇧S: shows and hides the panel from any program.
+/// ⌘⇧S, which shows and hides the panel.
+inline constexpr QKeyCombination kTogglePanelKeys = Qt::CTRL | Qt::SHIFT | Qt::Key_S;
+
+/// The same stroke, from any program.
 inline constexpr HotKey kTogglePanelHotKey {
     .signature = 0x43554542, // 'CUEB'
     .id = 1,
-    .letter = 'S',
+    .letter = static_cast<char>(kTogglePanelKeys.key()),
     .name = "toggle-panel",
     .purpose = "Show / Hide window",
 };

@@ -1,31 +1,40 @@
 #pragma once
 
+#include "ui/panel/PanelKeys.h"
+
 #include <QObject>
 
 #include <functional>
 
-class QKeyEvent;
-class QWidget;
-
 namespace cuebright {
 
-/// Sees the keys that reach a window before its menus and all that is in it, each key once.
+class NotesPanel;
+struct UiContext;
+
+/// Performs the panel's keys before its menus and widgets see them.
 ///
-/// Keeps out while a pop-up, a sheet or the menu bar has the keyboard.
+/// A key press goes on to the next of these until one takes it:
+/// 1. an open pop-up or sheet, or the menu bar while it has focus;
+/// 2. this monitor, by `panelKeyAction()`;
+/// 3. the shortcuts of the menus;
+/// 4. the focused widget, then its parents.
 class KeyMonitor final : public QObject {
 public:
-    /// What a key does; empty for a key that is to go its way.
-    using Action = std::function<void()>;
-
-    /// `actionFor` is asked several times for one key and must not act itself. `window` outlives this.
-    KeyMonitor(const QWidget& window, std::function<Action(const QKeyEvent&)> actionFor);
+    /// Call when `panel` has its native window. `isPanelVisible` is false as soon as the panel begins to hide. All that
+    /// is passed in must outlive this.
+    KeyMonitor(const UiContext& context, NotesPanel& panel, std::function<bool()> isPanelVisible);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    const QWidget& m_window;
-    std::function<Action(const QKeyEvent&)> m_actionFor;
+    [[nodiscard]] bool isKeyboardElsewhere() const;
+    [[nodiscard]] PanelState state() const;
+    void perform(const PanelKeyAction& action);
+
+    const UiContext& m_context;
+    NotesPanel& m_panel;
+    std::function<bool()> m_isPanelVisible;
 };
 
 } // namespace cuebright

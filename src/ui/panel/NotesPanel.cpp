@@ -1,8 +1,5 @@
 #include "ui/panel/NotesPanel.h"
 
-#include "ui/base/Notifications.h"
-
-#include "foundation/NotificationCenter.h"
 #include "platform/qt/QtColors.h"
 #include "store/CardStore.h"
 #include "store/UndoManager.h"
@@ -24,11 +21,9 @@ NotesPanel::NotesPanel(const UiContext& context)
     : QWidget(nullptr, Qt::Window | Qt::WindowStaysOnTopHint)
     , m_context(context)
     , m_undoManager(std::make_shared<UndoManager>())
-    , m_keyMonitor(*this, [this](const QKeyEvent& event) { return actionFor(event); })
 {
     presentWindowsToScreenReaders();
     setAttribute(Qt::WA_ShowWithoutActivating);
-    qApp->installEventFilter(this);
 }
 
 NotesPanel::~NotesPanel() = default;
@@ -36,11 +31,11 @@ NotesPanel::~NotesPanel() = default;
 void NotesPanel::orderFront()
 {
     if (isMinimized()) {
-        hide(); // brought back as it is, it would take the keyboard
+        hide(); // a minimised window would take focus when restored
         setWindowState(windowState() & ~Qt::WindowMinimized);
     }
     show();
-    if (!QApplication::activePopupWidget()) // a restacked window would cover its own pop-up
+    if (!QApplication::activePopupWidget()) // raised, the panel would cover its own pop-up
         raise();
 }
 
@@ -67,15 +62,25 @@ void NotesPanel::dismissMenusAndSheets()
 
 bool NotesPanel::event(QEvent* event)
 {
-    if (event->type() == QEvent::WindowBlocked || event->type() == QEvent::WindowUnblocked)
+    switch (event->type()) {
+    case QEvent::WinIdChange:
+        if (const auto window = windowHandle())
+            window->installEventFilter(this);
+        break;
+    case QEvent::WindowBlocked:
+    case QEvent::WindowUnblocked:
         isBlockedChanged.notify();
+        break;
+    default:
+        break;
+    }
     return QWidget::event(event);
 }
 
-/// Every press on the panel comes by here, whatever it is on.
-bool NotesPanel::eventFilter(QObject* watched, QEvent* event)
+/// Sees every press on the panel, whichever widget it is on.
+bool NotesPanel::eventFilter(QObject*, QEvent* event)
 {
-    if (event->type() != QEvent::MouseButtonPress || watched != windowHandle())
+    if (event->type() != QEvent::MouseButtonPress)
         return false;
     if (m_context.store.isEditing())
         MarkdownEditor::commitComposition(); // the click may end the edit
@@ -94,9 +99,9 @@ void NotesPanel::mouseMoveEvent(QMouseEvent* event)
 {
     if (!m_pressedSpot || !(event->buttons() & Qt::LeftButton))
         return;
-    const auto way = event->position().toPoint() - *m_pressedSpot;
-    if (way.manhattanLength() < QApplication::startDragDistance())
-        return; // may become a double click yet
+    const auto moved = event->position().toPoint() - *m_pressedSpot;
+    if (moved.manhattanLength() < QApplication::startDragDistance())
+        return; // may still become a double click
     m_pressedSpot.reset();
     windowHandle()->startSystemMove();
 }
@@ -109,73 +114,27 @@ void NotesPanel::closeEvent(QCloseEvent* event)
     orderOut();
 }
 
-void NotesPanel::showEvent(QShowEvent*) { noticeIfOnScreenChanged(); }
+void NotesPanel::showEvent(QShowEvent*) { notifyIfOnScreenChanged(); }
 
-void NotesPanel::hideEvent(QHideEvent*) { noticeIfOnScreenChanged(); }
+void NotesPanel::hideEvent(QHideEvent*) { notifyIfOnScreenChanged(); }
 
 void NotesPanel::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::WindowStateChange)
-        noticeIfOnScreenChanged();
+        notifyIfOnScreenChanged();
 }
 
-void NotesPanel::noticeIfOnScreenChanged()
+void NotesPanel::notifyIfOnScreenChanged()
 {
     if (std::exchange(m_wasOnScreen, isOnScreen()) != isOnScreen())
         isOnScreenChanged.notify();
 }
 
-/// Seen only where the content does not reach: around it while the panel comes and goes.
+/// Visible only around the content, which is scaled while the panel shows or hides.
 void NotesPanel::paintEvent(QPaintEvent* event)
 {
     QPainter(this).fillRect(event->rect(), toQColor(m_context.colors().warmBg()));
-}
-
-KeyMonitor::Action NotesPanel::actionFor(const QKeyEvent& event)
-{
-    const auto action = panelKeyAction(KeyStroke::of(event), m_context.store.isEditing());
-    if (!action)
-        return {};
-    if (event.isAutoRepeat() && !repeatsWhileHeld(action->command))
-        return [] {};
-    return [this, action] { perform(*action); };
-}
-
-void NotesPanel::perform(const PanelKeyAction& action)
-{
-    auto& store = m_context.store;
-    if (store.isEditing())
-        MarkdownEditor::commitComposition(); // the key may end the edit
-    switch (action.command) {
-    case PanelCommand::Swallow:
-        return;
-    case PanelCommand::AskToDeleteCard:
-        if (store.cardCount() >= 2)
-            m_context.notifications.post(kDeleteCardNotification);
-        return;
-    case PanelCommand::Undo:
-        return m_undoManager->undo();
-    case PanelCommand::Redo:
-        return m_undoManager->redo();
-    case PanelCommand::BeginEditing:
-        activate();
-        return store.beginEditing();
-    case PanelCommand::SaveEdit:
-        return store.saveEdit();
-    case PanelCommand::CancelEdit:
-        return store.cancelEdit();
-    case PanelCommand::ToggleOverwrite:
-        return m_context.notifications.post(kToggleOverwriteNotification);
-    case PanelCommand::PrevCard:
-        return store.prevCard();
-    case PanelCommand::NextCard:
-        return store.nextCard();
-    case PanelCommand::SwitchToDeck:
-        return store.switchToDeck(action.deckIndex);
-    case PanelCommand::ToggleWordCount:
-        return store.toggleWordCount();
-    }
 }
 
 } // namespace cuebright

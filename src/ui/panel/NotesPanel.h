@@ -2,8 +2,6 @@
 
 #include "foundation/Signal.h"
 #include "ui/base/UiContext.h"
-#include "ui/panel/KeyMonitor.h"
-#include "ui/panel/PanelKeys.h"
 
 #include <QPoint>
 #include <QWidget>
@@ -15,10 +13,8 @@ namespace cuebright {
 
 class UndoManager;
 
-/// The window with the cards: above all others, never taking the keyboard by being shown, always by being clicked.
-/// Owns the undo stack of the whole store and answers the panel's keys before anything in it sees them.
-///
-/// Closing it puts it away; it is there as long as its owner keeps it. Any spot that nothing else uses moves it.
+/// The window with the cards. It stays above all others and takes focus when clicked, never by being shown. Dragging an
+/// empty spot moves it. Closing only hides it. Owns the undo stack of the whole store.
 class NotesPanel final : public QWidget {
 public:
     explicit NotesPanel(const UiContext& context);
@@ -29,18 +25,19 @@ public:
     /// Neither hidden nor minimised.
     [[nodiscard]] bool isOnScreen() const { return isVisible() && !isMinimized(); }
 
-    /// Puts the panel above the other windows without giving it the keyboard.
+    /// Shows the panel above the other windows without giving it focus.
     void orderFront();
-    /// Takes the panel off the screen. Its menus close, its sheets are answered with Cancel.
+    /// Hides the panel; see `dismissMenusAndSheets()`.
     void orderOut();
+    /// Closes the panel's menus and cancels its sheets.
     void dismissMenusAndSheets();
-    /// Gives the panel the keyboard.
+    /// Gives the panel focus.
     void activate();
 
-    /// The panel has come to the screen, or has left it, by whatever way.
+    /// Emitted whoever shows, hides or minimises the panel.
     Signal<> isOnScreenChanged;
 
-    /// A question keeps the keyboard from the panel from now on, or no longer.
+    /// A modal dialog begins or ends to block the panel.
     Signal<> isBlockedChanged;
 
 protected:
@@ -56,15 +53,12 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    [[nodiscard]] KeyMonitor::Action actionFor(const QKeyEvent& event);
-    void perform(const PanelKeyAction& action);
-    void noticeIfOnScreenChanged();
+    void notifyIfOnScreenChanged();
 
     const UiContext& m_context;
     std::shared_ptr<UndoManager> m_undoManager;
-    KeyMonitor m_keyMonitor;
     bool m_wasOnScreen = false;
-    std::optional<QPoint> m_pressedSpot; ///< of a press on an empty spot, in the panel
+    std::optional<QPoint> m_pressedSpot; ///< where a press on an empty spot began
 };
 
 } // namespace cuebright

@@ -1,7 +1,5 @@
 #include "ui/panel/PanelController.h"
 
-#include "ui/base/Notifications.h"
-
 #include "foundation/NotificationCenter.h"
 #include "platform/Accessibility.h"
 #include "platform/CaptureExclusion.h"
@@ -9,9 +7,11 @@
 #include "platform/WindowSystem.h"
 #include "platform/qt/TextConversion.h"
 #include "store/CardStore.h"
+#include "ui/base/Notifications.h"
 #include "ui/base/ShareStatus.h"
 #include "ui/panel/CardContentView.h"
 #include "ui/panel/GlobalHotKey.h"
+#include "ui/panel/KeyMonitor.h"
 #include "ui/panel/NotesPanel.h"
 
 #include <QVBoxLayout>
@@ -88,17 +88,24 @@ void PanelController::togglePanel()
 
 void PanelController::showPanel()
 {
-    reapplyCaptureExclusion();
-    m_isMeantToShow = true;
+    reapplyCaptureExclusion(); // before anything can be seen
+    m_isMeantToShow = true; // before followPanel() hears of the show
+    prepareToShow();
+    m_panel->orderFront();
+    // Both need the panel on the screen.
+    reportShareStatus();
+    reportReturnAfterAbsence();
+}
+
+/// What has to be set while the window is still unmapped, or the user would see it change.
+void PanelController::prepareToShow()
+{
     m_frameMemory.prepareToShow();
-    m_showHideAnimation.setOpacity(m_context.store.opacity()); // it may have changed a moment ago
     m_context.desktop.windowSystem.keepAboveFullScreen(m_panel->winId());
-    m_showHideAnimation.show(motion(m_context));
+    m_showHideAnimation.setOpacity(m_context.store.opacity()); // the store's change may still be pending
+    m_showHideAnimation.show(motion(m_context)); // starts from that opacity
     if (!m_panel->isOnScreen() && !m_isContentCovered)
         m_content->takeFocus();
-    m_panel->orderFront();
-    tellWhatTheAudienceSees();
-    endAbsence();
 }
 
 void PanelController::hidePanel()
@@ -111,7 +118,7 @@ void PanelController::hidePanel()
     m_showHideAnimation.hide(motion(m_context));
 }
 
-/// The window's own buttons and the window manager hide and show the panel too.
+/// The title bar's buttons and the window manager show and hide the panel, too.
 void PanelController::followPanel()
 {
     if (m_panel->isOnScreen()) {
@@ -136,53 +143,35 @@ void PanelController::reapplyCaptureExclusion()
 void PanelController::setContentCovered(bool isCovered)
 {
     m_isContentCovered = isCovered;
-    tellWhatTheAudienceSees();
+    reportShareStatus();
 }
 
-/// Once after launch, as soon as it is known and can be read; and again if what was hidden has come to light.
-void PanelController::tellWhatTheAudienceSees()
+/// Once after launch, when the status is known and the user can read it; again each time the exclusion is lost.
+void PanelController::reportShareStatus()
 {
     auto& exclusion = m_context.desktop.captureExclusion;
     if (!exclusion.isSettled())
         return;
     if (exclusion.state() == CaptureExclusion::State::Excluded)
-        m_isShareNoticeDue = true;
-    if (!m_isShareNoticeDue || !isPanelVisible() || m_isContentCovered)
+        m_isShareStatusDue = true;
+    if (!m_isShareStatusDue || !isPanelVisible() || m_isContentCovered)
         return;
     if (const auto feedback = shareFeedback(exclusion.state())) {
-        m_isShareNoticeDue = false;
+        m_isShareStatusDue = false;
         m_context.store.showFeedback(std::string(*feedback));
     }
 }
 
-void PanelController::endAbsence()
+void PanelController::reportReturnAfterAbsence()
 {
     const auto hiddenAt = std::exchange(m_lastHideTime, std::nullopt);
     if (hiddenAt && m_context.platform.clock.uptime() - *hiddenAt > kAbsence)
         m_context.notifications.post(kReturnAfterAbsenceNotification);
 }
 
-/// The plain arrow keys; and ⌘⇧S, which comes by here only where the system has not taken it for us. Once the panel is
-/// on its way off the screen, it takes no key any more: the user is with another program already.
 void PanelController::installArrowKeyMonitor()
 {
-    m_arrowKeyMonitor =
-        std::make_unique<KeyMonitor>(*m_panel, [this](const QKeyEvent& event) { return actionFor(event); });
-}
-
-KeyMonitor::Action PanelController::actionFor(const QKeyEvent& event)
-{
-    const auto stroke = KeyStroke::of(event);
-    if (isTogglePanelKey(stroke) && !event.isAutoRepeat())
-        return [this] { togglePanel(); };
-    if (!isPanelVisible())
-        return [] {};
-    const auto action = arrowKeyAction(stroke, m_context.store.isEditing());
-    if (!action)
-        return {};
-    return [&store = m_context.store, isForward = action->command == PanelCommand::NextCard] {
-        isForward ? store.nextCard() : store.prevCard();
-    };
+    m_arrowKeyMonitor = std::make_unique<KeyMonitor>(m_context, *m_panel, [this] { return isPanelVisible(); });
 }
 
 void PanelController::observeStore()
@@ -194,8 +183,7 @@ void PanelController::observeStore()
             m_context.platform.mainQueue.after(kStoreDebounce, m_weakTarget.guard([this] { followStore(); }));
     });
     m_accessibilitySubscription = m_context.platform.accessibility.changed.subscribe([this] { applyOpacity(); });
-    m_exclusionSubscription =
-        m_context.desktop.captureExclusion.changed.subscribe([this] { tellWhatTheAudienceSees(); });
+    m_exclusionSubscription = m_context.desktop.captureExclusion.changed.subscribe([this] { reportShareStatus(); });
 }
 
 void PanelController::followStore()
@@ -211,7 +199,6 @@ void PanelController::updateTitle()
         m_panel->setWindowTitle(title);
 }
 
-/// Opaque, the panel has nothing behind it that could be blurred.
 void PanelController::applyOpacity()
 {
     const double opacity = m_context.store.opacity();

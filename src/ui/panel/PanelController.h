@@ -6,22 +6,20 @@
 #include "platform/MainQueue.h"
 #include "ui/base/UiContext.h"
 #include "ui/panel/FrameMemory.h"
-#include "ui/panel/KeyMonitor.h"
 #include "ui/panel/ShowHideAnimation.h"
 
 #include <memory>
 #include <optional>
 
-class QKeyEvent;
-
 namespace cuebright {
 
 class CardContentView;
 class HotKeyRegistration;
+class KeyMonitor;
 class NotesPanel;
 
-/// Owns the panel: makes and fills it, shows and hides it, remembers where it stood, and keeps its title and opacity
-/// in step with the store.
+/// Owns the panel: fills it, shows and hides it, remembers its geometry, handles its keys, and keeps its title and
+/// opacity in step with the store.
 class PanelController final {
 public:
     explicit PanelController(const UiContext& context);
@@ -30,24 +28,22 @@ public:
     ~PanelController();
 
     [[nodiscard]] NotesPanel& panelWindow() const { return *m_panel; }
-    /// All that the panel shows.
     [[nodiscard]] CardContentView& content() const { return *m_content; }
-    /// On the screen and not on its way out.
+    /// False as soon as the panel begins to hide.
     [[nodiscard]] bool isPanelVisible() const;
 
     void togglePanel();
-    /// Puts the panel above everything; leaves the keyboard where it is.
+    /// Shows the panel above all windows without giving it focus.
     void showPanel();
     void hidePanel();
-    /// Says that something lies over the content and has the keyboard: what is told there waits until it has gone.
+    /// While an overlay covers the content, it keeps the focus, and messages about screen sharing wait.
     void setContentCovered(bool isCovered);
-    /// Where the panel stands now is not kept, until the user moves it again.
+    /// Drops a geometry that is not saved yet.
     void forgetFrame() { m_frameMemory.cancelPendingSave(); }
 
 private:
     void configureContent();
     void installArrowKeyMonitor();
-    [[nodiscard]] KeyMonitor::Action actionFor(const QKeyEvent& event);
     void handleHotkeyNotification() { togglePanel(); }
 
     void observeStore();
@@ -57,8 +53,9 @@ private:
 
     void followPanel();
     void reapplyCaptureExclusion();
-    void tellWhatTheAudienceSees();
-    void endAbsence();
+    void prepareToShow();
+    void reportShareStatus();
+    void reportReturnAfterAbsence();
 
     const UiContext& m_context;
     std::unique_ptr<NotesPanel> m_panel;
@@ -66,10 +63,10 @@ private:
     FrameMemory m_frameMemory;
     ShowHideAnimation m_showHideAnimation;
     std::unique_ptr<HotKeyRegistration> m_hotkeyRef;
-    std::unique_ptr<KeyMonitor> m_arrowKeyMonitor;
+    std::unique_ptr<KeyMonitor> m_arrowKeyMonitor; ///< of all keys of the panel
     std::optional<Seconds> m_lastHideTime; ///< by `Clock::uptime`
     bool m_isMeantToShow = false;
-    bool m_isShareNoticeDue = true;
+    bool m_isShareStatusDue = true;
     bool m_isContentCovered = false;
     PendingTask m_storeUpdate;
     WeakTarget m_weakTarget;

@@ -1,5 +1,8 @@
 #include "ui/panel/PanelKeys.h"
 
+#include "ui/base/KeyStroke.h"
+#include "ui/panel/GlobalHotKey.h"
+
 #include <algorithm>
 #include <array>
 
@@ -9,88 +12,64 @@ namespace {
 
 using enum PanelCommand;
 
-/// One row of a key table; an absent command passes the key on.
+enum class WhenHeld { ActsOnce, Repeats };
+
+/// An absent command passes the key on.
 struct Row {
-    int key;
-    std::optional<PanelCommand> notEditing;
+    QKeyCombination keys;
+    std::optional<PanelCommand> reading;
     std::optional<PanelCommand> editing;
+    WhenHeld whenHeld = WhenHeld::ActsOnce;
 };
 
-constexpr std::array kCommandRows {
-    Row {Qt::Key_D, AskToDeleteCard, AskToDeleteCard},
-    Row {Qt::Key_Z, Undo, std::nullopt},
-    Row {Qt::Key_E, BeginEditing, SaveEdit},
-    Row {Qt::Key_O, Swallow, ToggleOverwrite},
-    Row {Qt::Key_Return, BeginEditing, SaveEdit},
-    Row {Qt::Key_Enter, BeginEditing, SaveEdit},
-    Row {Qt::Key_Period, std::nullopt, CancelEdit},
-    Row {Qt::Key_Left, PrevCard, std::nullopt},
-    Row {Qt::Key_Right, NextCard, std::nullopt},
-};
+constexpr auto kCommandShift = Qt::CTRL | Qt::SHIFT;
 
-constexpr std::array kCommandShiftRows {
-    Row {Qt::Key_W, ToggleWordCount, ToggleWordCount}, Row {Qt::Key_Z, Redo, std::nullopt},
-    Row {Qt::Key_Period, std::nullopt, CancelEdit}, // where the full stop needs Shift
-};
-
-constexpr std::array kPlainRows {
+constexpr std::array kRows {
+    Row {kTogglePanelKeys, TogglePanel, TogglePanel}, // arrives here only if the system has not granted the hot key
+    Row {Qt::CTRL | Qt::Key_D, AskToDeleteCard, AskToDeleteCard},
+    Row {Qt::CTRL | Qt::Key_Z, Undo, std::nullopt, WhenHeld::Repeats},
+    Row {kCommandShift | Qt::Key_Z, Redo, std::nullopt, WhenHeld::Repeats},
+    Row {Qt::CTRL | Qt::Key_E, BeginEditing, SaveEdit},
+    Row {Qt::CTRL | Qt::Key_Return, BeginEditing, SaveEdit},
+    Row {Qt::CTRL | Qt::Key_Enter, BeginEditing, SaveEdit},
     Row {Qt::Key_Escape, std::nullopt, SaveEdit},
+    Row {Qt::CTRL | Qt::Key_Period, std::nullopt, CancelEdit},
+    Row {kCommandShift | Qt::Key_Period, std::nullopt, CancelEdit}, // where the full stop needs Shift
+    Row {Qt::CTRL | Qt::Key_O, Swallow, ToggleOverwrite},
+    Row {Qt::Key_Left, PrevCard, std::nullopt, WhenHeld::Repeats},
+    Row {Qt::Key_Right, NextCard, std::nullopt, WhenHeld::Repeats},
+    Row {Qt::CTRL | Qt::Key_Left, PrevCard, std::nullopt, WhenHeld::Repeats},
+    Row {Qt::CTRL | Qt::Key_Right, NextCard, std::nullopt, WhenHeld::Repeats},
+    Row {kCommandShift | Qt::Key_W, ToggleWordCount, ToggleWordCount},
 };
 
-constexpr std::array kArrowRows {
-    Row {Qt::Key_Left, PrevCard, std::nullopt},
-    Row {Qt::Key_Right, NextCard, std::nullopt},
-};
-
-template <typename Rows> const Row* find(const Rows& rows, int key)
+/// In this order: the state, the table, the deck digits. A key of the table is no digit even where a layout has it in
+/// the digit row.
+std::optional<PanelKeyAction> actionFor(const KeyStroke& stroke, const Row* row, PanelState state)
 {
-    const auto row = std::find_if(rows.begin(), rows.end(), [key](const Row& r) { return r.key == key; });
-    return row == rows.end() ? nullptr : &*row;
-}
-
-template <typename Rows> std::optional<PanelKeyAction> lookUp(const Rows& rows, const KeyStroke& stroke, bool isEditing)
-{
-    const auto row = find(rows, stroke.key);
-    const auto command = row ? (isEditing ? row->editing : row->notEditing) : std::nullopt;
-    return command ? std::optional(PanelKeyAction {*command}) : std::nullopt;
-}
-
-std::optional<PanelKeyAction> deckKeyAction(const KeyStroke& stroke, bool isEditing)
-{
-    if (isEditing || stroke.digit < 1 || stroke.digit > 9)
-        return std::nullopt;
-    return PanelKeyAction {SwitchToDeck, stroke.digit - 1};
+    if (state == PanelState::Hiding)
+        return PanelKeyAction {row && row->reading == TogglePanel ? TogglePanel : Swallow};
+    if (row) {
+        const auto command = state == PanelState::Editing ? row->editing : row->reading;
+        return command ? std::optional(PanelKeyAction {*command}) : std::nullopt;
+    }
+    const bool isDeckKey = stroke.modifiers == Qt::ControlModifier && stroke.digit >= 1;
+    if (isDeckKey && state == PanelState::Reading)
+        return PanelKeyAction {SwitchToDeck, stroke.digit - 1};
+    return std::nullopt;
 }
 
 } // namespace
 
-std::optional<PanelKeyAction> panelKeyAction(const KeyStroke& stroke, bool isEditing)
+std::optional<PanelKeyAction> panelKeyAction(const QKeyEvent& event, PanelState state)
 {
-    if (stroke.modifiers == Qt::ControlModifier) {
-        if (find(kCommandRows, stroke.key))
-            return lookUp(kCommandRows, stroke, isEditing);
-        return deckKeyAction(stroke, isEditing);
-    }
-    if (stroke.modifiers == (Qt::ControlModifier | Qt::ShiftModifier))
-        return lookUp(kCommandShiftRows, stroke, isEditing);
-    if (stroke.modifiers == Qt::NoModifier)
-        return lookUp(kPlainRows, stroke, isEditing);
-    return std::nullopt;
-}
-
-bool repeatsWhileHeld(PanelCommand command)
-{
-    return command == PrevCard || command == NextCard || command == Undo || command == Redo;
-}
-
-bool isTogglePanelKey(const KeyStroke& stroke)
-{
-    return stroke.modifiers == (Qt::ControlModifier | Qt::ShiftModifier) && stroke.key == Qt::Key_S;
-}
-
-std::optional<PanelKeyAction> arrowKeyAction(const KeyStroke& stroke, bool isEditing)
-{
-    return stroke.modifiers == Qt::NoModifier ? lookUp(kArrowRows, stroke, isEditing) : std::nullopt;
+    const auto stroke = KeyStroke::of(event);
+    const QKeyCombination keys(stroke.modifiers, static_cast<Qt::Key>(stroke.key));
+    const auto found = std::ranges::find(kRows, keys, &Row::keys);
+    const auto row = found == kRows.end() ? nullptr : &*found;
+    const auto action = actionFor(stroke, row, state);
+    const bool repeats = row && row->whenHeld == WhenHeld::Repeats;
+    return action && event.isAutoRepeat() && !repeats ? PanelKeyAction {Swallow} : action;
 }
 
 } // namespace cuebright

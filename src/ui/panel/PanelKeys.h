@@ -1,15 +1,22 @@
 #pragma once
 
-#include "ui/base/KeyStroke.h"
-
 #include <cstdint>
 #include <optional>
 
+class QKeyEvent;
+
 namespace cuebright {
 
-/// What a key of the panel asks for.
+enum class PanelState {
+    Reading,
+    Editing,
+    Hiding, ///< still on the screen, but the user is with another program already
+};
+
+/// What a key of the panel does.
 enum class PanelCommand {
-    Swallow, ///< the key is taken, nothing happens
+    Swallow, ///< nothing; no menu and no widget gets the key either
+    TogglePanel,
     AskToDeleteCard,
     Undo,
     Redo,
@@ -30,16 +37,7 @@ struct PanelKeyAction {
     bool operator==(const PanelKeyAction&) const = default;
 };
 
-/// The panel's shortcuts, tried before those of the menus; absent where the key is not one of them.
-[[nodiscard]] std::optional<PanelKeyAction> panelKeyAction(const KeyStroke& stroke, bool isEditing);
-
-/// A key that is held goes on stepping and undoing; everything else happens once.
-[[nodiscard]] bool repeatsWhileHeld(PanelCommand command);
-
-/// ⌘⇧S.
-[[nodiscard]] bool isTogglePanelKey(const KeyStroke& stroke);
-
-/// The plain arrow keys, which step through the cards while nothing is edited.
-[[nodiscard]] std::optional<PanelKeyAction> arrowKeyAction(const KeyStroke& stroke, bool isEditing);
+/// The panel's shortcuts. Absent: the key goes on to the menus, then to the focused widget.
+[[nodiscard]] std::optional<PanelKeyAction> panelKeyAction(const QKeyEvent& event, PanelState state);
 
 } // namespace cuebright

@@ -2,6 +2,8 @@
 
 #include "ui/panel/PanelKeys.h"
 
+#include <QKeyEvent>
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -31,9 +33,8 @@ std::vector<MenuItem> commandItems()
 
 bool isTakenByPanel(const QKeySequence& key)
 {
-    const KeyStroke stroke {key[0].keyboardModifiers(), key[0].key()};
-    return panelKeyAction(stroke, false) || panelKeyAction(stroke, true) || arrowKeyAction(stroke, false)
-        || isTogglePanelKey(stroke);
+    const QKeyEvent press(QEvent::KeyPress, key[0].key(), key[0].keyboardModifiers());
+    return panelKeyAction(press, PanelState::Reading) || panelKeyAction(press, PanelState::Editing);
 }
 
 } // namespace
