@@ -1,12 +1,10 @@
 #include "app/AfterFirstFrame.h"
 #include "app/AppDelegate.h"
+#include "app/Application.h"
 #include "app/ExitSave.h"
-#include "app/QuitEvents.h"
 #include "platform/qt/QtPlatform.h"
 #include "platform/system/ProcessSetup.h"
 #include "platform/system/SingleInstance.h"
-
-#include <QApplication>
 
 #include <string>
 #include <vector>
@@ -15,22 +13,22 @@ using namespace cuebright;
 
 int main(int, char* argv[])
 {
-    SingleInstance instance; // first: a launch that only hands over never starts the toolkit
+    SingleInstance instance; // first: a launch that only hands over starts no Qt
     if (const auto status = instance.exitStatus())
         return *status;
     ProcessSetup process;
 
-    // There are no command-line options, so the toolkit gets none of the user's either.
+    // The program has no command-line options, so Qt gets none of the user's either.
     auto options = ProcessSetup::toolkitOptions();
     std::vector<char*> arguments {argv[0]};
     for (auto& option : options)
         arguments.push_back(option.data());
     auto argumentCount = static_cast<int>(arguments.size());
     arguments.push_back(nullptr);
-    QApplication application(argumentCount, arguments.data());
+    Application application(argumentCount, arguments.data());
     QApplication::setApplicationName(QStringLiteral("Cuebright"));
     QApplication::setApplicationVersion(QStringLiteral(CUEBRIGHT_VERSION));
-    QApplication::setQuitOnLastWindowClosed(false); // a hidden panel comes back
+    QApplication::setQuitOnLastWindowClosed(false); // the panel may be hidden
     QApplication::setDesktopFileName(QStringLiteral("app.cuebright.Cuebright"));
     process.onApplicationCreated();
 
@@ -44,11 +42,11 @@ int main(int, char* argv[])
         delegate.onFirstFrame();
     });
 
-    const QuitEvents quitEvents([&] { delegate.quit(); });
+    application.quitRequested = [&] { delegate.quit(); };
     const auto onRequest = process.terminationRequested.subscribe([&] { delegate.quit(); });
     QObject::connect(
         &application, &QCoreApplication::aboutToQuit, &application, [&] { delegate.applicationWillTerminate(); });
-    // The session ends: the desktop may kill the program as soon as this returns.
+    // At the end of the session the desktop may kill the program as soon as this returns.
     QObject::connect(
         &application, &QGuiApplication::commitDataRequest, &application, [&] { delegate.applicationWillTerminate(); },
         Qt::DirectConnection);

@@ -1,6 +1,7 @@
+#include "app/Application.h"
+
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QTemporaryDir>
 
 /// Runs the tests that need Qt: no display, and no files but in a folder that goes away.
@@ -11,7 +12,7 @@ int main(int argc, char* argv[])
     for (const char* folder : {"XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_STATE_HOME"})
         qputenv(folder, home.filePath(QString::fromLatin1(folder)).toUtf8());
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
+    cuebright::Application application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Cuebright"));
     return RUN_ALL_TESTS();
 }
