@@ -1,23 +1,20 @@
 #include "app/AppDelegate.h"
 
 #include "ui/base/Notifications.h"
-
 #include "ui/editor/MarkdownEditor.h"
-#include "ui/menu/EditCommands.h"
-#include "ui/menu/ExportCommand.h"
-#include "ui/menu/MainMenu.h"
 #include "ui/menu/MenuBarStrip.h"
 #include "ui/menu/StatusItem.h"
 #include "ui/onboarding/OnboardingOverlay.h"
 #include "ui/panel/CardContentView.h"
 #include "ui/panel/NotesPanel.h"
-#include "ui/panel/PanelController.h"
 #include "ui/settings/AboutWindow.h"
 #include "ui/settings/SettingsWindow.h"
 #include "ui/widgets/ApplicationIcon.h"
 
 #include <QApplication>
 #include <QMessageBox>
+
+#include <utility>
 
 namespace cuebright {
 
@@ -29,44 +26,43 @@ AppDelegate::AppDelegate(const Platform& platform, const Desktop& desktop)
 
 AppDelegate::~AppDelegate() = default;
 
+AppDelegate::Shell::Shell(const UiContext& context, std::function<void(Command)> perform)
+    : panelController(context)
+    , editCommands(context.store, panelController.panelWindow())
+    , mainMenu(context, editCommands, panelController.panelWindow(), std::move(perform))
+    , exportCommand(context, panelController.panelWindow())
+{
+}
+
 void AppDelegate::applicationDidFinishLaunching()
 {
-    m_panelController = std::make_unique<PanelController>(m_context);
+    m_shell.emplace(m_context, [this](Command command) { perform(command); });
     buildMainMenu();
-    m_exportCommand = std::make_unique<ExportCommand>(m_context, m_panelController->panelWindow());
-    showOnboarding();
-    m_panelController->showPanel();
+    showOnboarding(); // before the panel is shown: the focus is the overlay's
+    m_shell->panelController.showPanel();
     m_deleteSubscription = m_notifications.observe(kDeleteCardNotification, [this] { deleteCard(); });
 }
 
-void AppDelegate::buildMainMenu()
-{
-    auto& panel = m_panelController->panelWindow();
-    m_editCommands = std::make_unique<EditCommands>(m_store, panel);
-    m_mainMenu =
-        std::make_unique<MainMenu>(m_context, *m_editCommands, panel, [this](Command command) { perform(command); });
-    m_mainMenu->addActionsTo(panel);
-}
+/// The menu bar can wait for the first frame, the shortcuts cannot.
+void AppDelegate::buildMainMenu() { m_shell->mainMenu.addActionsTo(panelWindow()); }
 
 void AppDelegate::onFirstFrame()
 {
-    m_mainMenu->addMenusTo(*new MenuBarStrip(m_context, &m_panelController->panelWindow()));
+    m_shell->mainMenu.addMenusTo(*new MenuBarStrip(m_context, &panelWindow()));
     QApplication::setWindowIcon(applicationIcon());
     setupStatusItem();
 }
 
 void AppDelegate::setupStatusItem()
 {
-    m_statusItem = std::make_unique<StatusItem>(m_context, *m_panelController, [this] { quit(); });
+    m_statusItem = std::make_unique<StatusItem>(m_context, m_shell->panelController, [this] { quit(); });
 }
 
 bool AppDelegate::applicationShouldHandleReopen()
 {
-    m_panelController->showPanel();
+    m_shell->panelController.showPanel();
     return true;
 }
-
-QWidget* AppDelegate::panelWindow() const { return m_panelController ? &m_panelController->panelWindow() : nullptr; }
 
 void AppDelegate::applicationWillTerminate()
 {
@@ -90,13 +86,14 @@ void AppDelegate::showOnboarding()
 {
     if (!OnboardingOverlay::isDue(m_context))
         return;
-    auto& content = m_panelController->content();
+    auto& panelController = m_shell->panelController;
+    auto& content = panelController.content();
     const auto overlay = new OnboardingOverlay(m_context, &content);
-    m_panelController->setContentCovered(true);
-    overlay->finished = [this, overlay, &content] {
+    panelController.setContentCovered(true);
+    overlay->finished = [overlay, &panelController, &content] {
         overlay->deleteLater();
         content.takeFocus();
-        m_panelController->setContentCovered(false);
+        panelController.setContentCovered(false);
     };
 }
 

@@ -3,28 +3,29 @@
 #include "foundation/NotificationCenter.h"
 #include "store/CardStore.h"
 #include "ui/base/UiContext.h"
-#include "ui/menu/Command.h"
+#include "ui/menu/EditCommands.h"
+#include "ui/menu/ExportCommand.h"
+#include "ui/menu/MainMenu.h"
+#include "ui/panel/PanelController.h"
 
 #include <QPointer>
 
 #include <memory>
+#include <optional>
 
 class QMessageBox;
-class QWidget;
 
 namespace cuebright {
 
 class AboutWindow;
-class EditCommands;
-class ExportCommand;
-class MainMenu;
-class PanelController;
 class SettingsWindow;
 class StatusItem;
 struct RemoteRequest;
 
-/// Owns the store and everything that is shown, starts it in order, carries out the commands and ends it all safely.
-/// Lives as long as the application.
+/// Owns the store and all windows, carries out the commands and saves at the end. Lives as long as the application.
+///
+/// It starts in three phases: the constructor loads the store; `applicationDidFinishLaunching()` shows the panel, whose
+/// keys all work from then on; `onFirstFrame()` adds the menu bar and the status item.
 class AppDelegate final {
 public:
     AppDelegate(const Platform& platform, const Desktop& desktop);
@@ -33,27 +34,37 @@ public:
     ~AppDelegate();
 
     void applicationDidFinishLaunching();
-    /// The rest of launching, which the panel does not need in order to be seen.
+    /// The part of launching that can wait until the panel is seen.
     void onFirstFrame();
-    /// The user opens the application again: shows the panel, and says that this was done.
+    /// Shows the panel, when the user opens the application again. Always true: handled.
     bool applicationShouldHandleReopen();
-    /// Keeps an open edit, with what an input method still holds, and writes everything to disk.
+    /// Commits what an input method is composing, then saves everything.
     void applicationWillTerminate();
-    /// The same without asking the input method: needs no display.
+    /// Saves an open edit and writes everything to disk. Needs no display.
     void saveEverything();
-    /// Leaves the event loop with status 0, whatever windows are open; on its way out the program saves.
+    /// Leaves the event loop with status 0, whatever windows are open.
     void quit();
 
-    /// Null before launching has finished.
-    [[nodiscard]] QWidget* panelWindow() const;
+    /// Call after launching.
+    [[nodiscard]] NotesPanel& panelWindow() const { return m_shell->panelController.panelWindow(); }
     [[nodiscard]] CardStore& store() { return m_store; }
 
     // Commands (AppDelegateCommands.cpp)
     void perform(Command command);
-    /// Call when launching has finished. While a question is open, no request changes the card.
+    /// Call after launching. While a dialog waits for an answer, no request changes the card.
     void perform(const RemoteRequest& request);
 
 private:
+    /// What exists from launching on, in order of construction.
+    struct Shell {
+        Shell(const UiContext& context, std::function<void(Command)> perform);
+
+        PanelController panelController;
+        EditCommands editCommands;
+        MainMenu mainMenu;
+        ExportCommand exportCommand;
+    };
+
     void showOnboarding();
     void buildMainMenu();
     void setupStatusItem();
@@ -71,13 +82,10 @@ private:
     CardStore m_store;
     NotificationCenter m_notifications;
     UiContext m_context;
-    std::unique_ptr<PanelController> m_panelController;
-    std::unique_ptr<EditCommands> m_editCommands;
-    std::unique_ptr<MainMenu> m_mainMenu;
-    std::unique_ptr<ExportCommand> m_exportCommand;
+    std::optional<Shell> m_shell;
     std::unique_ptr<SettingsWindow> m_settingsWindow; ///< made when first opened
     std::unique_ptr<AboutWindow> m_aboutWindow; ///< made when first opened
-    std::unique_ptr<StatusItem> m_statusItem;
+    std::unique_ptr<StatusItem> m_statusItem; ///< made after the first frame
     QPointer<QMessageBox> m_deleteSheet;
     Subscription m_deleteSubscription;
 };

@@ -1,17 +1,12 @@
 #include "app/AppDelegate.h"
 
-#include "ui/base/Notifications.h"
-
 #include "platform/RemoteRequest.h"
 #include "platform/system/WindowActivation.h"
 #include "store/ThemeNames.h"
 #include "ui/base/LinkOpener.h"
 #include "ui/base/ModalSheets.h"
-#include "ui/menu/EditCommands.h"
-#include "ui/menu/ExportCommand.h"
-#include "ui/menu/MainMenu.h"
+#include "ui/base/Notifications.h"
 #include "ui/panel/NotesPanel.h"
-#include "ui/panel/PanelController.h"
 #include "ui/settings/AboutWindow.h"
 #include "ui/settings/Product.h"
 #include "ui/settings/SettingsWindow.h"
@@ -44,7 +39,7 @@ void AppDelegate::perform(Command command)
     case Command::RenameDeck:
         return renameDeck();
     case Command::ExportDeck:
-        return m_exportCommand->exportDeck();
+        return m_shell->exportCommand.exportDeck();
     case Command::SaveCard:
         return m_store.saveEdit();
     case Command::CancelEdit:
@@ -72,7 +67,7 @@ void AppDelegate::perform(Command command)
     case Command::MoveCardDown:
         return m_store.moveCardDown();
     case Command::Minimize:
-        if (const auto window = QApplication::activeWindow(); window == panelWindow())
+        if (const auto window = QApplication::activeWindow(); window == &panelWindow())
             window->showMinimized();
         return;
     case Command::OpenSupport:
@@ -85,22 +80,22 @@ void AppDelegate::perform(Command command)
     case Command::Copy:
     case Command::Paste:
     case Command::SelectAll:
-        m_editCommands->perform(command);
+        m_shell->editCommands.perform(command);
         return;
     }
 }
 
 void AppDelegate::perform(const RemoteRequest& request)
 {
-    const bool isWaiting = isWaitingForAnswer(*panelWindow());
+    const bool isWaiting = isWaitingForAnswer(panelWindow());
     switch (request.action) {
     case RemoteRequest::Action::Activate:
         applicationShouldHandleReopen();
         if (const auto question = QApplication::activeModalWidget())
             return activateForUser(*question, request.token);
-        return activateForUser(*panelWindow(), request.token);
+        return activateForUser(panelWindow(), request.token);
     case RemoteRequest::Action::ShowPanel:
-        m_panelController->showPanel();
+        m_shell->panelController.showPanel();
         break;
     case RemoteRequest::Action::TogglePanel:
         m_notifications.post(kTogglePanelNotification);
@@ -114,26 +109,26 @@ void AppDelegate::perform(const RemoteRequest& request)
             m_store.prevCard();
         break;
     }
-    endLaunch(*panelWindow(), request.token);
+    endLaunch(panelWindow(), request.token);
 }
 
 void AppDelegate::showPanel()
 {
-    m_panelController->showPanel();
-    m_panelController->panelWindow().activate();
+    m_shell->panelController.showPanel();
+    panelWindow().activate();
 }
 
 /// Asks about the card on show; deletes the one that is active when "Delete" is pressed.
 void AppDelegate::deleteCard()
 {
-    if (!m_panelController)
-        return m_store.deleteCard();
-    if (!m_panelController->isPanelVisible())
+    if (!m_shell)
+        return m_store.deleteCard(); // before launching
+    if (!m_shell->panelController.isPanelVisible())
         showPanel();
     if (m_deleteSheet)
         return m_deleteSheet->activateWindow();
-    m_deleteSheet = new QMessageBox(QMessageBox::Warning, QString(), QStringLiteral("Delete this card?"),
-        QMessageBox::NoButton, &m_panelController->panelWindow());
+    m_deleteSheet = new QMessageBox(
+        QMessageBox::Warning, QString(), QStringLiteral("Delete this card?"), QMessageBox::NoButton, &panelWindow());
     m_deleteSheet->setAttribute(Qt::WA_DeleteOnClose);
     m_deleteSheet->setWindowModality(Qt::WindowModal);
     m_deleteSheet->setInformativeText(QStringLiteral("This card will be permanently removed from the deck."));
@@ -146,7 +141,7 @@ void AppDelegate::deleteCard()
 
 void AppDelegate::renameDeck()
 {
-    if (!m_panelController->isPanelVisible())
+    if (!m_shell->panelController.isPanelVisible())
         showPanel();
     m_notifications.post(kRenameDeckNotification);
 }
@@ -155,31 +150,31 @@ void AppDelegate::showAbout()
 {
     if (!m_aboutWindow) {
         m_aboutWindow = std::make_unique<AboutWindow>(m_context);
-        m_mainMenu->addActionsTo(*m_aboutWindow);
+        m_shell->mainMenu.addActionsTo(*m_aboutWindow);
     }
-    m_aboutWindow->showBeside(*panelWindow());
+    m_aboutWindow->showBeside(panelWindow());
 }
 
 void AppDelegate::openSettings()
 {
     if (!m_settingsWindow) {
         m_settingsWindow = std::make_unique<SettingsWindow>(m_context, [this] { resetAllData(); });
-        m_mainMenu->addMenusTo(m_settingsWindow->addMenuBar());
-        m_mainMenu->addActionsTo(*m_settingsWindow);
+        m_shell->mainMenu.addMenusTo(m_settingsWindow->addMenuBar());
+        m_shell->mainMenu.addActionsTo(*m_settingsWindow);
     }
-    m_settingsWindow->showBeside(*panelWindow());
+    m_settingsWindow->showBeside(panelWindow());
 }
 
 void AppDelegate::openSupport() { openLink(product::kSupportPage); }
 
 void AppDelegate::emailSupport() { openLink(product::supportMailLink().toStdString()); }
 
-/// Updates come from whoever installed the program; this only shows what there is.
+/// Only shows what there is: updates come from whoever installed the program.
 void AppDelegate::checkForUpdates() { openLink(product::kReleasesPage); }
 
 void AppDelegate::resetAllData()
 {
-    m_panelController->forgetFrame();
+    m_shell->panelController.forgetFrame();
     m_store.resetAllData();
 }
 

@@ -5,6 +5,7 @@
 #include "platform/qt/QtPlatform.h"
 #include "platform/system/ProcessSetup.h"
 #include "platform/system/SingleInstance.h"
+#include "ui/panel/NotesPanel.h"
 
 #include <string>
 #include <vector>
@@ -37,7 +38,7 @@ int main(int, char* argv[])
     const ExitSave exitSave([&] { delegate.saveEverything(); });
     delegate.applicationDidFinishLaunching();
     instance.deliver([&](const RemoteRequest& request) { delegate.perform(request); });
-    const AfterFirstFrame firstFrame(*delegate.panelWindow(), [&] {
+    const AfterFirstFrame firstFrame(delegate.panelWindow(), [&] {
         platform.start();
         delegate.onFirstFrame();
     });

@@ -23,7 +23,7 @@ public:
     void settle();
 
     [[nodiscard]] CardStore& store() { return m_delegate->store(); }
-    [[nodiscard]] NotesPanel& panel() { return static_cast<NotesPanel&>(*m_delegate->panelWindow()); }
+    [[nodiscard]] NotesPanel& panel() { return m_delegate->panelWindow(); }
     [[nodiscard]] MarkdownEditor* editor(); ///< null while none is on screen
     [[nodiscard]] QAbstractButton* button(const char* accessibleNameStart); ///< null while none is on screen
     [[nodiscard]] QDialog* sheet(); ///< that is open
