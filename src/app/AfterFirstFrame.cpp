@@ -24,7 +24,7 @@ AfterFirstFrame::AfterFirstFrame(const QWidget& window, std::function<void()> wo
 
 bool AfterFirstFrame::eventFilter(QObject*, QEvent* event)
 {
-    // The widgets draw while the window handles this event; the work comes after it.
+    // The widgets draw while the window handles this event, so the work is left to the next turn of the event loop.
     if (event->type() == QEvent::Expose && m_window->isExposed()) {
         m_window->removeEventFilter(this);
         m_timeout.start(0, this);

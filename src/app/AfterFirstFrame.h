@@ -11,11 +11,10 @@ class QWindow;
 
 namespace cuebright {
 
-/// Runs work as soon as a window has drawn itself for the first time, and anyway after two seconds: a window on another
-/// virtual desktop never draws.
+/// Runs work once, after a window's first frame or after 2 s: a window on another virtual desktop never draws.
 class AfterFirstFrame final : public QObject {
 public:
-    /// `window` has its native window already.
+    /// Call when `window` has its native window.
     AfterFirstFrame(const QWidget& window, std::function<void()> work);
 
 protected:

@@ -8,7 +8,7 @@ namespace cuebright {
 
 namespace {
 
-// What std::atexit calls is given nothing.
+// std::atexit() passes no argument.
 std::function<void()>* pending = nullptr;
 
 void runPending()

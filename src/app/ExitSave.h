@@ -4,11 +4,11 @@
 
 namespace cuebright {
 
-/// The last chance to save, where something ends the process by exit() without leaving the event loop: the toolkit does
-/// that when the display goes away. There is one at most.
+/// Saves when exit() ends the process from within the event loop, as Qt does when the connection to the display is
+/// lost. One at most exists at a time.
 class ExitSave final {
 public:
-    /// `save` runs at such an exit, and not once this is gone. It must not need the display.
+    /// `save` must not need the display.
     explicit ExitSave(std::function<void()> save);
     ExitSave(const ExitSave&) = delete;
     ExitSave& operator=(const ExitSave&) = delete;
