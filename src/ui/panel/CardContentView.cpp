@@ -1,7 +1,5 @@
 #include "ui/panel/CardContentView.h"
 
-#include "ui/base/Notifications.h"
-
 #include "foundation/NotificationCenter.h"
 #include "platform/Accessibility.h"
 #include "platform/CaptureExclusion.h"
@@ -9,6 +7,7 @@
 #include "platform/qt/QtColors.h"
 #include "store/CardStore.h"
 #include "ui/animation/FadingSnapshot.h"
+#include "ui/base/Notifications.h"
 #include "ui/editor/MarkdownEditor.h"
 #include "ui/editor/MarkdownToolbar.h"
 #include "ui/editor/TextViewManager.h"
@@ -35,7 +34,7 @@ constexpr int kBottomPadding = 24;
 constexpr int kToolbarGap = 12; ///< below the editor's toolbar
 constexpr int kGap = 20; ///< below the header and below the rule
 
-/// One line across the column.
+/// A horizontal line.
 class Rule final : public QWidget {
 public:
     Rule(const UiContext& context, QWidget* parent)
@@ -87,7 +86,7 @@ CardContentView::CardContentView(const UiContext& context, QWidget* parent)
     m_exclusionSubscription = context.desktop.captureExclusion.changed.subscribe([this] { m_refresh.request(); });
 }
 
-/// Only the first edit needs it, the first frame does not.
+/// Made for the first edit, to keep the first frame fast.
 void CardContentView::makeEditView()
 {
     m_editView = new QWidget(this);
@@ -102,7 +101,7 @@ void CardContentView::makeEditView()
     editColumn->addWidget(m_editor, 1);
     m_column->insertWidget(m_column->indexOf(m_cardArea) + 1, m_editView, 1);
 
-    // Screen readers and Tab come to it before the footer.
+    // Screen readers and Tab reach it before the footer.
     m_editView->stackUnder(m_rule);
     QWidget* before = m_cardArea;
     for (const auto button : toolbar->findChildren<QAbstractButton*>()) {
@@ -198,7 +197,7 @@ void CardContentView::takeFocus()
         m_cardArea->setFocus();
 }
 
-/// What presentation remotes send: what nothing else takes scrolls the card, then steps through the deck.
+/// Presentation remotes send page keys: they scroll the card, then step through the deck.
 void CardContentView::keyPressEvent(QKeyEvent* event)
 {
     const bool isPageKey = event->key() == Qt::Key_PageDown || event->key() == Qt::Key_PageUp;

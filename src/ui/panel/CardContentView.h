@@ -1,9 +1,6 @@
 #pragma once
 
 #include "foundation/Signal.h"
-#include "markdown/Block.h"
-#include "markdown/BlockMetrics.h"
-#include "markdown/CardParser.h"
 #include "store/Change.h"
 #include "timer/TimerManager.h"
 #include "ui/base/CoalescedCall.h"
@@ -23,16 +20,16 @@ class HeaderView;
 class MarkdownEditor;
 class TextViewManager;
 
-/// The whole content of the panel: header, the card or its editor, a rule, footer. Follows the store, once per turn of
-/// the event loop however much has changed.
+/// The content of the panel: header, the card or its editor, a rule, footer. Refreshes at most once per turn of the
+/// event loop.
 class CardContentView final : public QWidget {
 public:
     explicit CardContentView(const UiContext& context, QWidget* parent = nullptr);
 
-    /// The space left and right of the column in a panel of `width`, in logical pixels.
+    /// The margins left and right of the column in a panel of `width`, in logical pixels.
     [[nodiscard]] static int columnPadding(int width);
 
-    /// Gives the keyboard to the card, or to its editor while that is open.
+    /// Focuses the card, or its editor while that is open.
     void takeFocus();
 
 protected:
@@ -56,12 +53,12 @@ private:
     TextViewManager* m_editorManager;
     HeaderView* m_header;
     CardArea* m_cardArea;
-    QWidget* m_editView = nullptr; ///< made for the first edit, with what is in it
+    QWidget* m_editView = nullptr; ///< made with its content for the first edit
     MarkdownEditor* m_editor = nullptr;
     QWidget* m_rule;
     FooterView* m_footer;
     bool m_showsEditor = false;
-    // What the notices since the last refresh said:
+    // Pending for the next refresh:
     CardArea::Content m_cardContent = CardArea::Content::Stale;
     std::optional<Animation> m_cardAnimation;
     std::optional<Animation> m_editAnimation;

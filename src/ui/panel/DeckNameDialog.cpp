@@ -17,7 +17,7 @@ namespace {
 
 constexpr int kFieldWidth = 320;
 
-/// The field takes line breaks from the clipboard although it shows one line.
+/// QLineEdit keeps pasted line breaks.
 QString onOneLine(QString text)
 {
     for (auto& c : text) {
@@ -54,7 +54,7 @@ DeckNameDialog::DeckNameDialog(
     title->setFont(titleFont);
     const auto message = new QLabel(texts.message, this);
     m_name = new QLineEdit(this);
-    m_name->setMaxLength(std::numeric_limits<int>::max()); // or a very long name would be cut
+    m_name->setMaxLength(std::numeric_limits<int>::max()); // instead of 32,767, which would cut the name
     m_name->setPlaceholderText(QStringLiteral("Deck name"));
     m_name->setAccessibleName(QStringLiteral("Deck name"));
     m_name->setAccessibleDescription(texts.message);

@@ -10,7 +10,7 @@ class QLineEdit;
 
 namespace cuebright {
 
-/// Asks for the name of a deck, on a sheet of the panel.
+/// A sheet that asks for the name of a deck.
 class DeckNameDialog final : public QDialog {
 public:
     struct Texts {
@@ -22,10 +22,10 @@ public:
     static Texts newDeck();
     static Texts renameDeck();
 
-    /// `confirmed` gets the name as one line, blank or not.
+    /// `confirmed` gets the name on one line; it may be blank.
     DeckNameDialog(const Texts& texts, std::function<void(const std::string& name)> confirmed, QWidget* parent);
 
-    /// Opens the sheet with a name to start from; one that is open already keeps what has been typed.
+    /// Opens the sheet with `name` to edit. An open sheet keeps what has been typed.
     void ask(std::string_view name);
 
 protected:

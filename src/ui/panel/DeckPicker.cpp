@@ -1,13 +1,12 @@
 #include "ui/panel/DeckPicker.h"
 
-#include "ui/base/Notifications.h"
-
 #include "foundation/NotificationCenter.h"
 #include "platform/qt/QtColors.h"
 #include "platform/qt/TextConversion.h"
 #include "store/CardStore.h"
 #include "ui/accessibility/MenuAccessibility.h"
 #include "ui/base/Fonts.h"
+#include "ui/base/Notifications.h"
 #include "ui/panel/DeckNameDialog.h"
 #include "ui/widgets/FocusRing.h"
 
@@ -26,12 +25,12 @@ constexpr int kChevronWidth = 7;
 constexpr int kChevronGap = 5;
 constexpr int kMenuGap = 6;
 constexpr int kMenuTextWidth = 400;
-constexpr qsizetype kShownCharacters = 500; ///< more than fit into any panel
+constexpr qsizetype kShownCharacters = 500; ///< more than any panel has room for
 
 /// The start of a name, on one line.
 QString shownName(const std::string& deckName) { return toOneLine(toQString(deckName).left(kShownCharacters)); }
 
-/// The picker's menu marks the active deck in its text, so that all names line up in every style.
+/// The mark is part of the text because not every style aligns checkable and plain items.
 QString menuText(const Deck& deck, bool isActive, const QFontMetrics& metrics)
 {
     const auto name = metrics.elidedText(shownName(deck.name), Qt::ElideRight, kMenuTextWidth);
@@ -141,7 +140,7 @@ void DeckPicker::paintEvent(QPaintEvent*)
         : m_name;
     painter.drawText(nameRect, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip, shown);
 
-    // As bold as the name beside it, which an icon of this size is not.
+    // Drawn here, because an icon of this size is thinner than the name beside it.
     constexpr double kStroke = 1.4;
     const QPointF centre(width() - kChevronWidth / 2.0, height() / 2.0);
     painter.setPen(QPen(muted, kStroke, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));

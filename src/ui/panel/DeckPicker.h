@@ -9,8 +9,8 @@ namespace cuebright {
 
 class DeckNameDialog;
 
-/// The name of the active deck, with a menu of all decks under it, and the alerts that name a deck. Its right edge is
-/// that of its symbol; where the keyboard is shows around it, outside.
+/// A button with the name of the active deck and a menu of all decks, and the alerts that name a deck. It has no
+/// padding on the right, so its focus ring is drawn outside.
 class DeckPicker final : public ButtonBase {
 public:
     DeckPicker(const UiContext& context, QWidget* parent);

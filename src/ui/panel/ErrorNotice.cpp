@@ -41,7 +41,7 @@ public:
 protected:
     void paintEvent(QPaintEvent*) override
     {
-        // As bold as the text beside it, which an icon of this size is not.
+        // Drawn here, because an icon of this size is thinner than the text beside it.
         constexpr double kReach = 3;
         constexpr double kStroke = 1.5;
         QPainter painter(this);

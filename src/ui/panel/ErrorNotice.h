@@ -9,7 +9,7 @@ namespace cuebright {
 class DismissButton;
 class Label;
 
-/// A dot, an error and the button that hides it. Its text gives way to the last letter; dot and button stay.
+/// A dot, the error's text and a button that dismisses it. Too narrow, the text is elided down to nothing.
 class ErrorNotice final : public QWidget {
 public:
     ErrorNotice(const UiContext& context, QWidget* parent);
@@ -17,7 +17,7 @@ public:
     void setText(const QString& text);
     /// From 0 to 1.
     void setInkOpacity(double opacity);
-    /// Has a screen reader read the error now.
+    /// Announces the error to screen readers.
     void announce();
 
     [[nodiscard]] QSize sizeHint() const override;

@@ -8,10 +8,10 @@ namespace cuebright {
 
 namespace {
 
-constexpr int kLeastText = 28;
+constexpr int kMinimumText = 28;
 
-/// Cuts an item by as much as is missing, but not below its minimum.
-void giveWay(int& width, int minimum, int& missing)
+/// Shrinks an item by what is missing, but not below its minimum.
+void shrink(int& width, int minimum, int& missing)
 {
     const int given = std::clamp(missing, 0, std::max(width - minimum, 0));
     width -= given;
@@ -26,8 +26,8 @@ void leaveOut(int& width, int& missing)
     width = 0;
 }
 
-/// What another item's leaving freed, given back to one that was cut.
-void takeBack(int& width, int wanted, int& missing)
+/// Gives a shrunk item the room that another one left.
+void growBack(int& width, int wanted, int& missing)
 {
     if (width == 0)
         return;
@@ -62,14 +62,14 @@ FooterPlaces footerPlaces(FooterWidths widths, int available)
     for (const int width :
         {widths.position, widths.wordCount, widths.timer, widths.error, widths.feedback, widths.buttons})
         missing += width > 0 ? width + kFooterGap : 0;
-    giveWay(widths.error, widths.errorMinimum, missing);
-    giveWay(widths.feedback, kLeastText, missing);
-    giveWay(widths.wordCount, kLeastText, missing);
+    shrink(widths.error, widths.errorMinimum, missing);
+    shrink(widths.feedback, kMinimumText, missing);
+    shrink(widths.wordCount, kMinimumText, missing);
     leaveOut(widths.feedback, missing);
     leaveOut(widths.wordCount, missing);
-    takeBack(widths.wordCount, wanted.wordCount, missing);
-    takeBack(widths.feedback, wanted.feedback, missing);
-    takeBack(widths.error, wanted.error, missing);
+    growBack(widths.wordCount, wanted.wordCount, missing);
+    growBack(widths.feedback, wanted.feedback, missing);
+    growBack(widths.error, wanted.error, missing);
 
     int x = 0;
     const auto next = [&](int width) {

@@ -7,7 +7,7 @@ namespace cuebright {
 
 class CardStore;
 
-/// What the footer says and offers; what is absent is not shown.
+/// What the footer shows; absent items are hidden.
 struct FooterContent {
     std::string position;
     std::string positionAccessibleName;
@@ -23,18 +23,18 @@ struct FooterContent {
 
 [[nodiscard]] FooterContent footerContent(const CardStore& store);
 
-/// How wide the footer's items would like to be, in logical pixels; 0 for what is not shown.
+/// Preferred widths of the footer's items in logical pixels; 0 for hidden ones.
 struct FooterWidths {
     int position = 0;
     int wordCount = 0;
     int timer = 0;
     int error = 0;
-    int errorMinimum = 0; ///< without its text
+    int errorMinimum = 0; ///< the error without its text
     int feedback = 0;
     int buttons = 0;
 };
 
-/// Where the footer's items stand. Width 0: there is no room for it.
+/// Where the footer's items are. Width 0: no room.
 struct FooterPlaces {
     struct Place {
         int x = 0;
@@ -53,8 +53,8 @@ struct FooterPlaces {
 
 constexpr int kFooterGap = 12; ///< between items
 
-/// One row, the buttons at its right end. Where it is too narrow the error gives way first, then the feedback, then
-/// the word count, each cut to a few letters at least; what cannot even have those is left out.
+/// One row with the buttons at its right end. Too narrow, it shrinks the error, then the feedback, then the word count,
+/// each to a few letters; then it leaves out the feedback, then the word count.
 [[nodiscard]] FooterPlaces footerPlaces(FooterWidths widths, int available);
 
 } // namespace cuebright

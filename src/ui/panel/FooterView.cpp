@@ -87,7 +87,7 @@ void FooterView::refresh()
         if (!former.positionAccessibleName.empty())
             m_position->announce();
     }
-    // What leaves keeps its text while it fades.
+    // An item keeps its text while it fades out.
     if (m_content.wordCount)
         static_cast<Label*>(m_wordCount.widget)->setText(toQString(*m_content.wordCount));
     if (m_content.error)
@@ -96,7 +96,7 @@ void FooterView::refresh()
         m_feedbackLabel->crossFadeTo(toQString(*m_content.feedback), ColorRole::Muted, kFadeTime);
     else if (m_content.feedback)
         m_feedbackLabel->setText(toQString(*m_content.feedback));
-    // The toolkit would hand the keyboard to the other one, and the next press would go back.
+    // Otherwise Qt moves the focus to the other arrow, and the next press would go back.
     if ((m_previous->hasFocus() && !m_content.canGoPrev) || (m_next->hasFocus() && !m_content.canGoNext))
         focusLost();
     m_previous->setEnabled(m_content.canGoPrev);

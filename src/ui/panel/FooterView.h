@@ -25,7 +25,7 @@ public:
 
     void refresh();
 
-    /// Called when the button that has the keyboard can do nothing any more.
+    /// Called when the focused button becomes disabled.
     std::function<void()> focusLost;
 
     [[nodiscard]] QSize sizeHint() const override;
@@ -36,10 +36,10 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    /// An item that comes and goes, or moves as others do so.
+    /// An item that fades in and out, or moves when others do.
     struct Item {
         QWidget* widget;
-        std::function<void(double)> setOpacity; ///< absent: it is always there
+        std::function<void(double)> setOpacity; ///< absent: always shown
         bool isPresent = false;
         double opacity = 0;
         double formerOpacity = 0;
@@ -71,7 +71,7 @@ private:
     ChromeButton* m_next;
     ChromeButton* m_cancel;
     ChromeButton* m_done;
-    AnimatedValue m_transition; ///< from the former places and opacities to those of now
+    AnimatedValue m_transition; ///< from the former positions and opacities to the new
 };
 
 } // namespace cuebright

@@ -46,9 +46,9 @@ FrameMemory::FrameMemory(const UiContext& context, QWidget& window, const QSize&
     , m_defaultSize(defaultSize)
 {
     window.installEventFilter(this);
-    // The screens are told one by one; the look comes after the last of them.
+    // Qt removes screens one by one; queued, the check runs after the last.
     connect(
-        qGuiApp, &QGuiApplication::screenRemoved, this, [this] { fetchIfLost(); }, Qt::QueuedConnection);
+        qGuiApp, &QGuiApplication::screenRemoved, this, [this] { centreIfOffScreen(); }, Qt::QueuedConnection);
 }
 
 FrameMemory::~FrameMemory()
@@ -68,13 +68,13 @@ void FrameMemory::prepareToShow()
 {
     if (!m_window.isVisible())
         place(m_knownFrame);
-    fetchIfLost();
+    centreIfOffScreen();
 }
 
-void FrameMemory::fetchIfLost()
+void FrameMemory::centreIfOffScreen()
 {
     const auto screens = availableScreens();
-    if (!screens.isEmpty() && !isSeen(m_knownFrame, screens)) // none at all come back by themselves
+    if (!screens.isEmpty() && !isSeen(m_knownFrame, screens)) // with no screen at all, wait for one
         place(centred(m_defaultSize));
 }
 

@@ -13,27 +13,26 @@ namespace cuebright {
 
 struct UiContext;
 
-/// Brings a window back to where the user left it, and keeps where that is under `cuebrightWindowFrame`: half a second
-/// after the last move or resize, or when this goes. What the program does to the window itself does not count: as when
-/// the screen that it is on goes, and it comes to the middle of the primary one.
+/// Restores a window's geometry from `cuebrightWindowFrame`. Saves it there 0.5 s after the user last moved or resized
+/// the window, or on destruction. Moves by the program are not saved, such as the one to the centre of the primary
+/// screen when the window's screen is removed.
 class FrameMemory final : public QObject {
 public:
     /// `window` outlives this.
     FrameMemory(const UiContext& context, QWidget& window, const QSize& defaultSize);
     ~FrameMemory() override;
 
-    /// Puts the window where it was kept, or in the middle of the primary screen in its default size.
+    /// Falls back to the default size in the centre of the primary screen.
     void restore();
-    /// Call before each show. A hidden window comes back to where it was, and to the middle if that screen has gone.
+    /// Call before each show. Repositions a hidden window, in the centre if its screen has been removed meanwhile.
     void prepareToShow();
-    /// What has not been kept yet is not kept at all.
     void cancelPendingSave();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void fetchIfLost();
+    void centreIfOffScreen();
     void save();
     void place(const QRect& frame);
 

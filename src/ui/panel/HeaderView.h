@@ -11,15 +11,13 @@ namespace cuebright {
 class DeckPicker;
 class Label;
 
-/// The panel's first line: where the speaker is, and in which deck. For a moment after a pulse it says instead what the
-/// audience sees of the panel.
+/// The panel's first line: the card's position and the deck. For 1.0 s after a pulse the share badge replaces the
+/// position.
 class HeaderView final : public QWidget {
 public:
     HeaderView(const UiContext& context, QWidget* parent);
 
     void refresh();
-
-    /// Shows the share badge for 1.0 s.
     void pulse();
 
     [[nodiscard]] DeckPicker& deckPicker() const { return *m_deckPicker; }

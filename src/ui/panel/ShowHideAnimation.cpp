@@ -37,7 +37,7 @@ void ShowHideAnimation::show(AnimatedValue::Motion motion)
 {
     m_isHiding = false;
     if (motion == AnimatedValue::Motion::Animated)
-        apply(); // nothing of it may be seen before the first step
+        apply(); // the window must not show before the first step
     m_visibility.moveTo(1, motion);
 }
 

@@ -12,18 +12,18 @@ namespace cuebright {
 
 class ScaleEffect;
 
-/// How a window comes and goes: its opacity, and 2 % of its size, which are only painted. The window's own geometry
-/// stays as it is. A new direction starts from what is on the screen.
+/// Fades a window in and out and scales its content by 2 %. The scale is only painted: the window's geometry never
+/// changes. Reversing starts from what is on the screen.
 class ShowHideAnimation final {
 public:
     /// `content` fills `window`. `hidden` is called at the end of each `hide`; both outlive this.
     ShowHideAnimation(QWidget& window, QWidget& content, std::function<void()> hidden);
 
-    /// The opacity of the window when it is all there, limited to 0 to 1.
+    /// The opacity of the fully shown window, clamped to [0, 1].
     void setOpacity(double opacity);
     void show(AnimatedValue::Motion motion);
     void hide(AnimatedValue::Motion motion);
-    /// The window has left the screen by other ways: the next show starts from nothing.
+    /// Call when the window was hidden otherwise: the next show starts from transparent.
     void reset();
 
 private:
@@ -34,7 +34,7 @@ private:
     std::function<void()> m_hidden;
     double m_opacity = 1;
     bool m_isHiding = false;
-    QPointer<ScaleEffect> m_effect; ///< there only while something moves
+    QPointer<ScaleEffect> m_effect; ///< null while nothing moves
     AnimatedValue m_visibility;
 };
 

@@ -100,7 +100,7 @@ public:
         setToolTip(QStringLiteral("Click to set timer duration"));
     }
 
-    /// A tick draws the digits alone: the toolkit hands the button's shape to threads of its own.
+    /// A tick repaints only the digits: Qt rasterises the rounded shape on several threads.
     void show(const QString& time, TimerManager::Urgency urgency)
     {
         const bool isSameShape = time.size() == m_time.size() && urgency == m_urgency;

@@ -27,23 +27,20 @@ struct TimerMenuItem {
 [[nodiscard]] QString textOf(const TimerMenuItem& item);
 void choose(const TimerMenuItem& item, TimerManager& timer);
 
-/// The ink of the time.
 [[nodiscard]] ColorRole timerColor(TimerManager::Urgency urgency);
 /// The play button warns only at the very end.
 [[nodiscard]] ColorRole playButtonInk(TimerManager::Urgency urgency);
-/// What lies behind the time.
+/// Background of the time.
 [[nodiscard]] Color timerFill(TimerManager::Urgency urgency, const Colors& colors);
 
 class ChromeButton;
 class TimeButton;
 
-/// The talk timer: a button that starts and pauses it, and the time with a menu of durations. Repaints when what it
-/// shows changes.
+/// The talk timer: a button that starts and pauses it, and the time with a menu of durations.
 class TimerView final : public QWidget {
 public:
     TimerView(const UiContext& context, TimerManager& timer, QWidget* parent);
 
-    /// Takes in what has changed.
     void refresh();
 
 private:

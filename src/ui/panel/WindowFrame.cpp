@@ -9,9 +9,8 @@ namespace cuebright {
 
 namespace {
 
-/// No window system has larger coordinates.
-constexpr double kFarthest = 1 << 20;
-constexpr int kTitleBar = 20; // no window manager's is lower
+constexpr double kFarthest = 1 << 20; // beyond any window system's coordinates
+constexpr int kTitleBar = 20; // not higher than that of any window manager
 
 int bottom(const QRect& rect) { return rect.y() + rect.height(); }
 

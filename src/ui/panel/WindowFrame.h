@@ -9,17 +9,16 @@
 
 namespace cuebright {
 
-// Where a window stands, without its title bar and borders, in logical pixels. Kept under "x", "y", "w" and "h" with
-// the origin at the bottom left of the primary screen and y growing upwards.
+// A window's frame, without its title bar and borders, in logical pixels. Stored as "x", "y", "w" and "h" with the
+// origin at the bottom left of the primary screen and y growing upwards.
 
 [[nodiscard]] Preferences::Numbers storedFrame(const QRect& frame, const QRect& primaryScreen);
 
-/// Whether any of `screens` (their parts free of panels and docks) shows a part of a window at `frame`, be it only of
-/// the title bar above it: a window parked at the lower edge can be drawn out by that.
+/// Whether a part of the window or of the title bar above it is in one of `screens`, given without panels and docks.
+/// The title bar is enough to drag the window back.
 [[nodiscard]] bool isSeen(const QRect& frame, const QList<QRect>& screens);
 
-/// The frame kept in `stored`, no smaller than `minimumSize`. Absent where a number is missing or the frame is not
-/// seen.
+/// The frame in `stored`, not smaller than `minimumSize`. Absent if a number is missing or the frame is not seen.
 [[nodiscard]] std::optional<QRect> restoredFrame(const Preferences::Numbers& stored, const QRect& primaryScreen,
     const QSize& minimumSize, const QList<QRect>& screens);
 
