@@ -41,7 +41,7 @@ private:
     std::unique_ptr<PanelController> m_controller;
 };
 
-TEST_F(PanelControllerTest, OnItsWayOffTheScreenThePanelTakesNoKeys)
+TEST_F(PanelControllerTest, WhileHidingThePanelTakesOnlyTheKeyThatTogglesIt)
 {
     setCards({"one", "two"});
     controller().showPanel();
@@ -55,6 +55,9 @@ TEST_F(PanelControllerTest, OnItsWayOffTheScreenThePanelTakesNoKeys)
     EXPECT_FALSE(store.isEditing());
     EXPECT_EQ(store.activeCardIndex(), 0);
     EXPECT_FALSE(QApplication::activeModalWidget());
+    EXPECT_FALSE(controller().isPanelVisible());
+    QTest::keyClick(panel().windowHandle(), Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_TRUE(controller().isPanelVisible());
 }
 
 TEST_F(PanelControllerTest, ShowingAfterMoreThanAMinuteTellsOfTheReturn)
