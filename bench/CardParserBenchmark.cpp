@@ -11,7 +11,7 @@ namespace cuebright::bench {
 
 namespace {
 
-/// The first deck's cards, 300 KB in all: the parser is measured, not the memory.
+/// The first deck's cards, 300 KB in all, which fit into the cache.
 const std::vector<Card>& cards()
 {
     static const std::vector<Card> value = largeState().decks.front().cards;

@@ -63,7 +63,7 @@ private:
     Desktop::WindowId m_window;
 };
 
-/// Notes when a window paints.
+/// Records when a window paints.
 class PaintWatch final {
 public:
     explicit PaintWatch(Desktop::WindowId window)
@@ -74,14 +74,14 @@ public:
         xcb_damage_create(m_connection, xcb_generate_id(m_connection), static_cast<xcb_drawable_t>(window),
             XCB_DAMAGE_REPORT_LEVEL_RAW_RECTANGLES);
         std::free(xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
-        while (const auto event = xcb_poll_for_event(m_connection)) // what is there already counts as painted
+        while (const auto event = xcb_poll_for_event(m_connection)) // discards earlier events
             std::free(event);
     }
     ~PaintWatch() { xcb_disconnect(m_connection); }
     PaintWatch(const PaintWatch&) = delete;
     PaintWatch& operator=(const PaintWatch&) = delete;
 
-    /// The times of the paints in the next `seconds`; what follows within a tenth of a second is the same one.
+    /// The times of paints in the next `seconds`; those within 0.1 s count as one.
     std::vector<Milliseconds> watch(int seconds)
     {
         const auto start = Clock::now();
@@ -104,7 +104,7 @@ private:
     int m_paint;
 };
 
-/// How often each thread of a process has been given the processor.
+/// The context switches of each thread.
 std::map<std::string, long> turns(pid_t process)
 {
     std::map<std::string, long> counts;
@@ -119,10 +119,10 @@ std::map<std::string, long> turns(pid_t process)
     return counts;
 }
 
-/// The paints meanwhile.
+/// Paints in that time.
 std::vector<Milliseconds> idle(const char* what, const RunningPanel& panel, int seconds)
 {
-    // The toolkit's helper threads for painting go half a minute after they were last used.
+    // Qt's painting threads end 30 s after their last use.
     std::this_thread::sleep_for(std::chrono::seconds(35));
     PaintWatch paints(panel.window());
     const auto before = turns(panel.process());
@@ -141,7 +141,7 @@ std::vector<Milliseconds> idle(const char* what, const RunningPanel& panel, int 
     return times;
 }
 
-/// How far apart from a whole second the paints come, from the earliest to the latest.
+/// The jitter of paints relative to whole seconds.
 void printAlignment(const std::vector<Milliseconds>& paints)
 {
     double earliest = 0;

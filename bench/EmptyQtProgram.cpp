@@ -1,4 +1,4 @@
-// The reference for a second launch: the least that a Qt program does which starts its toolkit and leaves again.
+// The reference for a second launch: a Qt program that starts and ends.
 #include <QApplication>
 
 int main(int argc, char* argv[])

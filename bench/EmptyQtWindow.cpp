@@ -1,4 +1,4 @@
-// The reference for start-up and memory: the least that a Qt program with a window does.
+// The reference for start-up and memory: a minimal Qt program with a window.
 #include <QApplication>
 #include <QWidget>
 

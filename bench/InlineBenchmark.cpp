@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::size_t kCardLength = 700;
 
-/// The first cards of the large state in one, cut at a line's end: close to 700 bytes.
+/// The first cards of the large state joined, cut at a line end: about 700 bytes.
 std::string cardText()
 {
     static const auto state = largeState();

@@ -1,5 +1,5 @@
 // The second reference for start-up: an empty window that draws, in the plainest way, the texts of the panel's first
-// frame in their fonts. What it takes is the toolkit's: finding, opening and shaping those fonts.
+// frame in their fonts, which measures Qt's finding, opening and shaping of those fonts.
 #include <QApplication>
 #include <QFontDatabase>
 #include <QPainter>

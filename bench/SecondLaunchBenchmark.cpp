@@ -1,4 +1,4 @@
-// Start to exit of a second launch, against a Qt program that only starts its toolkit, in turns.
+// Start to exit of a second launch, alternating with a Qt program that only starts and ends.
 // Needs a display, and no Cuebright running: dbus-run-session xvfb-run build/bench/second_launch_benchmark [RUNS]
 #include "support/Median.h"
 
@@ -28,7 +28,7 @@ std::optional<pid_t> start(const std::string& program)
     return error == 0 ? std::optional(process) : std::nullopt;
 }
 
-/// Nothing where the program does not start, or says that something went wrong.
+/// Absent if the program does not start or fails.
 std::optional<double> timeToExit(const std::string& program)
 {
     const auto begin = Clock::now();
@@ -49,12 +49,12 @@ int main(int argc, char* argv[])
     const auto first = start(programs[1]);
     if (!first)
         return 1;
-    ::sleep(2); // until it rests
+    ::sleep(2); // until it is idle
     std::vector<double> times[2];
     for (int i = 0; i <= runCount && waitpid(*first, nullptr, WNOHANG) == 0; ++i) {
         for (int p = 0; p < 2; ++p) {
             const auto time = timeToExit(programs[p]);
-            if (i > 0 && time) // the first of each warms the caches
+            if (i > 0 && time) // the first run warms the caches
                 times[p].push_back(*time);
         }
     }

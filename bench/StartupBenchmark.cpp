@@ -28,7 +28,7 @@ using Clock = std::chrono::steady_clock;
 using Milliseconds = std::chrono::duration<double, std::milli>;
 
 constexpr auto kDeadline = std::chrono::seconds(20);
-constexpr int kSmallestPanel = 300; ///< narrower windows are helpers of the toolkit
+constexpr int kSmallestPanel = 300; ///< narrower windows are Qt's helpers
 
 struct Free {
     void operator()(void* memory) const { std::free(memory); }
@@ -123,7 +123,7 @@ private:
     int m_damageEvent;
 };
 
-/// The memory of a process, shared pages divided by the number of those who share them.
+/// Proportional set size of a process.
 long proportionalKib(pid_t process)
 {
     std::ifstream file("/proc/" + std::to_string(process) + "/smaps_rollup");
@@ -144,7 +144,7 @@ std::optional<Run> start(const std::string& program)
         return std::nullopt;
     auto run = display.watch(begin);
     if (run) {
-        ::usleep(700'000); // what is left for after the first frame belongs to the memory
+        ::usleep(700'000); // memory includes what is done after the first frame
         run->proportionalKib = proportionalKib(process);
     }
     ::kill(process, SIGTERM);
@@ -169,7 +169,7 @@ int main(int argc, char* argv[])
     const std::string programs[] = {
         folder + "/empty_qt_window", folder + "/qt_window_with_text", folder + "/cuebright"};
     std::vector<Run> runs[3];
-    const Display keepsServerAlive; // it starts afresh when its last client leaves
+    const Display keepsServerAlive; // the server resets when its last client disconnects
     for (int i = 0; i <= runCount; ++i) {
         for (int p = 0; p < 3; ++p) {
             const auto run = start(programs[p]);
@@ -177,7 +177,7 @@ int main(int argc, char* argv[])
                 std::fprintf(stderr, "%s shows no window\n", programs[p].c_str());
                 return 1;
             }
-            if (i > 0) // the first of each warms the caches
+            if (i > 0) // the first run warms the caches
                 runs[p].push_back(*run);
         }
     }

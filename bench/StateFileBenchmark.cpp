@@ -28,7 +28,7 @@ StateToEncode stateToEncode()
         .fontSize = state().fontSize};
 }
 
-/// A state file that goes with the process.
+/// A temporary state file.
 class TemporaryFile final {
 public:
     TemporaryFile() { std::ofstream(m_path, std::ios::binary) << encoded(state()); }

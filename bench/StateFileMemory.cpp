@@ -1,4 +1,4 @@
-// Prints what a process keeps in memory once it has loaded the state file named on its command line, and what a large
+// Prints the memory of a process that has loaded the state file named on its command line, and what a large
 // file needs. `state_file_memory --write FILE` makes such a file first.
 
 #include "model/StateFile.h"

@@ -1,4 +1,4 @@
-// A step to another card: from the store's operation to the end of the first paint, against a repaint of what rests.
+// A step to another card: from the store's operation to the end of the first paint, compared with a mere repaint.
 #include "model/StateFile.h"
 #include "platform/FileSystem.h"
 #include "platform/UuidSource.h"

@@ -21,7 +21,7 @@ namespace cuebright::bench {
 
 namespace {
 
-/// Counts the writes of state files on their way to the disk.
+/// Counts the writes of state files.
 class CountingFileSystem final : public FileSystem {
 public:
     explicit CountingFileSystem(FileSystem& real)
@@ -55,7 +55,7 @@ private:
     FileSystem& m_real;
 };
 
-/// A store that has loaded a state from a folder of its own.
+/// A store loaded from a temporary folder.
 struct Bench {
     explicit Bench(const AppState& state)
     {

@@ -12,7 +12,7 @@ inline constexpr std::size_t kCardsPerDeck = 1000;
 /// 100 decks of 1,000 cards of talk-like Markdown, about 500 bytes a card, 50 MB as a file. The same at every call.
 [[nodiscard]] AppState largeState();
 
-/// The state as the file's text, with the spare capacity that reading asks for.
+/// The state as JSON, with the spare capacity for reading.
 [[nodiscard]] std::string encoded(const AppState& state);
 
 } // namespace cuebright::bench

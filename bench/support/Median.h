@@ -6,7 +6,7 @@
 
 namespace cuebright::bench {
 
-/// The upper one of the middle two, where there are two. `values` is not empty.
+/// Of two middle values the upper one. `values` must not be empty.
 inline double median(std::vector<double> values)
 {
     const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);

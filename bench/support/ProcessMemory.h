@@ -5,7 +5,7 @@
 
 namespace cuebright::bench {
 
-/// What this process keeps in memory; absent where the system does not say (anything but Linux).
+/// The memory of this process; absent on systems other than Linux.
 struct ProcessMemory {
     std::size_t residentKib;
     std::size_t peakKib; ///< the highest so far

@@ -1,23 +1,25 @@
-#include "desktop/DesktopDisplay.h"
+#include "desktop/Desktop.h"
 
 #include <algorithm>
 #include <stdexcept>
-#include <utility>
 #include <vector>
 
 #include <unistd.h>
 
+#include <X11/Xatom.h>
+#include <X11/Xlib.h>
 #include <X11/Xutil.h>
+#include <X11/extensions/XTest.h>
 
 namespace cuebright::test {
 
 namespace {
 
 constexpr std::chrono::milliseconds kMoment {200};
-constexpr const char* kReady = "_NET_CLIENT_LIST"; // a window manager is at work
-constexpr const char* kScreen = "3000x1800x24"; // holds a panel of 1400 points at double size
+constexpr const char* kReady = "_NET_CLIENT_LIST"; // set by a running window manager
+constexpr const char* kScreen = "3000x1800x24"; // fits a panel of 1400 points at scale 2
 
-// Left to its own devices the window manager keeps some of our shortcuts for itself.
+// The default configuration grabs some of the program's shortcuts.
 constexpr std::string_view kWindowManagerSettings = R"(<?xml version="1.0" encoding="UTF-8"?>
 <openbox_config xmlns="http://openbox.org/3.4/rc">
   <placement><policy>Smart</policy></placement>
@@ -32,7 +34,7 @@ constexpr std::string_view kWindowManagerSettings = R"(<?xml version="1.0" encod
 </openbox_config>
 )";
 
-/// The environment of the tests without anything that leads to the desktop they were started on.
+/// The environment without variables of the desktop on which the tests were started.
 Environment detachedEnvironment(const std::filesystem::path& folder)
 {
     constexpr std::string_view kPrefixes[] = {
@@ -52,7 +54,69 @@ Environment detachedEnvironment(const std::filesystem::path& folder)
     return environment;
 }
 
+KeySym keyNamed(std::string_view name)
+{
+    const std::map<std::string_view, const char*> modifiers {
+        {"ctrl", "Control_L"}, {"alt", "Alt_L"}, {"shift", "Shift_L"}};
+    const auto modifier = modifiers.find(name);
+    const KeySym key = XStringToKeysym(modifier == modifiers.end() ? std::string(name).c_str() : modifier->second);
+    if (key == NoSymbol)
+        throw std::runtime_error("no key is called " + std::string(name));
+    return key;
+}
+
 } // namespace
+
+/// A connection to the display.
+struct Desktop::Display {
+    explicit Display(const std::string& name)
+        : connection(XOpenDisplay(name.c_str()))
+    {
+        if (!connection)
+            throw std::runtime_error("cannot reach the display " + name);
+        // A window may be closed between two requests.
+        XSetErrorHandler([](::Display*, XErrorEvent*) { return 0; });
+        root = DefaultRootWindow(connection);
+    }
+    ~Display() { XCloseDisplay(connection); }
+    Display(const Display&) = delete;
+    Display& operator=(const Display&) = delete;
+
+    [[nodiscard]] Atom atom(const char* name) const { return XInternAtom(connection, name, False); }
+
+    template <typename Item> std::vector<Item> property(WindowId window, const char* name) const
+    {
+        Atom type = None;
+        int format = 0;
+        unsigned long count = 0;
+        unsigned long left = 0;
+        unsigned char* data = nullptr;
+        std::vector<Item> items;
+        XGetWindowProperty(
+            connection, window, atom(name), 0, 4096, False, AnyPropertyType, &type, &format, &count, &left, &data);
+        if (const auto* const first = reinterpret_cast<const Item*>(data))
+            items.assign(first, first + count);
+        XFree(data);
+        return items;
+    }
+
+    void tap(const std::vector<KeySym>& keys)
+    {
+        std::vector<KeyCode> codes;
+        for (const KeySym key : keys)
+            codes.push_back(XKeysymToKeycode(connection, key));
+        // A press in the same millisecond as the last release counts as key repeat.
+        for (const KeyCode code : codes)
+            XTestFakeKeyEvent(connection, code, True, 1);
+        std::ranges::reverse(codes);
+        for (const KeyCode code : codes)
+            XTestFakeKeyEvent(connection, code, False, CurrentTime);
+        XSync(connection, False);
+    }
+
+    ::Display* connection;
+    ::Window root = None;
+};
 
 Desktop::Desktop()
     : m_environment(detachedEnvironment(m_folder.path()))
@@ -78,7 +142,7 @@ std::unique_ptr<Process> Desktop::start(std::vector<std::string> command) const
 void Desktop::startWindowManager()
 {
     m_windowManager = start({"openbox", "--config-file", m_folder.file("openbox.xml")});
-    // While it comes up it overlooks new windows, though it has named itself already.
+    // It sets the property before it manages new windows.
     if (!waitUntil([this] { return hasProperty(m_display->root, kReady) && managesNewWindows(); }))
         throw std::runtime_error("the window manager does not come up: " + readFile(m_folder.file("openbox.log")));
 }
@@ -86,7 +150,7 @@ void Desktop::startWindowManager()
 void Desktop::restartWindowManager()
 {
     m_windowManager.reset();
-    // The former one leaves it behind.
+    // The previous one does not remove it.
     XDeleteProperty(m_display->connection, m_display->root, m_display->atom(kReady));
     startWindowManager();
 }
@@ -142,7 +206,7 @@ Desktop::Area Desktop::clientArea(WindowId window) const
 
 bool Desktop::isActive(WindowId window) const
 {
-    // The window manager may tell of it before the keyboard has come.
+    // The property may change before the focus does.
     ::Window focused = None;
     int whereItReturns = 0;
     XGetInputFocus(m_display->connection, &focused, &whereItReturns);
@@ -185,30 +249,112 @@ int Desktop::brightness(WindowId window, int x, int y) const
     return static_cast<int>(colour >> 8 & 0xff);
 }
 
-void Desktop::resize(WindowId window, int width, int height)
+void Desktop::askWindowManager(WindowId window, const char* request, const std::vector<long>& data) const
 {
-    XResizeWindow(m_display->connection, window, static_cast<unsigned>(width), static_cast<unsigned>(height));
+    XEvent event {};
+    event.xclient.type = ClientMessage;
+    event.xclient.window = window;
+    event.xclient.message_type = m_display->atom(request);
+    event.xclient.format = 32;
+    std::ranges::copy(data, event.xclient.data.l);
+    XSendEvent(
+        m_display->connection, m_display->root, False, SubstructureRedirectMask | SubstructureNotifyMask, &event);
     XSync(m_display->connection, False);
-    const auto has = [&](const Area& area) { return area.width == width && area.height == height; };
-    if (!waitUntil([&] { return has(clientArea(window)); }))
-        throw std::runtime_error("the window does not take its new size");
 }
 
-void Desktop::takePicture(WindowId window, const std::filesystem::path& file) const
+Desktop::WindowId Desktop::openWindow(Size size)
 {
-    constexpr int kStill = 3;
-    const std::vector<std::string> command {
-        "import", "-silent", "-window", std::to_string(window), "-define", "png:exclude-chunks=date,time", file};
-    std::string last;
-    int same = 0;
-    const bool taken = waitUntil([&] {
-        auto picture = start(command)->exitStatus() == 0 ? readFile(file) : std::string();
-        same = !picture.empty() && picture == last ? same + 1 : 0;
-        last = std::move(picture);
-        return same == kStill;
+    const WindowId window =
+        XCreateSimpleWindow(m_display->connection, m_display->root, 20, 20, 300, 200, 0, 0, 0x336699);
+    if (size == Size::FullScreen) {
+        const Atom fullScreen = m_display->atom("_NET_WM_STATE_FULLSCREEN");
+        XChangeProperty(m_display->connection, window, m_display->atom("_NET_WM_STATE"), XA_ATOM, 32, PropModeReplace,
+            reinterpret_cast<const unsigned char*>(&fullScreen), 1);
+    }
+    XMapWindow(m_display->connection, window);
+    if (!waitUntil([&] { return isOnScreen(window); }))
+        throw std::runtime_error("the window does not come up");
+    askWindowManager(window, "_NET_ACTIVE_WINDOW", {2, 0, 0, 0, 0}); // 2: requested by the user
+    if (!waitUntil([&] { return isActive(window); }))
+        throw std::runtime_error("the window does not get the keyboard");
+    return window;
+}
+
+void Desktop::closeWindow(WindowId window)
+{
+    XDestroyWindow(m_display->connection, window);
+    XSync(m_display->connection, False);
+    (void)waitUntil([&] {
+        const auto managed = m_display->property<WindowId>(m_display->root, "_NET_CLIENT_LIST");
+        return std::ranges::find(managed, window) == managed.end();
     });
-    if (!taken)
-        throw std::runtime_error("no picture could be taken: " + readFile(m_folder.file("import.log")));
+}
+
+void Desktop::leaveFullScreen(WindowId window)
+{
+    const Atom fullScreen = m_display->atom("_NET_WM_STATE_FULLSCREEN");
+    askWindowManager(window, "_NET_WM_STATE", {0, static_cast<long>(fullScreen), 0, 2, 0}); // 0: remove
+}
+
+void Desktop::minimise(WindowId window)
+{
+    XIconifyWindow(m_display->connection, window, DefaultScreen(m_display->connection));
+    XSync(m_display->connection, False);
+}
+
+void Desktop::cutOff(WindowId window)
+{
+    XKillClient(m_display->connection, window);
+    XSync(m_display->connection, False);
+}
+
+void Desktop::askToClose(WindowId window) { askWindowManager(window, "_NET_CLOSE_WINDOW", {0, 2, 0, 0, 0}); }
+
+std::shared_ptr<void> Desktop::grabHotKey()
+{
+    auto other = std::make_shared<Display>(m_environment.at("DISPLAY"));
+    XGrabKey(other->connection, XKeysymToKeycode(other->connection, XStringToKeysym("s")), ControlMask | ShiftMask,
+        other->root, False, GrabModeAsync, GrabModeAsync);
+    XSync(other->connection, False);
+    return other;
+}
+
+void Desktop::click(int x, int y)
+{
+    XTestFakeMotionEvent(m_display->connection, -1, x, y, CurrentTime);
+    XTestFakeButtonEvent(m_display->connection, Button1, True, CurrentTime);
+    XTestFakeButtonEvent(m_display->connection, Button1, False, CurrentTime);
+    XSync(m_display->connection, False);
+}
+
+void Desktop::drag(int fromX, int fromY, int toX, int toY)
+{
+    constexpr int kSteps = 20;
+    XTestFakeMotionEvent(m_display->connection, -1, fromX, fromY, CurrentTime);
+    XTestFakeButtonEvent(m_display->connection, Button1, True, CurrentTime);
+    for (int step = 1; step <= kSteps; ++step) {
+        XTestFakeMotionEvent(m_display->connection, -1, fromX + (toX - fromX) * step / kSteps,
+            fromY + (toY - fromY) * step / kSteps, 10); // milliseconds per step
+    }
+    XTestFakeButtonEvent(m_display->connection, Button1, False, 50);
+    XSync(m_display->connection, False);
+}
+
+void Desktop::press(std::string_view chord)
+{
+    std::vector<KeySym> keys;
+    for (auto plus = chord.find('+'); plus != std::string_view::npos; plus = chord.find('+')) {
+        keys.push_back(keyNamed(chord.substr(0, plus)));
+        chord.remove_prefix(plus + 1);
+    }
+    keys.push_back(keyNamed(chord));
+    m_display->tap(keys);
+}
+
+void Desktop::type(std::string_view text)
+{
+    for (const char letter : text)
+        m_display->tap({letter == '\n' ? keyNamed("Return") : static_cast<unsigned char>(letter)});
 }
 
 } // namespace cuebright::test

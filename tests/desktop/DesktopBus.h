@@ -7,7 +7,7 @@
 
 namespace cuebright::test {
 
-/// A connection of somebody else on the desktop's message bus; a new one for each name.
+/// A new connection to the desktop's message bus, as another program has one.
 inline QDBusConnection connectToDesktop(const QString& name)
 {
     static int count = 1;

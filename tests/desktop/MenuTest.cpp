@@ -7,21 +7,21 @@ namespace {
 
 constexpr int kDark = 60;
 
-TEST(DesktopMenus, AnEveningOfWorkByKeyboardAloneIsThereTheNextMorning)
+TEST(DesktopMenus, WorkByKeyboardAloneIsKeptForTheNextStart)
 {
     const Home home;
     {
         RunningPanel panel(home);
         ASSERT_TRUE(panel.shows("File"));
-        // In a menu, separators and what is disabled are passed over.
+        // The arrow keys skip separators and disabled items.
         follow(panel,
             {
                 {"alt+f Down Down Return", kHasTitle, "Cuebright — New Deck"}, // New Deck
-                {"alt+f Down Down Down Return", kShows, "Rename Deck"}, // with one card there is none to delete
+                {"alt+f Down Down Down Return", kShows, "Rename Deck"}, // Delete Card is disabled
                 {"t a l k Return", kHasTitle, "Cuebright — talk"},
                 {"alt+f Return", kEditorHolds, "# "}, // New Card
                 {"f i r s t space w o r d s", kEditorHolds, "first words"},
-                {"alt+e Down Return", kShows, "Card 2 of 2"}, // Save Card: below Undo, there is nothing to redo
+                {"alt+e Down Return", kShows, "Card 2 of 2"}, // Save Card: Redo is disabled
                 {"alt+d Return", kShows, "Card 1 of 2"}, // Move Card Up
                 {"Right", kShows, "Card 2 of 2"},
             });
@@ -45,8 +45,7 @@ TEST(DesktopMenus, SettingsAreReachedAndLeftByKeyboardAndTheirKeysAreTheMenus)
     follow(panel,
         {
             {"ctrl+comma", kShows, "Reset All Data…"},
-            {"ctrl+shift+n", kHasTitle,
-                "Cuebright — New Deck"}, // the main menu's, while the settings have the keyboard
+            {"ctrl+shift+n", kHasTitle, "Cuebright — New Deck"}, // from the settings window
         });
     ASSERT_TRUE(panel.pressButton("Reset All Data…"));
     ASSERT_TRUE(panel.pressButton("Reset Everything"));
@@ -58,6 +57,10 @@ TEST(DesktopMenus, SettingsAreReachedAndLeftByKeyboardAndTheirKeysAreTheMenus)
     ASSERT_EQ(panel.exitStatus(), 0) << panel.console();
     const RunningPanel again(home);
     EXPECT_TRUE(again.shows("Next page")) << "the introduction is back";
+    again.press("Return Return Return Return");
+    EXPECT_TRUE(again.showsNoLonger("Get started"));
+    EXPECT_TRUE(waitUntil(
+        [&] { return readFile(home.preferencesFile()).find("cuebrightOnboardingDone=true") != std::string::npos; }));
 }
 
 TEST(DesktopMenus, WithoutABusEverythingElseWorks)

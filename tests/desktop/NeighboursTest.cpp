@@ -8,7 +8,7 @@
 namespace cuebright::test {
 namespace {
 
-/// The compositor or the portal of the desktop, in a thread of its own.
+/// A fake compositor or portal on the desktop's bus, in its own thread.
 template <typename Fake> class Neighbour final {
 public:
     explicit Neighbour(const QString& name)
@@ -47,7 +47,7 @@ private:
     QThread m_thread;
 };
 
-TEST(DesktopNeighbours, InAPlasmaSessionTheHotKeyComesFromThePortalAndKWinHidesThePanelFromShares)
+TEST(DesktopNeighbours, PlasmaGivesTheHotKeyByItsPortalAndHidesThePanelByKWin)
 {
     Neighbour<FakeKWin> kwin(QStringLiteral("kwin"));
     Neighbour<FakePortal> portal(QStringLiteral("portal"));
@@ -57,7 +57,7 @@ TEST(DesktopNeighbours, InAPlasmaSessionTheHotKeyComesFromThePortalAndKWinHidesT
     EXPECT_TRUE(kwin.wasAsked(" cuebright\n/Scripting/Script5 org.kde.kwin.Script.run()"));
     ASSERT_TRUE(portal.wasAsked("BindShortcuts toggle-panel CTRL+SHIFT+s"));
     kwin.order([](FakeKWin& fake) {
-        fake.report = QStringLiteral("omitted"); // once it is asked again
+        fake.report = QStringLiteral("omitted"); // of the next run
         fake.connection.asyncCall(fake.reportOf(QStringLiteral("refused")));
     });
     ASSERT_TRUE(panel.shows("Visible in screen shares"));
@@ -83,7 +83,7 @@ TEST(DesktopNeighbours, TheLookFollowsTheDesktopWhileRunning)
     }
 }
 
-TEST(DesktopNeighbours, GlassComesAndGoesWithTheCompositor)
+TEST(DesktopNeighbours, BlurFollowsTheCompositor)
 {
     const Home home;
     home.prefer("cuebrightOpacity", "0.8");

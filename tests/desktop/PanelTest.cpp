@@ -17,7 +17,7 @@ TEST(DesktopPanel, EveryKeyOfThePanelWorksWithNumLockAndCapsLockOn)
         {"ctrl+2", kHasTitle, "Cuebright — Product Demo"},
         {"ctrl+9", kHasTitle, "Cuebright — Product Demo"}, // no such deck
         {"ctrl+KP_1", kHasTitle, "Cuebright — Getting Started"},
-        {"ctrl+o", kShowsNoLonger, "Overwrite"}, // taken, and nothing
+        {"ctrl+o", kShowsNoLonger, "Overwrite"}, // ignored
         {"Escape", kShows, "Edit card"},
         {"ctrl+d", kShows, "Delete this card?"},
         {"Escape", kShowsNoLonger, "Delete this card?"},
@@ -29,9 +29,9 @@ TEST(DesktopPanel, EveryKeyOfThePanelWorksWithNumLockAndCapsLockOn)
         {"1", kEditorHolds, "# 1"},
         {"ctrl+z", kEditorHolds, "# C"},
         {"ctrl+shift+z", kEditorHolds, "# 1"},
-        {"ctrl+2", kHasTitle, "Cuebright — Getting Started"}, // the editor's
+        {"ctrl+2", kHasTitle, "Cuebright — Getting Started"}, // the editor handles it
         {"ctrl+period", kShows, "Edit card"},
-        {"ctrl+Return", kEditorHolds, "# C"}, // what was cancelled is forgotten
+        {"ctrl+Return", kEditorHolds, "# C"}, // without the cancelled text
         {"2", kEditorHolds, "# 2"},
         {"ctrl+Return", kShows, "Edit card"},
         {"ctrl+e", kEditorHolds, "# 2"},
@@ -61,6 +61,24 @@ TEST(DesktopPanel, KeysThatCameWhileItWasBusyAllReachWhatTheyWereMeantFor)
     whileItIsBusy("ctrl+n", "made");
     EXPECT_TRUE(panel.editorHolds("# made"));
     EXPECT_TRUE(panel.shows("Card 6 of 6"));
+}
+
+TEST(DesktopPanel, NonsenseInStateFileAndPreferencesNeverBreaksTheStart)
+{
+    const Home home;
+    Home::write(home.stateFile(), "{ \"activeCardIndex\" : 1, \"decks\" : [");
+    Home::write(home.preferencesFile(),
+        "[General]\ncuebrightFontSize=nan\ncuebrightOpacity=inf\ncuebrightSpeakingPace=fast\n"
+        "cuebrightWordCount=banana\ncuebrightTheme=1e308\ncuebrightOnboardingDone=true\n");
+    RunningPanel panel(home);
+    EXPECT_TRUE(panel.hasTitle("Cuebright — Getting Started")) << "the sample decks are there";
+    EXPECT_TRUE(panel.shows("Card 1 of 5"));
+    EXPECT_EQ(std::pair(panel.area().width, panel.area().height), std::pair(720, 560));
+    follow(panel, {{"ctrl+n", kShows, "Save card"}, {"Escape", kShows, "Edit card"}});
+    EXPECT_TRUE(waitUntil([&] { return readFile(home.stateFile()).find("New Card") != std::string::npos; }));
+    panel.press("ctrl+q");
+    EXPECT_EQ(panel.exitStatus(), 0);
+    EXPECT_EQ(panel.console(), "");
 }
 
 } // namespace

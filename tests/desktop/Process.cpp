@@ -12,7 +12,7 @@ namespace cuebright::test {
 
 namespace {
 
-/// Turns the process that was forked off the test into the program.
+/// Runs the program in the forked process.
 [[noreturn]] void become(Process::Start program, pid_t test)
 {
     prctl(PR_SET_PDEATHSIG, program.lastSignal);

@@ -15,24 +15,24 @@
 
 namespace cuebright::test {
 
-/// Names and values, complete: a process gets nothing beside them.
+/// The complete environment of a process.
 using Environment = std::map<std::string, std::string>;
 
-/// How long anything may take before a test gives up on it. Generous, because a sanitizer run is slow.
+/// Generous, because sanitizer runs are slow.
 constexpr std::chrono::seconds kTimeout {20};
 
-/// Asks again and again until `condition` holds; false when it still does not after `timeout`.
+/// Polls until `condition` holds; false after `timeout`.
 [[nodiscard]] bool waitUntil(const std::function<bool()>& condition, std::chrono::milliseconds timeout = kTimeout);
 
-/// A program that a test started. It ends with its owner, and by the system's hand when the test itself is killed.
+/// A child process. Terminated with its owner, and by the kernel if the test is killed.
 class Process final {
 public:
     struct Start {
         std::vector<std::string> command;
         Environment environment;
-        std::filesystem::path output; ///< takes what the program prints
-        std::filesystem::path errors {}; ///< empty: in with the output
-        int lastSignal = SIGTERM; ///< what it gets when it has to go
+        std::filesystem::path output; ///< standard output
+        std::filesystem::path errors {}; ///< standard error; empty: the same file
+        int lastSignal = SIGTERM; ///< sent to end it
     };
 
     explicit Process(Start start);
@@ -41,14 +41,14 @@ public:
     Process& operator=(const Process&) = delete;
 
     [[nodiscard]] pid_t pid() const { return m_pid; }
-    /// What the program has printed so far.
+    /// The output so far.
     [[nodiscard]] std::string output() const { return readFile(m_start.output); }
-    /// The first line of the output, waited for; throws where none comes.
+    /// Waits for the first line of the output; throws after the timeout.
     [[nodiscard]] std::string firstLine() const;
 
     void send(int signal) const;
     [[nodiscard]] bool hasEnded();
-    /// Waits for the end: the exit status, or 128 + the signal that killed it; nothing where it goes on running.
+    /// Waits for the end: the exit status, or 128 + the signal; absent after the timeout.
     [[nodiscard]] std::optional<int> exitStatus();
 
 private:

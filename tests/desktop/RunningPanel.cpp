@@ -90,7 +90,7 @@ RunningPanel::RunningPanel(const Home& home, const Environment& more, Keyboard k
     if (keyboard == Keyboard::Left)
         return;
     const auto place = area();
-    // The corner is empty: in the middle there may be a link.
+    // In the corner, where no link can be.
     desktop().click(place.x + 12, place.y + place.height - 8);
     if (!isActive())
         throw std::runtime_error("a click does not give the panel the keyboard");
@@ -107,19 +107,14 @@ testing::AssertionResult RunningPanel::reaches(std::string_view what, const std:
                                        << "\nit printed: " << console();
 }
 
-testing::AssertionResult RunningPanel::isOnScreen() const
+testing::AssertionResult RunningPanel::isOnScreen(bool wanted) const
 {
-    return reaches("the panel on the screen", [&] { return desktop().isOnScreen(m_window); });
-}
-
-testing::AssertionResult RunningPanel::isOffScreen() const
-{
-    return reaches("the panel off the screen", [&] { return !desktop().isOnScreen(m_window); });
+    return reaches(wanted ? "on screen" : "off screen", [&] { return desktop().isOnScreen(m_window) == wanted; });
 }
 
 testing::AssertionResult RunningPanel::isActive() const
 {
-    return reaches("the keyboard", [&] { return desktop().isActive(m_window); });
+    return reaches("focus", [&] { return desktop().isActive(m_window); });
 }
 
 testing::AssertionResult RunningPanel::hasTitle(std::string_view wanted) const
@@ -140,13 +135,6 @@ testing::AssertionResult RunningPanel::shows(std::string_view name) const
 testing::AssertionResult RunningPanel::showsNoLonger(std::string_view name) const
 {
     return reaches(name, [&] { return screenReader().find(m_program.pid(), name).empty(); }) << " gone";
-}
-
-testing::AssertionResult RunningPanel::showsButton(std::string_view name) const { return hasRole(name, "push button"); }
-
-testing::AssertionResult RunningPanel::hasDisabled(std::string_view name) const
-{
-    return showsOne(name, [](const auto& element) { return !element.isEnabled; });
 }
 
 testing::AssertionResult RunningPanel::hints(std::string_view name, std::string_view hint) const

@@ -67,7 +67,7 @@ void addShowing(Elements& elements, AtspiAccessible* parent)
     }
 }
 
-/// What a program shows, in the order of the tree.
+/// All showing elements, in tree order.
 Elements elementsOf(pid_t program)
 {
     while (g_main_context_iteration(nullptr, FALSE)) { }
@@ -87,7 +87,7 @@ ScreenReader::ScreenReader(const Environment& desktop)
         setenv(name.c_str(), value.c_str(), 1);
     if (atspi_init() > 1)
         throw std::runtime_error("the accessibility bus does not answer");
-    // Without a running main loop the library's cache would never hear of a change.
+    // The cache would need a running main loop to be updated.
     const Owned<AtspiAccessible> root(atspi_get_desktop(0));
     atspi_accessible_set_cache_mask(root.get(), ATSPI_CACHE_NONE);
 }
@@ -97,8 +97,7 @@ std::vector<ScreenReader::Element> ScreenReader::find(pid_t program, std::string
     std::vector<Element> found;
     for (const auto& one : elementsOf(program))
         if (nameOf(one.get()) == name)
-            found.push_back({roleOf(one.get()), taken(atspi_accessible_get_description(one.get(), nullptr)),
-                hasState(one.get(), ATSPI_STATE_ENABLED)});
+            found.push_back({roleOf(one.get()), taken(atspi_accessible_get_description(one.get(), nullptr))});
     return found;
 }
 

@@ -8,26 +8,25 @@
 
 namespace cuebright::test {
 
-/// What a screen reader gets to know of a program, over the accessibility bus.
+/// Reads a program over the accessibility bus, as a screen reader does.
 ///
-/// Only elements that are on the screen are found. One per process: the library behind it has one connection.
+/// Finds only elements that are showing. One per process: the library has one connection.
 class ScreenReader final {
 public:
-    /// The environment is taken over into this process, which is how the library finds its bus.
+    /// Sets the environment of this process, in which the library finds its bus.
     explicit ScreenReader(const Environment& desktop);
 
     struct Element {
         std::string role;
         std::string hint;
-        bool isEnabled;
     };
     /// All elements of exactly that name, in the order of the tree.
     [[nodiscard]] std::vector<Element> find(pid_t program, std::string_view name) const;
-    /// Does what Return on the element would do; false where there is none or it offers no action.
+    /// Performs the element's press action; false if there is none.
     bool press(pid_t program, std::string_view name) const;
-    /// The text of the first field that can be written into; empty where there is none.
+    /// The text of the first editable element; empty if there is none.
     [[nodiscard]] std::string editableText(pid_t program) const;
-    /// Every element on a line of its own, for messages of failed tests.
+    /// One element per line, for failure messages.
     [[nodiscard]] std::string describe(pid_t program) const;
 };
 

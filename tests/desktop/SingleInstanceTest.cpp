@@ -133,7 +133,7 @@ TEST_F(Remote, ActionsStepAndToggleWithoutTheKeyboard)
     EXPECT_TRUE(panel.isOffScreen());
     EXPECT_TRUE(activate("toggle-panel"));
     EXPECT_TRUE(panel.isOnScreen());
-    EXPECT_TRUE(other.hasKeyboard());
+    EXPECT_TRUE(other.hasFocus());
 }
 
 TEST_F(Remote, NothingStepsWhileAQuestionIsOpen)

@@ -45,7 +45,7 @@ TEST(Instant, EveryOtherFormIsRefused)
         EXPECT_FALSE(parseIso8601(text)) << text;
 }
 
-TEST(Instant, FractionsAreDroppedTowardsThePastAndDatesOutsideFourDigitYearsHaveNoText)
+TEST(Instant, FractionsAreRoundedDownAndOnlyFourDigitYearsHaveText)
 {
     EXPECT_EQ(iso8601(Instant(999'999us)), "1970-01-01T00:00:00Z");
     EXPECT_EQ(iso8601(Instant(-1us)), "1969-12-31T23:59:59Z");

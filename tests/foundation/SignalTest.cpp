@@ -83,15 +83,4 @@ TEST_F(SignalTest, AListenerMayNotifyAgainAndOneEndedMeanwhileIsNotCalledAnyMore
     EXPECT_EQ(calls, (Calls {"first", "first", "second", "second"}));
 }
 
-TEST(SignalArguments, EveryListenerReceivesThem)
-{
-    Signal<int, std::string> signal;
-    std::vector<std::string> received;
-    const auto record = [&](int number, const std::string& text) { received.push_back(text + std::to_string(number)); };
-    const auto first = signal.subscribe(record);
-    const auto second = signal.subscribe(record);
-    signal.notify(7, "a");
-    EXPECT_EQ(received, (std::vector<std::string> {"a7", "a7"}));
-}
-
 } // namespace cuebright

@@ -9,7 +9,7 @@ TEST(Unicode, ClassesOfCodePoints)
     const std::u32string blanks = U" \t\u00a0\u1680\u202f\u3000";
     const std::u32string otherWhiteSpace = U"\n\v\r\u0085\u2028\u2029";
     const std::u32string digits = U"09\u0663\uff17\U0001d7cf"; // of other scripts too
-    // Among them what looks like one: zero width space, byte order mark, superscript, roman numeral.
+    // Similar ones: zero width space, byte order mark, superscript, roman numeral.
     const std::u32string others = std::u32string(U"\x1f\u200b\ufeff:\u00b2\u2160a\x110000") + kInvalidCodePoint;
     for (const auto c : blanks + otherWhiteSpace + digits + others) {
         const bool blank = blanks.find(c) != std::u32string::npos;
@@ -40,7 +40,7 @@ TEST(Unicode, WordsAreWhatStandsBetweenWhiteSpace)
 {
     const std::pair<const char*, std::size_t> cases[] = {{"", 0}, {" \n\r\t\u0085\u2028", 0},
         {"# Title\n\n- one  two", 5}, {"a\nb\vc\fd\re\r\nf\u0085g\u2028h\u2029i\u00a0j\u3000k", 11},
-        {"a\u200bb\u0105\u00e0\u4f60", 1}, // with bytes that are white space elsewhere
+        {"a\u200bb\u0105\u00e0\u4f60", 1}, // whose bytes 0x85 and 0xa0 are no white space
         {"\xff\xfe", 1}};
     for (const auto& [text, words] : cases) {
         EXPECT_EQ(countWords(text), words) << text;

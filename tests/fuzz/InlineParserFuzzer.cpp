@@ -28,14 +28,14 @@ bool looksLike(const StyledRun& a, const StyledRun& b)
     return a.isBold == b.isBold && a.isItalic == b.isItalic && a.isCode == b.isCode && a.link == b.link;
 }
 
-/// Nothing in it can be a marker, a character reference or an escape, and the zero character is not replaced.
+/// Contains no markers, character references, escapes or zero characters.
 bool hasNoSyntax(std::string_view text)
 {
     using namespace std::string_view_literals;
     return text.find_first_of("*_`[<&\\\0"sv) == std::string_view::npos;
 }
 
-/// Every character of markup counts for at most itself; a character reference of five bytes can stand for six.
+/// An upper bound of the output: a zero character takes three bytes, a five-byte reference may take six.
 std::size_t longestText(std::string_view text)
 {
     const auto zeros = static_cast<std::size_t>(std::count(text.begin(), text.end(), '\0'));

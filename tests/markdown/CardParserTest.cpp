@@ -78,7 +78,7 @@ TEST(CardParser, OnlyTheLineFeedSeparatesLines)
     });
 }
 
-TEST(CardParser, NumbersAreTakenAsWrittenAndAreOneWhereTheyDoNotFitBeforeAnyOneWhiteSpaceCharacter)
+TEST(CardParser, NumbersAreTakenAsWrittenAndAreOneWhereTheyDoNotFit)
 {
     expectBlocks({
         {"007. x", {item(7, "x")}},
@@ -87,7 +87,7 @@ TEST(CardParser, NumbersAreTakenAsWrittenAndAreOneWhereTheyDoNotFitBeforeAnyOneW
         {"9223372036854775808. x", {item(1, "x")}},
         {"99999999999999999999. big", {item(1, "big")}},
         {"\xd9\xa3. x", {item(1, "x")}}, // arabic-indic three
-        {"3\xef\xbc\x92. x", {item(1, "x")}}, // a fullwidth two behind the three
+        {"3\xef\xbc\x92. x", {item(1, "x")}}, // 3, fullwidth 2
         {"1.\rx", {item(1, "x")}},
         {"1.\r", {item(1, "")}},
         {"2.\xc2\xa0x", {item(2, "x")}},

@@ -32,20 +32,6 @@ TEST_F(SampleDecks, AreThreeOfWhichTheFirstIsShownAtItsFirstCard)
     EXPECT_EQ(state.activeCardIndex, 0);
 }
 
-TEST_F(SampleDecks, EveryCardIsOneHeadingFollowedByBullets)
-{
-    const auto isBullet = [](const Block& block) { return block.kind == Block::Kind::Bullet; };
-    for (const auto& deck : decks) {
-        for (const auto& card : deck.cards) {
-            const auto blocks = parseMarkdown(card.content);
-            ASSERT_GE(blocks.size(), 2U) << card.content;
-            EXPECT_EQ(blocks.front().kind, Block::Kind::Heading) << card.content;
-            EXPECT_TRUE(std::all_of(blocks.begin() + 1, blocks.end(), isBullet)) << card.content;
-            EXPECT_FALSE(card.content.ends_with('\n')) << card.content;
-        }
-    }
-}
-
 TEST_F(SampleDecks, EveryDateIsTheGivenOneAndNoTwoIdentifiersAreTheSameNotEvenOfTwoCalls)
 {
     std::set<Uuid> ids;

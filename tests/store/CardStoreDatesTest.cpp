@@ -4,7 +4,7 @@ namespace cuebright::test {
 
 namespace {
 
-/// Of each deck and its cards: when it was made and when it was changed, in seconds since `start`; "-" before that.
+/// Creation and modification date of each deck and card, in seconds since `start`; "-" if earlier.
 std::string datesOf(const std::vector<Deck>& decks, Instant start)
 {
     std::string text;
@@ -37,18 +37,16 @@ TEST_F(CardStoreDates, OnlyWhatChangesIsDatedAndWhatIsNewHasOneDate)
         {"Talk*[a*]", {&CardStore::addCard}, "-1[-- 00 ]"},
         {"Talk*[a*] editing 'typed'", {&CardStore::addCard}, "-3[-0 22 ]"},
         {"Talk*[a|b*]", {&CardStore::deleteCard}, "-0[-- ]"},
-        {"Talk*[a|b*]", {&CardStore::deleteCard, undo}, "-1[-- -- ]"},
         {"Talk*[a|b*]", {&CardStore::moveCardUp}, "-0[-- -- ]"},
-        {"Talk*[a*|b]", {&CardStore::moveCardDown}, "-0[-- -- ]"},
         {"Talk*[a|b*] editing 'b'", {save}, "-1[-- -0 ]"},
         {"Talk*[a*] editing 'typed'", {create}, "--[-- ]00[00 ]"},
         {"Talk*[a*] Demo[b] editing 'typed'", {openDemo}, "--[-- ]--[-- ]"},
         {"Talk*[a*] Demo[b]", {rename, openDemo, undo}, "-0[-- ]-1[-- ]"},
     };
-    surroundings.clock.stepPerRead = std::chrono::seconds(1);
+    fake.clock.stepPerRead = std::chrono::seconds(1);
     for (const auto& [before, steps, dates] : cases) {
         open(before);
-        const auto start = surroundings.clock.wallClock;
+        const auto start = fake.clock.wallClock;
         for (const auto& step : steps)
             step(*store);
         EXPECT_EQ(datesOf(store->decks(), start), dates) << before;

@@ -6,22 +6,17 @@ namespace {
 
 class CardStoreEditing : public CardStoreFixture { };
 
-TEST_F(CardStoreEditing, EditsTellTheirEffectsInOrder)
+TEST_F(CardStoreEditing, EditsHaveTheirEffects)
 {
     const auto type = [](CardStore& s) { s.setEditText("typed"); };
     expectEffects({
-        {"Talk*[a|b*]", &CardStore::beginEditing, "Talk*[a|b*] editing 'b'",
-            "editText ''; isEditing false ease-in-out 0.14", 0},
-        {"Talk*[a*] editing 'a'", type, "Talk*[a*] editing 'typed'", "editText 'a'", 0},
-        {"Talk*[a*] editing 'b'", &CardStore::saveEdit, "Talk*[b*] feedback 'Saved'",
-            "decks; isEditing true ease-in-out 0.14; feedbackMessage none", 1},
-        {"Talk*[a*] editing 'a'", &CardStore::saveEdit, "Talk*[a*]", "decks; isEditing true ease-in-out 0.14", 1},
-        {"Talk*[a*] editing 'b'", &CardStore::cancelEdit, "Talk*[a*] feedback 'Discarded'",
-            "editText 'b'; isEditing true ease-in-out 0.14; feedbackMessage none", 0},
-        {"Talk*[a*] editing 'a'", &CardStore::cancelEdit, "Talk*[a*]", "editText 'a'; isEditing true ease-in-out 0.14",
-            0},
-        {"Talk*[a] card -1 editing 'b'", &CardStore::cancelEdit, "Talk*[a] card -1 feedback 'Discarded'",
-            "editText 'b'; isEditing true ease-in-out 0.14; feedbackMessage none", 0},
+        {"Talk*[a|b*]", &CardStore::beginEditing, "Talk*[a|b*] editing 'b'", 0},
+        {"Talk*[a*] editing 'a'", type, "Talk*[a*] editing 'typed'", 0},
+        {"Talk*[a*] editing 'b'", &CardStore::saveEdit, "Talk*[b*] feedback 'Saved'", 1},
+        {"Talk*[a*] editing 'a'", &CardStore::saveEdit, "Talk*[a*]", 1},
+        {"Talk*[a*] editing 'b'", &CardStore::cancelEdit, "Talk*[a*] feedback 'Discarded'", 0},
+        {"Talk*[a*] editing 'a'", &CardStore::cancelEdit, "Talk*[a*]", 0},
+        {"Talk*[a] card -1 editing 'b'", &CardStore::cancelEdit, "Talk*[a] card -1 feedback 'Discarded'", 0},
     });
 }
 
@@ -63,7 +58,7 @@ TEST_F(CardStoreEditing, TextsAreStoredAsTyped)
     }
 }
 
-TEST_F(CardStoreEditing, ANoticeGoesOutBeforeTheValueIsStored)
+TEST_F(CardStoreEditing, ObserversAreNotifiedBeforeTheValueIsStored)
 {
     open("Talk*[a*] editing 'b'");
     std::string seen;

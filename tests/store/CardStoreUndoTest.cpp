@@ -26,23 +26,24 @@ TEST_F(CardStoreUndo, ActsOnTheDeckAndCardThatAreActiveThenAndAlternatesWithRedo
         std::string before;
         std::vector<StoreOperation> steps;
         std::string undone;
-        std::optional<std::string> redone; ///< none: the undo is used up
+        std::optional<std::string> redone; ///< absent: nothing can be redone
     } cases[] = {
         {"Talk*[a*|b]", {add, goBack, goBack}, "Talk*[a*|b]", "Talk*[a|b|" + kAdded + "]"},
         {"Talk*[] card 0", {add}, "Talk*[] card 0", "Talk*[" + kAdded + "]"},
         {"Talk*[a|b*|c]", {remove}, "Talk*[a|b*|c]", "Talk*[a|c*]"},
-        // past the end of the other deck, so at its end
+        // index beyond the other deck, so at its end
         {"Talk*[a|b|c*] Demo[d]", {remove, openDemo}, "Talk[a|b] Demo*[d|c*]", "Talk[a|b] Demo*[d*]"},
         {"Talk*[a|b|c|d*]", {moveUp, goBack}, "Talk*[a|d|b*|c]", "Talk*[a|b*|d|c]"},
         {"Talk*[a*|b|c]", {&CardStore::moveCardDown}, "Talk*[a*|b|c]", "Talk*[b|a*|c]"},
-        {"Talk*[a|b*|c]", {remove, undo, moveUp}, "Talk*[a|b*|c]", "Talk*[b*|a|c]"}, // which ends what could be redone
-        // nothing can move there
+        {"Talk*[a|b*|c]", {remove, undo, moveUp}, "Talk*[a|b*|c]",
+            "Talk*[b*|a|c]"}, // a new action clears the redo stack
+        // the deck has one card
         {"Talk*[a|b*] Demo[c]", {moveUp, openDemo}, "Talk[b|a] Demo*[c*]", {}},
         {"Talk[a] Demo*[b|c*]", {create, openDemo, &CardStore::nextCard}, "Talk[a] Demo*[b*|c]",
             "Talk[a] Demo[b|c] New*[# New\n\nStart writing here.*]"},
         {"Talk[a] Demo*[b|c*]", {removeDeck}, "Talk[a] Demo*[b*|c]", "Talk*[a*]"},
         {"Talk*[a*] Demo[b] Notes[c]", {removeDeck}, "Talk*[a*] Demo[b] Notes[c]", "Demo*[b*] Notes[c]"},
-        // on purpose without a redo
+        // intended: no redo
         {"Talk*[a*] Demo[b]", {rename, openDemo}, "Keynote[a] Talk*[b*]", {}},
     };
     for (const auto& c : cases) {
@@ -64,9 +65,27 @@ TEST_F(CardStoreUndo, ActsOnTheDeckAndCardThatAreActiveThenAndAlternatesWithRedo
     }
 }
 
+TEST_F(CardStoreUndo, EachChangeOfTheStacksIsNotified)
+{
+    open("Talk*[a*|b]");
+    std::vector<std::string> seen;
+    const auto subscription = undoManager->changed.subscribe([&] { seen.push_back(describe(*undoManager)); });
+    store->moveCardDown();
+    EXPECT_EQ(seen.back(), "undo 'Move Card Down' redo ''");
+    undoManager->undo();
+    EXPECT_EQ(seen.back(), "undo '' redo 'Move Card Down'");
+    undoManager->redo();
+    EXPECT_EQ(seen.back(), "undo 'Move Card Down' redo ''");
+    store->renameDeck("x");
+    undoManager->undo(); // registers no redo
+    EXPECT_EQ(seen.back(), "undo 'Move Card Down' redo ''");
+    undoManager->removeAllActions();
+    EXPECT_EQ(seen.back(), "undo '' redo ''");
+}
+
 TEST_F(CardStoreUndo, WhatWasDeletedComesBackAsItWas)
 {
-    surroundings.clock.wallClock = kWritten; // which an undone deletion gives to the deck
+    fake.clock.wallClock = kWritten; // the deck's new date after the undo
     for (const auto remove : {&CardStore::deleteCard, &CardStore::deleteActiveDeck}) {
         open("Talk[a] Demo*[b*|c]");
         (*store.*remove)();
@@ -83,21 +102,9 @@ TEST_F(CardStoreUndo, ARedoThatWouldRemoveTheLastDeckIsUsedUp)
     undoManager->undo();
     stateFile() = stateFileOf("Only*[x*]");
     store->loadFromDisk();
-    (void)takeNotices();
-    undoManager->redo();
+    perform([this](CardStore&) { undoManager->redo(); });
     EXPECT_EQ(describe(*store), "Only*[x*]");
-    EXPECT_EQ(takeNotices(), "");
-    EXPECT_EQ(describe(*undoManager), "undo '' redo ''");
-}
-
-TEST_F(CardStoreUndo, WithoutItsUndoManagerOperationsStillWork)
-{
-    open("Talk*[a*|b]");
-    undoManager = std::make_shared<UndoManager>(); // the store does not keep the former one
-    store->moveCardDown();
-    store->deleteCard();
-    store->addCard();
-    EXPECT_EQ(store->cardCount(), 2);
+    EXPECT_TRUE(changes.empty());
     EXPECT_EQ(describe(*undoManager), "undo '' redo ''");
 }
 

@@ -22,7 +22,7 @@ template <typename Condition>
 [[nodiscard]] bool waitUntil(Condition condition, std::chrono::milliseconds deadline = std::chrono::seconds(10))
 {
     const QDeadlineTimer end(deadline);
-    QTimer look; // wakes the loop for another look
+    QTimer look; // wakes the loop regularly
     look.start(std::chrono::milliseconds(2));
     while (!condition()) {
         if (end.hasExpired())

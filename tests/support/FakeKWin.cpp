@@ -23,7 +23,7 @@ void FakeKWin::appear() { connection.registerService(QStringLiteral("org.kde.KWi
 
 void FakeKWin::vanish() { connection.unregisterService(QStringLiteral("org.kde.KWin")); }
 
-/// Whom to call and how stands in the script.
+/// The script has the call's destination as constants.
 QDBusMessage FakeKWin::reportOf(const QString& word) const
 {
     const auto constant = [this](const QString& name) {

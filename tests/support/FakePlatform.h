@@ -24,7 +24,7 @@
 
 namespace cuebright::test {
 
-/// Time that stands still until a test moves it (through `FakeMainQueue::advance`).
+/// Stands still until a test calls `FakeMainQueue::advance`.
 class FakeClock final : public Clock {
 public:
     Instant now() override { return std::exchange(wallClock, wallClock + stepPerRead); }
@@ -32,10 +32,10 @@ public:
 
     Instant wallClock = Instant(std::chrono::sys_days(std::chrono::year(2026) / 11 / 16)) + std::chrono::hours(9);
     Seconds up {1000};
-    std::chrono::microseconds stepPerRead {}; ///< tells one reading of the date from the next
+    std::chrono::microseconds stepPerRead {}; ///< added after each reading of the date
 };
 
-/// Counts up, so that the n-th identifier made is `Uuid` with n in its last bytes.
+/// Counts up: the n-th identifier has n in its last bytes.
 class FakeUuidSource final : public UuidSource {
 public:
     Uuid makeUuid() override { return nth(++count); }
@@ -49,7 +49,7 @@ public:
     int count = 0;
 };
 
-/// Runs work in the order in which it falls due, when a test says so.
+/// Runs work in the order in which it is due, when a test asks for it.
 class FakeMainQueue final : public MainQueue {
 public:
     explicit FakeMainQueue(FakeClock& clock)
@@ -62,11 +62,11 @@ public:
 
     /// Runs what was posted, also by the work itself.
     void runPosted();
-    /// Moves both clocks on and runs all that falls due, each at its time.
+    /// Advances both clocks and runs what is due, each at its time.
     void advance(Seconds duration);
-    /// Posted work that still waits.
+    /// Of posted work.
     [[nodiscard]] std::size_t postedCount() const { return m_posted.size(); }
-    /// Delayed and repeating work that still waits.
+    /// Of delayed and repeating work.
     [[nodiscard]] std::size_t pendingCount() const { return m_timed.size(); }
 
 private:
@@ -99,7 +99,7 @@ public:
     std::map<std::string, std::string> files;
     std::vector<std::string> createdDirectories;
     bool createsNoDirectories = false;
-    std::vector<std::string> writes; ///< the path of each write that was tried
+    std::vector<std::string> writes; ///< the path of each attempted write
     std::optional<std::string> writeError; ///< makes every write fail
     bool readsFail = false;
 };
@@ -174,7 +174,7 @@ public:
     std::function<void()> whenReapplied; ///< of the last check
 };
 
-/// One key at a time; presses it when a test says so.
+/// One key at a time, pressed by the test.
 class FakeHotKeys final : public HotKeys {
     struct Registration final : HotKeyRegistration {
         explicit Registration(FakeHotKeys& hotKeys)
@@ -198,11 +198,11 @@ public:
     }
 
     bool isTaken = false;
-    std::vector<HotKey> keys; ///< that were asked for
+    std::vector<HotKey> keys; ///< as requested
     std::function<void()> press; ///< null without a registration
 };
 
-/// Records what is asked of it.
+/// Records the calls.
 class FakeWindowSystem final : public WindowSystem {
 public:
     void keepAboveFullScreen(WindowId) override { calls.emplace_back("keep above"); }
@@ -219,7 +219,7 @@ public:
     std::vector<std::string> lines;
 };
 
-/// A whole surroundings for the core, under a test's control.
+/// A complete platform, controlled by the test.
 struct FakePlatform {
     FakeClock clock;
     FakeUuidSource uuids;

@@ -25,14 +25,14 @@ const QString kRegistry = QStringLiteral("org.freedesktop.host.portal.Registry")
 const QString kSession = QStringLiteral("org.freedesktop.portal.Session");
 const QString kRequest = QStringLiteral("org.freedesktop.portal.Request");
 
-/// What throws is answered with an error.
+/// Exceptions become error replies.
 void require(bool condition, const char* complaint)
 {
     if (!condition)
         throw std::runtime_error(complaint);
 }
 
-/// The path of a session or a request, with the token that the client has chosen for it.
+/// The object path of a session or request, from the client's token.
 QString handle(const QDBusMessage& message, const QString& kind, const QVariant& token)
 {
     static const QRegularExpression allowed(QStringLiteral("^[A-Za-z0-9_]+$"));
@@ -43,7 +43,7 @@ QString handle(const QDBusMessage& message, const QString& kind, const QVariant&
 
 Shortcuts shortcutsIn(const QDBusMessage& message) { return qdbus_cast<Shortcuts>(message.arguments().value(1)); }
 
-/// The method, then what matters of its arguments.
+/// The method and its main arguments.
 QString lineOf(const QDBusMessage& message)
 {
     auto words = QStringList(message.member()) + message.arguments().value(0).toStringList();
@@ -104,7 +104,7 @@ bool FakePortal::handleMessage(const QDBusMessage& message, const QDBusConnectio
 {
     const auto interface = message.interface();
     if (!QStringList {kSettings, kShortcuts, kRegistry, kSession}.contains(interface))
-        return false; // an unknown method, says the toolkit
+        return false; // Qt replies that the method is unknown
     calls << lineOf(message);
     if ((interface == kShortcuts && !hasShortcuts) || (interface == kRegistry && !hasRegistry))
         return false;

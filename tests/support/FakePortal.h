@@ -11,41 +11,41 @@
 namespace cuebright::test {
 
 /// A desktop's portal: Settings, GlobalShortcuts and the Registry, as documented by XDG Desktop Portal. A response
-/// comes before the reply to the call that asked for it, as it may.
+/// is sent before the reply to its request, which the protocol allows.
 ///
-/// Calls against the protocol (a second binding, an unknown session, a token with forbidden characters) get an error.
+/// Invalid calls (a second binding, an unknown session, a malformed token) get an error.
 class FakePortal final : public QDBusVirtualObject {
 public:
-    /// On the bus from now on, until the connection ends or `leave`.
+    /// On the bus until the connection ends or `leave` is called.
     explicit FakePortal(QDBusConnection bus);
     ~FakePortal() override { leave(); }
 
     void leave();
 
-    /// Keeps the value and tells everybody.
+    /// Stores the value and emits SettingChanged.
     void changeSetting(const QString& group, const QString& key, const QVariant& value);
-    /// The user presses the key of a shortcut. False where no session has bound it.
+    /// Emits Activated for a shortcut; false if no session has bound it.
     bool activate(const QString& id);
     void sendActivated(const QString& session, const QString& id);
-    /// The desktop ends a session by itself.
+    /// Emits Closed for a session.
     void closeSession(const QString& session);
 
     QMap<QString, QVariantMap> settings; ///< by group and key
-    bool isSilent = false; ///< takes calls and answers nothing
+    bool isSilent = false; ///< does not reply
     bool hasShortcuts = true;
     bool hasRegistry = true;
     uint responseToCreate = 0;
     uint responseToBind = 0;
-    QString triggerDescription = QStringLiteral("Ctrl+Shift+S"); ///< what the shortcuts are bound to
+    QString triggerDescription = QStringLiteral("Ctrl+Shift+S"); ///< of all shortcuts
 
     struct DesktopSession {
         QString path;
         QString client; ///< unique name
-        QStringList shortcuts; ///< that are bound
+        QStringList shortcuts; ///< bound ones
         bool wasBound = false;
     };
-    QList<DesktopSession> sessions; ///< that are open
-    QStringList calls; ///< one line each, in order: the method, then what matters of its arguments
+    QList<DesktopSession> sessions; ///< open ones
+    QStringList calls; ///< in order: the method and its main arguments
 
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& bus) override;
     QString introspect(const QString&) const override { return {}; }

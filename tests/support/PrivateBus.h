@@ -6,7 +6,7 @@
 
 namespace cuebright::test {
 
-/// A message bus of our own, as long as the object lives; ends the test run where none can be started.
+/// A private message bus while the object lives; aborts if none can be started.
 class PrivateBus final {
 public:
     PrivateBus();
@@ -14,7 +14,7 @@ public:
     PrivateBus(const PrivateBus&) = delete;
     PrivateBus& operator=(const PrivateBus&) = delete;
 
-    /// A new connection each time: what talks to each other on the bus must not share one.
+    /// A new connection each time: a connection cannot call itself.
     [[nodiscard]] QDBusConnection connect();
     [[nodiscard]] const QString& address() const { return m_address; }
 

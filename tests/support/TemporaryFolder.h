@@ -10,14 +10,14 @@
 
 namespace cuebright::test {
 
-/// The whole content of a file; empty where there is none.
+/// The content of a file; empty if there is none.
 [[nodiscard]] inline std::string readFile(const std::filesystem::path& path)
 {
     std::ifstream file(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-/// A folder on the real disk that goes away with its content.
+/// A folder on disk, removed with its content by the destructor.
 class TemporaryFolder final {
 public:
     TemporaryFolder()
@@ -36,7 +36,7 @@ public:
     [[nodiscard]] std::filesystem::path path() const { return m_path; }
     [[nodiscard]] std::filesystem::path file(std::string_view name) const { return path() / name; }
 
-    /// Makes or replaces a file and returns its path.
+    /// Writes a file and returns its path.
     std::filesystem::path write(std::string_view name, std::string_view content) const
     {
         std::ofstream(file(name), std::ios::binary) << content;

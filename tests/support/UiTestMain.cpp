@@ -4,7 +4,7 @@
 
 #include <QTemporaryDir>
 
-/// Runs the tests that need Qt: no display, and no files but in a folder that goes away.
+/// Runs the tests without a display; files go to a temporary folder.
 int main(int argc, char* argv[])
 {
     testing::InitGoogleTest(&argc, argv);

@@ -13,14 +13,14 @@ const std::vector<std::string_view> kCards = {
     R"(# Thank you\n\nQuestions?)",
 };
 
-/// Throws where the panel is not as wanted.
+/// Throws if a check fails.
 void require(const testing::AssertionResult& result)
 {
     if (!result)
         throw std::runtime_error(result.message());
 }
 
-/// A home with the cards, and a picture that is taken once the panel is as wanted. The panel ends with it.
+/// A home with the cards for one picture.
 struct Picture final : Home {
     explicit Picture(const std::string& pictureName, Introduction introduction = Introduction::Seen)
         : Home(introduction)
@@ -35,7 +35,26 @@ struct Picture final : Home {
     Environment environment {};
 };
 
-/// Takes every picture in one scale.
+/// Saves what the window shows as a PNG file, once three pictures in a row are the same.
+void takePicture(Desktop::WindowId window, const std::filesystem::path& file)
+{
+    const TemporaryFolder folder;
+    std::string last;
+    int same = 0;
+    const bool isTaken = waitUntil([&] {
+        Process import({{"import", "-silent", "-window", std::to_string(window), "-define",
+                            "png:exclude-chunks=date,time", file.string()},
+            desktop().environment(), folder.file("output")});
+        auto picture = import.exitStatus() == 0 ? readFile(file) : std::string();
+        same = !picture.empty() && picture == last ? same + 1 : 0;
+        last = std::move(picture);
+        return same == 2;
+    });
+    if (!isTaken)
+        throw std::runtime_error("no picture could be taken: " + readFile(folder.file("output")));
+}
+
+/// Takes all pictures at one scale.
 class Photographer final {
 public:
     Photographer(std::filesystem::path folder, int scale)
@@ -59,9 +78,7 @@ public:
         takeError();
         takeOnboarding();
         for (const auto& [name, width, height] : {std::tuple("narrow", 480, 360), std::tuple("wide", 1400, 700)})
-            take(Picture(name), [&, w = width * m_scale, h = height * m_scale](const RunningPanel& panel) {
-                desktop().resize(panel.window(), w, h);
-            });
+            takeInSize(name, width, height);
     }
 
 private:
@@ -72,8 +89,18 @@ private:
         const RunningPanel panel(picture, environment);
         prepare(panel);
         const auto file = picture.name + (m_scale == 1 ? "" : "@" + std::to_string(m_scale) + "x") + ".png";
-        desktop().takePicture(panel.window(), m_folder / file);
+        takePicture(panel.window(), m_folder / file);
         std::cout << file << std::endl;
+    }
+
+    void takeInSize(const char* name, int width, int height) const
+    {
+        const Picture picture(name);
+        picture.prefer("\n[cuebrightWindowFrame]\nx", "20");
+        picture.prefer("y", "50");
+        picture.prefer("w", std::to_string(width));
+        picture.prefer("h", std::to_string(height));
+        take(picture, [](const RunningPanel& panel) { require(panel.shows("Card 1 of 3")); });
     }
 
     void takeCriticalCountdown() const

@@ -11,10 +11,10 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
-// saving_worker SEED STEP: saves without pause, to the real disk, until it is killed. The only card holds the number of
-// its save and its own length, from a few bytes to 4 MB. Standard output hears of each save before and after it.
+// saving_worker SEED STEP: saves to disk in a loop until it is killed. The only card holds the number of
+// its save and its length, from a few bytes to 4 MB. Prints a line before and after each save.
 //
-// Just before the STEP-th of the calls that bring a file to the disk it kills itself; 0 leaves that to somebody else.
+// Kills itself before the STEP-th call that writes a file; never if STEP is 0.
 
 namespace {
 
@@ -35,7 +35,7 @@ void tell(const char* what, std::int64_t number)
 
 } // namespace
 
-// Instead of the C library's, for the toolkit as well.
+// Replaces the C library's functions, also for Qt.
 extern "C" {
 
 int fsync(int file)
@@ -61,7 +61,7 @@ int main(int, char* argv[])
 {
     using namespace cuebright;
     std::mt19937_64 random(std::stoull(argv[1]));
-    std::uniform_real_distribution<> decimals(0, std::log10(4e6)); // small ones as often as large ones
+    std::uniform_real_distribution<> decimals(0, std::log10(4e6)); // small sizes as often as large ones
 
     test::FakePlatform fake;
     QtFileSystem disk;

@@ -1,16 +1,14 @@
 #include "Operations.h"
 
-#include "model/StateFile.h"
 #include "platform/qt/TextConversion.h"
-#include "store/CardStore.h"
 
-#include <QDialog>
+#include <QCoreApplication>
+#include <QKeyEvent>
 #include <QLineEdit>
 
 #include <array>
 #include <cmath>
 #include <limits>
-#include <utility>
 
 namespace cuebright::soak {
 
@@ -19,208 +17,178 @@ namespace {
 constexpr auto kCommand = Qt::ControlModifier;
 constexpr auto kCommandShift = Qt::ControlModifier | Qt::ShiftModifier;
 constexpr auto kCommandOption = Qt::ControlModifier | Qt::AltModifier;
-constexpr std::int64_t kLeast = std::numeric_limits<std::int64_t>::min();
-constexpr std::int64_t kMost = std::numeric_limits<std::int64_t>::max();
+constexpr auto kLeast = std::numeric_limits<std::int64_t>::min();
+constexpr auto kMost = std::numeric_limits<std::int64_t>::max();
 
-bool always(const Model&) { return true; }
-bool hasSheet(const Model& model) { return model.sheet != Model::Sheet::None; }
-bool isFree(const Model& model)
+bool always(Program&) { return true; }
+
+Loss chooseFromMenus(Soak& soak)
 {
-    return model.isShown && !hasSheet(model) && (!model.isEditing || model.editor.hasFocus);
+    constexpr std::pair<const char*, Loss> kItems[] = {{"New Card", Loss::Nothing}, {"Delete Card", Loss::Nothing},
+        {"New Deck", Loss::Nothing}, {"Delete Deck", Loss::OneDeck}, {"Rename Deck…", Loss::Nothing},
+        {"Save Card", Loss::Nothing}, {"Cancel Edit", Loss::TypedText}, {"Move Card Up", Loss::Nothing},
+        {"Move Card Down", Loss::Nothing}, {"Dark", Loss::Nothing}, {"Light", Loss::Nothing},
+        {"Increase Text Size", Loss::Nothing}, {"Decrease Opacity", Loss::Nothing}};
+    const auto& [title, loss] = soak.random.from(kItems);
+    soak.detail = title;
+    const bool isAsked = soak.program.sheet();
+    soak.program.trigger(title);
+    return isAsked ? Loss::Nothing : loss;
 }
 
-using Effect = void (*)(Model&);
-template <auto Member> void by(Model& model) { (model.*Member)(); }
-constexpr Effect kNone = [](Model&) {};
-constexpr Effect kBegin = by<&Model::beginEditing>;
-constexpr Effect kSave = by<&Model::saveEdit>;
-constexpr Effect kCancel = by<&Model::cancelEdit>;
-constexpr Effect kNext = by<&Model::nextCard>;
-constexpr Effect kPrevious = by<&Model::prevCard>;
-constexpr Effect kMoveUp = by<&Model::moveCardUp>;
-constexpr Effect kMoveDown = by<&Model::moveCardDown>;
-constexpr Effect kHide = by<&Model::hidePanel>;
-constexpr Effect kMoveCaret = [](Model& m) { m.editor.isSelectionKnown = false; };
-constexpr Effect kLarger = [](Model& m) { m.setFontSize(m.fontSize + 1); };
-constexpr Effect kSmaller = [](Model& m) { m.setFontSize(m.fontSize - 1); };
-constexpr Effect kMoreOpaque = [](Model& m) { m.setOpacity(m.opacity + 0.1); };
-constexpr Effect kLessOpaque = [](Model& m) { m.setOpacity(m.opacity - 0.1); };
-constexpr Effect kNewDeck = [](Model& m) { m.createNewDeck("New Deck"); };
-constexpr Effect kAskForName = [](Model& m) { m.ask(Model::Sheet::RenameDeck); };
-constexpr Effect kAskToDelete = [](Model& m) { m.cardCount() > 1 ? m.ask(Model::Sheet::DeleteCard) : void(); };
-
-void chooseFromMenus(Soak& soak)
+Loss pressKey(Soak& soak)
 {
-    struct Row {
-        const char* title;
-        Effect effect;
-        bool isOfCards = true; ///< rests while a sheet waits for its answer
-    };
-    static const std::vector<Row> kRows {{"New Card", by<&Model::addCard>},
-        {"Delete Card", [](Model& m) { m.activeCard() ? kAskToDelete(m) : void(); }}, {"New Deck", kNewDeck},
-        {"Delete Deck", by<&Model::deleteActiveDeck>}, {"Rename Deck…", kAskForName}, {"Save Card", kSave},
-        {"Cancel Edit", kCancel}, {"Move Card Up", kMoveUp}, {"Move Card Down", kMoveDown},
-        {"System", [](Model& m) { m.setTheme("system"); }, false},
-        {"Light", [](Model& m) { m.setTheme("light"); }, false}, {"Dark", [](Model& m) { m.setTheme("dark"); }, false},
-        {"Increase Text Size", kLarger, false}, {"Decrease Text Size", kSmaller, false},
-        {"Increase Opacity", kMoreOpaque, false}, {"Decrease Opacity", kLessOpaque, false}};
-    const auto& row = soak.random.from(kRows);
-    soak.detail = row.title;
-    soak.program.trigger(row.title);
-    if (!row.isOfCards || !hasSheet(soak.model))
-        row.effect(soak.model);
+    constexpr std::pair<int, Qt::KeyboardModifiers> kKeys[] = {{Qt::Key_D, kCommand}, {Qt::Key_E, kCommand},
+        {Qt::Key_Return, kCommand}, {Qt::Key_Period, kCommand}, {Qt::Key_Left, kCommand}, {Qt::Key_Right, kCommand},
+        {Qt::Key_Left, {}}, {Qt::Key_Right, {}}, {Qt::Key_Right, Qt::ShiftModifier}, {Qt::Key_Left, kCommandOption},
+        {Qt::Key_Up, {}}, {Qt::Key_End, {}}, {Qt::Key_Escape, {}}, {Qt::Key_W, kCommandShift},
+        {Qt::Key_S, kCommandShift}, {Qt::Key_N, kCommand}, {Qt::Key_N, kCommandShift}, {Qt::Key_Equal, kCommand},
+        {Qt::Key_Minus, kCommand}, {Qt::Key_BracketLeft, kCommand}, {Qt::Key_Up, kCommandOption},
+        {Qt::Key_Down, kCommandShift}, {Qt::Key_Delete, {}}, {Qt::Key_1, kCommand}, {Qt::Key_3, kCommand},
+        {Qt::Key_Tab, kCommand}};
+    const auto& [key, modifiers] = soak.random.from(kKeys);
+    soak.detail = std::to_string(key) + " with " + std::to_string(modifiers.toInt());
+    soak.program.fake.accessibility.motionReduced = true; // hiding would take real time
+    soak.program.key(key, modifiers);
+    return key == Qt::Key_Period ? Loss::TypedText : Loss::Nothing;
 }
 
-void pressKey(Soak& soak)
+Loss answerSheet(Soak& soak)
 {
-    struct Row {
-        int key;
-        Qt::KeyboardModifiers modifiers;
-        Effect viewing;
-        Effect writing;
-    };
-    static const std::vector<Row> kRows {{Qt::Key_D, kCommand, kAskToDelete, kAskToDelete},
-        {Qt::Key_E, kCommand, kBegin, kSave}, {Qt::Key_Return, kCommand, kBegin, kSave},
-        {Qt::Key_Period, kCommand, kNone, kCancel}, {Qt::Key_Left, kCommand, kPrevious, kMoveCaret},
-        {Qt::Key_Right, kCommand, kNext, kMoveCaret}, {Qt::Key_Left, {}, kPrevious, kMoveCaret},
-        {Qt::Key_Right, {}, kNext, kMoveCaret}, {Qt::Key_Right, Qt::ShiftModifier, kNone, kMoveCaret},
-        {Qt::Key_Left, kCommandOption, kNone, kNone}, {Qt::Key_Up, {}, kNone, kMoveCaret},
-        {Qt::Key_End, {}, kNone, kMoveCaret}, {Qt::Key_Escape, {}, kNone, kSave},
-        {Qt::Key_W, kCommandShift, by<&Model::toggleWordCount>, by<&Model::toggleWordCount>},
-        {Qt::Key_S, kCommandShift, kHide, kHide}, {Qt::Key_N, kCommand, by<&Model::addCard>, by<&Model::addCard>},
-        {Qt::Key_N, kCommandShift, kNewDeck, kNewDeck}, {Qt::Key_Equal, kCommand, kLarger, kLarger},
-        {Qt::Key_Minus, kCommand, kSmaller, kSmaller}, {Qt::Key_BracketRight, kCommand, kMoreOpaque, kMoreOpaque},
-        {Qt::Key_BracketLeft, kCommand, kLessOpaque, kLessOpaque}, {Qt::Key_Up, kCommandOption, kMoveUp, kMoveUp},
-        {Qt::Key_Down, kCommandShift, kMoveDown, kMoveDown},
-        {Qt::Key_1, kCommand, [](Model& m) { m.switchToDeck(0); }, kNone},
-        {Qt::Key_3, kCommand, [](Model& m) { m.switchToDeck(2); }, kNone}};
-    const auto& row = soak.random.from(kRows);
-    soak.detail = std::to_string(row.key) + " with " + std::to_string(row.modifiers.toInt());
-    if (row.writing == kHide)
-        soak.program.fake.accessibility.motionReduced = true; // or it goes in real time
-    soak.program.key(row.key, row.modifiers);
-    (soak.model.isEditing ? row.writing : row.viewing)(soak.model);
-}
-
-void toggleTimer(Soak& soak)
-{
-    soak.program.button(soak.program.isTimerRunning() ? "Pause timer" : "Start timer")->click();
-    soak.model.toggleTimer();
-}
-
-void answerSheet(Soak& soak)
-{
+    auto& sheet = *soak.program.sheet();
+    const auto field = sheet.findChild<QLineEdit*>();
     const bool isYes = !soak.random.oneIn(3);
-    const bool isDelete = std::exchange(soak.model.sheet, Model::Sheet::None) == Model::Sheet::DeleteCard;
-    constexpr std::array kNames {"Talk", "", " ", "\u00a0Q4 \t", "/\\\"日本😀"};
-    const std::string name = soak.random.from(kNames);
-    soak.detail = isYes ? name : "Cancel";
-    if (!isDelete)
-        soak.program.sheet()->findChild<QLineEdit*>()->setText(toQString(name));
-    soak.program.answer(!isYes ? "Cancel" : isDelete ? "Delete" : "Rename");
-    if (isYes)
-        isDelete ? soak.model.deleteCard() : soak.model.renameDeck(name);
+    if (field)
+        field->setText(toQString(soak.detail = soak.random.oddText(3)));
+    Program::click(sheet, !isYes ? "Cancel" : field ? "Rename" : "Delete");
+    return isYes && !field ? Loss::OneCard : Loss::Nothing;
 }
 
-void pressHotKey(Soak& soak)
+Loss pressHotKey(Soak& soak)
 {
-    soak.program.fake.accessibility.motionReduced = true; // or it goes in real time
+    soak.program.fake.accessibility.motionReduced = true; // hiding would take real time
     soak.program.fake.hotKeys.press();
-    soak.model.isShown ? soak.model.hidePanel() : soak.model.showPanel();
+    return Loss::Nothing;
 }
 
-// The surroundings
+Loss type(Soak& soak)
+{
+    soak.detail = soak.random.oddText(3);
+    for (const auto c : toQString(soak.detail)) {
+        if (c.isPrint() || c == u'\n' || c == u'\t') {
+            QKeyEvent press(QEvent::KeyPress, c == u'\n' ? Qt::Key_Return : 0, Qt::NoModifier, c);
+            QCoreApplication::sendEvent(soak.program.editor(), &press);
+        }
+    }
+    return Loss::Nothing;
+}
 
-void letTimePass(Soak& soak)
+Loss select(Soak& soak)
+{
+    auto& editor = *soak.program.editor();
+    const auto size = static_cast<int>(editor.text().size());
+    auto cursor = editor.textCursor();
+    cursor.setPosition(soak.random.below(size + 1));
+    cursor.setPosition(soak.random.below(size + 1), QTextCursor::KeepAnchor);
+    editor.setTextCursor(cursor);
+    return Loss::Nothing;
+}
+
+Loss undoOrRedo(Soak& soak)
+{
+    soak.detail = soak.random.oneIn(2) ? "Undo" : "Redo";
+    const bool isOfText = soak.program.store().isEditing();
+    soak.program.trigger(soak.detail.c_str());
+    return isOfText ? Loss::Nothing : Loss::Anything;
+}
+
+/// A redo, where the undo allows one, restores the state before the undo.
+Loss undoAndRedo(Soak& soak)
+{
+    auto& undoManager = soak.program.undoManager();
+    if (undoManager.canRedo()) // by an earlier undo
+        return Loss::Nothing;
+    const auto before = contentOf(soak.program.store());
+    undoManager.undo();
+    if (!undoManager.canRedo())
+        return Loss::Anything;
+    undoManager.redo();
+    if (contentOf(soak.program.store()) != before)
+        soak.complaint = "undo, then redo gives the same state";
+    return Loss::Anything;
+}
+
+Loss letTimePass(Soak& soak)
 {
     const auto ticks = soak.random.from(std::array {1, 3, 11, 16, 17, 64, 128, 200, 64 * 61, 64 * 1500}); // of 1/64 s
     soak.detail = std::to_string(ticks) + "/64 s";
-    for (auto fake : {&soak.program.fake, &soak.model.fake})
-        fake->mainQueue.advance(Seconds(ticks / 64.0));
+    soak.program.fake.mainQueue.advance(Seconds(ticks / 64.0));
+    return Loss::Nothing;
 }
 
-void changeSurroundings(Soak& soak)
+Loss changePlatform(Soak& soak)
 {
-    const auto jump = std::chrono::minutes(soak.random.below(121) - 60);
-    const bool isFull = soak.random.oneIn(4);
-    for (auto fake : {&soak.program.fake, &soak.model.fake}) {
-        fake->clock.wallClock += jump;
-        fake->fileSystem.writeError = isFull ? std::optional<std::string>("No space left") : std::nullopt;
+    auto& fake = soak.program.fake;
+    fake.clock.wallClock += std::chrono::minutes(soak.random.below(121) - 60);
+    fake.fileSystem.writeError = soak.random.oneIn(4) ? std::optional<std::string>("No space left") : std::nullopt;
+    fake.accessibility.motionReduced = !soak.random.oneIn(3);
+    return Loss::Nothing;
+}
+
+/// What is saved is what a later start, or another load, finds.
+Loss saveAndLoad(Soak& soak)
+{
+    auto& program = soak.program;
+    program.fake.fileSystem.writeError.reset();
+    program.store().flushToDisk();
+    const bool isEditing = program.store().isEditing(); // the end of the program keeps the edit
+    const auto state = [&] {
+        return contentOf(program.store()) + std::to_string(program.store().activeDeckIndex()) + ' '
+            + std::to_string(program.store().activeCardIndex());
+    };
+    const auto before = state();
+    if (soak.random.oneIn(4)) {
+        soak.detail = "restart";
+        program.end();
+        program.start();
+    } else {
+        program.store().loadFromDisk();
     }
-    soak.program.fake.accessibility.motionReduced = !soak.random.oneIn(3);
-}
-
-/// The file as it is, or as another program may have left it.
-void loadFile(Soak& soak)
-{
-    auto& [program, model, random, detail] = soak;
-    if (model.saved && random.oneIn(2)) {
-        auto& state = *model.saved;
-        state.activeCardIndex = random.from(std::array<std::int64_t, 5> {kMost, kLeast, -3, 1, 2});
-        if (random.oneIn(4))
-            state.activeDeckId.reset();
-        if (random.oneIn(4) && !state.decks.empty())
-            state.decks.back().cards.clear();
-        if (random.oneIn(16))
-            state.decks.clear();
-        program.fake.fileSystem.files[program.store().stateURL().string()] = std::get<std::string>(
-            encodeState({state.decks, state.activeDeckId, state.activeCardIndex, state.opacity, state.fontSize}));
-        detail = "changed";
-    }
-    program.store().loadFromDisk();
-    model.load();
-}
-
-void restart(Soak& soak)
-{
-    soak.program.end();
-    soak.model.saveEdit();
-    soak.model.flush();
-    soak.program.start();
-    soak.model.start();
+    if (!isEditing && state() != before)
+        soak.complaint = "what was saved is loaded again";
+    return Loss::Nothing;
 }
 
 // Straight to the store, with odd arguments
 
-template <auto InStore, auto InModel> void directly(Soak& soak)
+template <auto Member, Loss Allowed> Loss directly(Soak& soak)
 {
-    (soak.program.store().*InStore)();
-    (soak.model.*InModel)();
+    (soak.program.store().*Member)();
+    return Allowed;
 }
 
-template <auto InStore, auto InModel> void withOddText(Soak& soak)
+template <auto Member> Loss withOddText(Soak& soak)
 {
     soak.detail = soak.random.oddText(6);
-    (soak.program.store().*InStore)(soak.detail);
-    (soak.model.*InModel)(soak.detail);
+    (soak.program.store().*Member)(soak.detail);
+    return Loss::Nothing;
 }
 
-void switchDeck(Soak& soak)
-{
-    const auto& model = soak.model;
-    const auto index = soak.random.from(std::array<std::int64_t, 7> {
-        kLeast, kMost, -1, 0, model.deckIndex, std::ssize(model.decks), soak.random.below(6)});
-    soak.detail = std::to_string(index);
-    soak.program.store().switchToDeck(index);
-    soak.model.switchToDeck(index);
-}
-
-template <auto InStore, auto InModel> void withOddNumber(Soak& soak)
+Loss setNumbers(Soak& soak)
 {
     const auto number = soak.random.from(std::array {-1e300, 0., 0.39, 1.01, 13.9, 17.5, 28.1, HUGE_VAL});
-    (soak.program.store().*InStore)(number);
-    (soak.model.*InModel)(number);
+    soak.program.store().setFontSize(number);
+    soak.program.store().setOpacity(number);
+    return Loss::Nothing;
 }
 
-/// By somebody who does not care whether a card is being edited.
-void undoOften(Soak& soak)
+Loss switchDeck(Soak& soak)
 {
-    const bool isUndo = soak.random.oneIn(2);
-    auto& manager = *soak.program.panel().undoManager();
-    for (int i = soak.random.oneIn(10) ? 40 : 1; i > 0; --i) {
-        isUndo ? manager.undo() : manager.redo();
-        isUndo ? soak.model.undo() : soak.model.redo();
-    }
+    const auto index = soak.random.from(
+        std::array<std::int64_t, 6> {kLeast, kMost, -1, 0, soak.program.store().deckCount(), soak.random.below(6)});
+    soak.detail = std::to_string(index);
+    soak.program.store().switchToDeck(index);
+    return Loss::Nothing;
 }
 
 } // namespace
@@ -236,33 +204,28 @@ std::string Random::oddText(int mostPieces)
     return oneIn(50) ? text + '\0' : text;
 }
 
-std::vector<Operation> operations()
+const std::vector<Operation>& operations()
 {
-    constexpr auto deleteDeck = directly<&CardStore::deleteActiveDeck, &Model::deleteActiveDeck>;
-    constexpr auto reset = directly<&CardStore::resetAllData, &Model::resetAllData>;
-    std::vector<Operation> all {{"choose from the menus", 25, always, chooseFromMenus},
-        {"press a key", 85, isFree, pressKey}, {"start or pause the timer", 6, isFree, toggleTimer},
-        {"answer the sheet", 60, hasSheet, answerSheet}, {"press the hot key", 4, always, pressHotKey},
-        {"show the hidden panel", 60, [](const Model& m) { return !m.isShown; }, pressHotKey},
-        {"let time pass", 60, always, letTimePass}, {"change the surroundings", 6, always, changeSurroundings},
-        {"load the file", 4, always, loadFile}, {"restart", 1, always, restart},
-        {"rename the deck", 6, always, withOddText<&CardStore::renameDeck, &Model::renameDeck>},
-        {"create a deck", 4, always, withOddText<&CardStore::createNewDeck, &Model::createNewDeck>},
-        {"set the edit's text", 6, always, withOddText<&CardStore::setEditText, &Model::setEditText>},
-        {"switch to a deck", 8, always, switchDeck},
-        {"set the text size", 3, always, withOddNumber<&CardStore::setFontSize, &Model::setFontSize>},
-        {"set the opacity", 3, always, withOddNumber<&CardStore::setOpacity, &Model::setOpacity>},
-        {"delete the card", 8, always, directly<&CardStore::deleteCard, &Model::deleteCard>},
-        {"move the card up", 4, always, directly<&CardStore::moveCardUp, &Model::moveCardUp>},
-        {"move the card down", 4, always, directly<&CardStore::moveCardDown, &Model::moveCardDown>},
-        {"dismiss the error", 3, always, directly<&CardStore::dismissError, &Model::dismissError>},
-        {"flush", 4, always, directly<&CardStore::flushToDisk, &Model::flush>},
-        {"delete the deck", 2, always, deleteDeck},
-        {"delete one of many decks", 60, [](const Model& m) { return m.decks.size() > 12; }, deleteDeck},
-        {"undo or redo", 8, always, undoOften}, {"reset all data", 1, always, reset},
-        {"reset what has grown", 60, [](const Model& m) { return m.undoSteps.size() > 200; }, reset}};
-    const auto writing = writingOperations();
-    all.insert(all.end(), writing.begin(), writing.end());
+    constexpr auto isFree = [](Program& p) { return p.isFree() && (!p.editor() || p.isWriting()); };
+    constexpr auto isWriting = [](Program& p) { return p.isWriting(); };
+    constexpr auto isIdle = [](Program& p) { return p.isFree() && !p.store().isEditing(); };
+    constexpr auto deleteDeck = directly<&CardStore::deleteActiveDeck, Loss::OneDeck>;
+    constexpr auto reset = directly<&CardStore::resetAllData, Loss::Anything>;
+    static const std::vector<Operation> all {{"choose from the menus", 25, always, chooseFromMenus},
+        {"press a key", 85, isFree, pressKey},
+        {"answer the sheet", 60, [](Program& p) { return p.sheet() != nullptr; }, answerSheet},
+        {"press the hot key", 4, always, pressHotKey},
+        {"show the hidden panel", 60, [](Program& p) { return !p.panel().isVisible(); }, pressHotKey},
+        {"type", 70, isWriting, type}, {"select", 25, isWriting, select}, {"undo or redo", 24, always, undoOrRedo},
+        {"undo and redo", 12, isIdle, undoAndRedo}, {"let time pass", 60, always, letTimePass},
+        {"change the platform", 6, always, changePlatform}, {"save and load", 6, always, saveAndLoad},
+        {"rename the deck", 6, always, withOddText<&CardStore::renameDeck>},
+        {"create a deck", 4, always, withOddText<&CardStore::createNewDeck>},
+        {"switch to a deck", 8, always, switchDeck}, {"set size and opacity", 4, always, setNumbers},
+        {"delete the card", 8, always, directly<&CardStore::deleteCard, Loss::OneCard>},
+        {"delete one of many decks", 60, [](Program& p) { return p.store().deckCount() > 12; }, deleteDeck},
+        {"reset all data", 1, always, reset},
+        {"reset many texts", 60, [](Program& p) { return Texts(p.store()).cards.size() > 60; }, reset}};
     return all;
 }
 

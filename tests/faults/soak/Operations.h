@@ -1,7 +1,6 @@
 #pragma once
 
-#include "Model.h"
-#include "Program.h"
+#include "Rules.h"
 
 #include <cstdint>
 #include <random>
@@ -24,30 +23,26 @@ public:
     {
         return list[static_cast<std::size_t>(below(static_cast<int>(std::size(list))))];
     }
-    /// Good at breaking things.
     std::string oddText(int mostPieces);
 
 private:
     std::mt19937_64 m_engine;
 };
 
-/// Both sides of the comparison, and chance.
 struct Soak {
     Program program = {};
-    Model model = {};
     Random random;
-    std::string detail = {}; ///< what chance has chosen in this step
+    std::string detail = {}; ///< what this step has chosen, for the report
+    std::string complaint = {}; ///< the rule that an operation found broken
 };
 
-/// Something that happens to the program, and to the model by the rules.
 struct Operation {
     const char* name;
-    int weight; ///< how often, among all that can happen now
-    bool (*canHappen)(const Model&);
-    void (*perform)(Soak&);
+    int weight; ///< how often it is chosen among all that are possible now
+    bool (*isPossible)(Program&);
+    Loss (*perform)(Soak&);
 };
 
-[[nodiscard]] std::vector<Operation> operations(); ///< all of them
-[[nodiscard]] std::vector<Operation> writingOperations(); ///< in the editor, undo and redo
+[[nodiscard]] const std::vector<Operation>& operations();
 
 } // namespace cuebright::soak

@@ -1,14 +1,11 @@
 #include "Program.h"
 
-#include "store/CardStore.h"
 #include "store/PreferenceKeys.h"
 
+#include <QAbstractButton>
 #include <QApplication>
-#include <QDialog>
 #include <QTest>
 #include <QWindow>
-
-#include <algorithm>
 
 namespace cuebright::soak {
 
@@ -41,25 +38,17 @@ MarkdownEditor* Program::editor()
     return text && text->isVisibleTo(&panel()) ? dynamic_cast<MarkdownEditor*>(text) : nullptr;
 }
 
-QAbstractButton* Program::button(const char* accessibleNameStart)
+QDialog* Program::sheet()
 {
-    for (const auto candidate : panel().findChildren<QAbstractButton*>()) {
-        if (candidate->isVisibleTo(&panel())
-            && candidate->accessibleName().startsWith(QLatin1String(accessibleNameStart)))
-            return candidate;
+    for (const auto dialog : panel().findChildren<QDialog*>()) {
+        if (dialog->isVisible())
+            return dialog;
     }
     return nullptr;
 }
 
-QDialog* Program::sheet()
-{
-    const auto sheets = panel().findChildren<QDialog*>();
-    const auto open = std::find_if(sheets.begin(), sheets.end(), [](auto sheet) { return sheet->isVisible(); });
-    return open == sheets.end() ? nullptr : *open;
-}
-
-/// Qt's offscreen platform takes a window that comes back for the one with the keyboard, and then does not give it any:
-/// another one must have had it in between.
+/// Qt's offscreen platform takes a window that is shown again for the active one and then does not activate it, unless
+/// another one was active in between.
 void Program::activate()
 {
     if (panel().isActiveWindow())
@@ -71,8 +60,8 @@ void Program::activate()
         QCoreApplication::processEvents();
     }
     if (!panel().isActiveWindow())
-        qFatal("the panel gets no keyboard");
-    settle(); // the menus follow the keyboard
+        qFatal("the panel cannot be activated");
+    settle(); // the menus follow the focus
 }
 
 void Program::key(int key, Qt::KeyboardModifiers modifiers)
@@ -81,30 +70,25 @@ void Program::key(int key, Qt::KeyboardModifiers modifiers)
     QTest::keyClick(panel().windowHandle(), static_cast<Qt::Key>(key), modifiers);
 }
 
-void Program::type(const QString& text)
-{
-    QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, text);
-    QApplication::sendEvent(editor(), &press);
-}
-
 void Program::trigger(const char* title)
 {
-    if (panel().isVisible() && !sheet())
+    if (isFree())
         activate();
     for (const auto action : panel().actions()) {
         if (action->text().startsWith(QString::fromUtf8(title)))
             return action->trigger();
     }
-    qFatal("no such item in the menus");
+    qFatal("no menu item %s", title);
 }
 
-void Program::answer(const char* buttonText)
+void Program::click(QWidget& window, const char* name)
 {
-    for (const auto candidate : sheet()->findChildren<QAbstractButton*>()) {
-        if (candidate->text() == QLatin1String(buttonText))
-            return candidate->click();
+    for (const auto button : window.findChildren<QAbstractButton*>()) {
+        const QLatin1String wanted(name);
+        if (button->isVisibleTo(&window) && (button->text() == wanted || button->accessibleName() == wanted))
+            return button->click();
     }
-    qFatal("no such button on the sheet");
+    qFatal("no button %s", name);
 }
 
 } // namespace cuebright::soak

@@ -96,14 +96,6 @@ TEST_F(LinuxAccessibilityTest, ASilentPortalIsWaitedForThreeSeconds)
     expect(false, false, 1);
 }
 
-TEST_F(LinuxAccessibilityTest, WithoutABusNobodyHasAskedForAnything)
-{
-    accessibility.start(QDBusConnection(QStringLiteral("no such bus")));
-    expect(false, false, 1);
-    EXPECT_TRUE(reportedDark.empty());
-    EXPECT_EQ(queue.pendingCount(), 0U);
-}
-
 TEST_F(LinuxAccessibilityTest, APortalThatAppearsLateIsAskedAndSoIsTheOneAfterIt)
 {
     startAndSettle();

@@ -21,7 +21,7 @@ protected:
     TerminationSignalsTest() { pthread_sigmask(SIG_BLOCK, nullptr, &m_oldMask); }
     ~TerminationSignalsTest() override
     {
-        // What is still pending must not end the test program.
+        // Pending signals must not end the test program.
         sigset_t blocked;
         pthread_sigmask(SIG_BLOCK, nullptr, &blocked);
         const timespec atOnce {};
@@ -31,7 +31,7 @@ protected:
         std::signal(SIGHUP, SIG_DFL);
     }
 
-    /// Runs a program that prints which signals it was born to block and to ignore; whether they are the usual ones.
+    /// Whether a child process starts with no signal blocked or ignored.
     static testing::AssertionResult isBornWithTheUsualSignals(const std::function<void(QProcess&)>& start)
     {
         const TemporaryFolder folder;

@@ -17,7 +17,7 @@ namespace {
 class QtPreferencesTest : public testing::Test {
 protected:
     QtPreferences open() { return QtPreferences(queue, path); }
-    /// A file of its own for each content: QSettings takes one of the same name, size and time for the same.
+    /// A new file each time: QSettings caches files of the same name, size and time.
     QtPreferences openWith(const std::string& content)
     {
         path = folder.file("config" + std::to_string(++fileCount) + "/Cuebright.conf");
@@ -25,7 +25,7 @@ protected:
         std::ofstream(path, std::ios::binary) << content;
         return open();
     }
-    /// The file's, once it is written.
+    /// Of the file, after pending writes.
     std::string content()
     {
         queue.runPosted();
@@ -100,16 +100,6 @@ TEST_F(QtPreferencesTest, OnlyFiniteMembersOfAGroupCountAndSettingItReplacesItWh
     EXPECT_EQ(content(), "[frame]\nx=3\n\n[frames]\nx=7\n");
 }
 
-TEST_F(QtPreferencesTest, RemovingTakesTheValueOfWhateverKind)
-{
-    auto preferences = openWith("a=1\nb=2\n[frame]\nx=1\n");
-    for (const auto* const key : {"a", "frame", "missing"})
-        preferences.remove(key);
-    EXPECT_FALSE(preferences.text("a"));
-    EXPECT_TRUE(preferences.numbers("frame").empty());
-    EXPECT_EQ(content(), "[General]\nb=2\n");
-}
-
 TEST_F(QtPreferencesTest, ChangesHoldAtOnceAndReachTheFileTogetherAtTheEndOfTheTurn)
 {
     auto preferences = open();
@@ -119,25 +109,6 @@ TEST_F(QtPreferencesTest, ChangesHoldAtOnceAndReachTheFileTogetherAtTheEndOfTheT
     EXPECT_EQ(preferences.number("size"), 19.0);
     EXPECT_FALSE(std::filesystem::exists(path));
     EXPECT_EQ(content(), "[General]\nsize=19\ntheme=dark\n");
-}
-
-TEST_F(QtPreferencesTest, AnUnchangedValueIsNotWritten)
-{
-    auto preferences = openWith("[General]\na=1\n# by hand\n");
-    preferences.setInteger("a", 2);
-    preferences.setInteger("a", 1);
-    EXPECT_EQ(content(), "[General]\na=1\n# by hand\n");
-}
-
-TEST_F(QtPreferencesTest, NonsenseInTheFileBreaksNothing)
-{
-    for (const auto nonsense : {"\0\x1\xff\xfe[[[=\n=", "[General\na=\"b\nc=\\x", "a=1\n[%%%]\n\\=2", "a=x\\xd800y"}) {
-        openWith(nonsense).setInteger("key", 2);
-        EXPECT_EQ(open().integer("key"), 2) << nonsense;
-    }
-    std::filesystem::remove(path);
-    std::filesystem::create_directory(path);
-    EXPECT_FALSE(open().text("key")) << "a folder in the file's place";
 }
 
 TEST_F(QtPreferencesTest, AFullDiskCostsOnlyTheChangeAndTheNextOneMakesUpForIt)
@@ -153,19 +124,6 @@ TEST_F(QtPreferencesTest, AFullDiskCostsOnlyTheChangeAndTheNextOneMakesUpForIt)
     }
     preferences.setText("other", "x");
     EXPECT_EQ(content(), "[General]\nother=x\ntheme=light\n");
-}
-
-TEST_F(QtPreferencesTest, WhatAKilledRunLeftBehindIsNotInTheWayAndALinkToTheFileStaysALink)
-{
-    openWith("[General]\na=1\n");
-    const auto real = folder.file("real.conf");
-    std::filesystem::rename(path, real);
-    std::filesystem::create_symlink(real, path);
-    for (const auto* const scratch : {"real.conf.new", "real.conf.new1"})
-        folder.write(scratch, "[General]\na=");
-    open().setInteger("a", 2);
-    EXPECT_TRUE(std::filesystem::is_symlink(path));
-    EXPECT_EQ(readFile(real), "[General]\na=2\n");
 }
 
 } // namespace cuebright::test

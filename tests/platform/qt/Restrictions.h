@@ -8,7 +8,7 @@
 
 namespace cuebright::test {
 
-/// Does the work as on a disk that has room for so many bytes of each file.
+/// Does the work with a file size limit, as on a full disk.
 template <typename Work> void withRoomFor(rlim_t bytes, Work work)
 {
     rlimit usual {};
@@ -21,7 +21,7 @@ template <typename Work> void withRoomFor(rlim_t bytes, Work work)
     std::signal(SIGXFSZ, handler);
 }
 
-/// Does the work as nobody: the administrator may read and write everything.
+/// Does the work as user nobody: root ignores permissions.
 template <typename Work> void asOrdinaryUser(Work work)
 {
     constexpr uid_t kNobody = 65534;

@@ -48,7 +48,7 @@ protected:
         editor.setTextCursor(cursor);
     }
 
-    /// The text, which must be the store's as well, and what is selected.
+    /// The text with its selection; checks that the store has the same text.
     std::string shown()
     {
         auto text = editor.text();

@@ -18,7 +18,7 @@ constexpr auto kControlShift = Qt::ControlModifier | Qt::ShiftModifier;
 
 class MarkdownEditorTest : public EditorFixture {
 protected:
-    /// A window in which the focus can be elsewhere.
+    /// An editor beside another focusable widget.
     QWidget window;
     MarkdownEditor inside {context, &window};
     QWidget other {&window};
@@ -80,7 +80,7 @@ TEST_F(MarkdownEditorTest, OpeningAndStylingWriteNothing)
     EXPECT_EQ(writes, 1);
 }
 
-TEST_F(MarkdownEditorTest, TheKeyboardCanLeave)
+TEST_F(MarkdownEditorTest, FocusLeavesByKeyboard)
 {
     window.show();
     const std::tuple<Qt::Key, Qt::KeyboardModifiers, QWidget*> tests[] = {{Qt::Key_Tab, Qt::NoModifier, &inside},
@@ -111,25 +111,6 @@ TEST_F(MarkdownEditorTest, ChangesFromOutsideShowOnceTheFocusIsElsewhere)
     EXPECT_EQ(inside.selectedRange(), (TextRange {1, 5}));
 }
 
-TEST_F(MarkdownEditorTest, StyleFollowsThePreferencesLiveAndTheCaretHasTheColourOfTheText)
-{
-    open("   ");
-    editor.resize(200, 100);
-    editor.setFocus();
-    activate(editor);
-    select(0, 0);
-    const int before = editor.document()->defaultFont().pixelSize();
-    store.increaseFontSize();
-    store.setTheme("dark");
-    editor.refreshStyle();
-    const int size = editor.document()->defaultFont().pixelSize();
-    EXPECT_EQ(size, static_cast<int>(store.fontSize()));
-    EXPECT_GT(size, before);
-    const auto image = editor.grab().toImage();
-    EXPECT_EQ(image.pixelColor(190, 90).name(), toQColor(context.colors().warmBg()).name());
-    EXPECT_EQ(image.pixelColor(0, 5).name(), toQColor(context.colors().text()).name());
-}
-
 TEST_F(MarkdownEditorTest, OverlongWordsMayBreakAnywhere)
 {
     const auto word = QString(3000, u'a');
@@ -150,21 +131,6 @@ TEST_F(MarkdownEditorTest, OverlongWordsMayBreakAnywhere)
         EXPECT_EQ(editor.wordWrapMode() == QTextOption::WrapAnywhere, wrapsAnywhere) << text.left(20).toStdString();
     }
     EXPECT_EQ(editor.text().size(), word.size() + 2);
-}
-
-TEST_F(MarkdownEditorTest, OverlongLinesKeepToOneFont)
-{
-    const auto keepsToOneFont = [this] {
-        return (editor.document()->defaultFont().styleStrategy() & QFont::NoFontMerging) != 0;
-    };
-    openAt(u"|"_s);
-    paste(QString(11'000, u'a'));
-    EXPECT_TRUE(keepsToOneFont());
-    store.increaseFontSize();
-    editor.refreshStyle();
-    EXPECT_TRUE(keepsToOneFont());
-    open(std::string(9'000, 'a') + "\n" + std::string(9'000, 'a'));
-    EXPECT_FALSE(keepsToOneFont());
 }
 
 } // namespace cuebright::test

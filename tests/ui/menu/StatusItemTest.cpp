@@ -10,7 +10,7 @@ class StatusItemTest : public PanelFixture {
 protected:
     StatusItemTest() { fake.accessibility.motionReduced = true; }
 
-    /// The titles, with a star before what is checked; separators have none.
+    /// The titles, with a star before checked ones; separators are empty.
     std::string shown()
     {
         std::string text;
@@ -45,7 +45,7 @@ TEST_F(StatusItemTest, TheMenuFollowsPanelAndDecksWithoutBeingOpened)
 
 TEST(ExportedMenu, ShowsTitlesAsTheyAre)
 {
-    // What the toolkit sends for it has "_" for the first "&", and that is read as an access key.
+    // Qt replaces the first "&" by "_", which the tray host reads as a mnemonic.
     EXPECT_EQ(exportedMenuText(u"Q3_review__x"_s), u"Q3__review____x"_s);
     EXPECT_EQ(exportedMenuText(u"Q & A & more"_s), u"Q && A & more"_s);
     EXPECT_EQ(exportedMenuText(u"Q&"_s), u"Q&&"_s);

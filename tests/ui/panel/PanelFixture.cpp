@@ -50,7 +50,7 @@ void PanelFixture::press(QWidget& root, QAnyStringView name)
         return;
     const auto actions = QAccessible::queryAccessibleInterface(widget)->actionInterface();
     ASSERT_TRUE(actions && actions->actionNames().contains(QAccessibleActionInterface::pressAction()));
-    // The action itself shows the press for a tenth of a second first.
+    // The accessible action would animate the press for 0.1 s.
     static_cast<QAbstractButton*>(widget)->click();
 }
 

@@ -15,7 +15,7 @@ namespace cuebright::test {
 
 using namespace Qt::StringLiterals;
 
-/// A store with the sample decks on fake surroundings, for views to show.
+/// A store with the sample decks on a fake platform.
 class PanelFixture : public testing::Test {
 protected:
     FakePlatform fake;
@@ -25,16 +25,16 @@ protected:
 
     /// Replaces all decks by one with these cards.
     void setCards(const std::vector<std::string>& contents, std::int64_t activeCard = 0);
-    /// Lets the views take in what has changed.
+    /// Runs posted work, so that the views show the latest state.
     void refresh() { fake.mainQueue.runPosted(); }
 
-    /// The visible widget under `root` that a screen reader calls `name`; fails the test where there is none.
+    /// The visible widget under `root` with that accessible name; fails the test if there is none.
     static QWidget* find(QWidget& root, QAnyStringView name);
     static bool isShown(QWidget& root, QAnyStringView name);
     /// Presses a button as a screen reader does.
     static void press(QWidget& root, QAnyStringView name);
 
-    /// Brings a window to the screen and gives it the keyboard.
+    /// Shows and activates a window.
     static void activate(QWidget& window);
     static QMenu* openMenu();
     /// The items of a menu, separated by "|".

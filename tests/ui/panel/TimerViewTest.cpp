@@ -11,21 +11,6 @@
 
 namespace cuebright::test {
 
-namespace {
-
-/// Counts how often a widget paints itself.
-class PaintCounter final : public QObject {
-public:
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        count += event->type() == QEvent::Paint;
-        return false;
-    }
-    int count = 0;
-};
-
-} // namespace
-
 class TimerViewTest : public PanelFixture {
 protected:
     TimerManager timer {fake.clock, fake.mainQueue};
@@ -78,18 +63,6 @@ TEST_F(TimerViewTest, TheMenuOpensByMouseAndKeyboardAndSetsTheTimer)
     openMenu()->close();
 }
 
-TEST_F(TimerViewTest, ColoursTellHowUrgentItIs)
-{
-    using enum TimerManager::Urgency;
-    const std::tuple<TimerManager::Urgency, ColorRole, ColorRole> cases[] = {
-        {Normal, ColorRole::Muted, ColorRole::Muted}, {Warning, ColorRole::Orange, ColorRole::Muted},
-        {Critical, ColorRole::Red, ColorRole::Red}, {Expired, ColorRole::Red, ColorRole::Red}};
-    for (const auto& [urgency, time, button] : cases) {
-        EXPECT_EQ(timerColor(urgency), time);
-        EXPECT_EQ(playButtonInk(urgency), button);
-    }
-}
-
 TEST_F(TimerViewTest, ACountdownInItsLastMinuteTurnsRed)
 {
     timer.setCountdown(5);
@@ -108,21 +81,6 @@ TEST_F(TimerViewTest, ACountdownInItsLastMinuteTurnsRed)
     EXPECT_EQ(redPixels(), 0);
     fake.mainQueue.advance(Seconds(1));
     EXPECT_GT(redPixels(), 20);
-}
-
-TEST_F(TimerViewTest, ItPaintsOnlyWhenWhatItShowsChanges)
-{
-    processEvents();
-    PaintCounter paints;
-    find(panel, "Timer: 00:00")->installEventFilter(&paints);
-    timer.reset();
-    timer.setStopwatch();
-    refresh();
-    processEvents();
-    EXPECT_EQ(paints.count, 0);
-    timer.start();
-    fake.mainQueue.advance(Seconds(1));
-    EXPECT_TRUE(waitUntil([&] { return paints.count > 0; }));
 }
 
 } // namespace cuebright::test

@@ -18,7 +18,7 @@ protected:
     std::unique_ptr<UiContext> contextShown;
     std::unique_ptr<AppearanceTab> tab;
 
-    /// With what the preferences hold at the start.
+    /// With the current preferences.
     void open()
     {
         tab.reset();
@@ -39,25 +39,6 @@ protected:
             EXPECT_TRUE(isShown(*tab, text)) << text;
     }
 };
-
-TEST_F(AppearanceTabTest, ValuesAreShownAsWholeNumbersAndNotWritten)
-{
-    const std::tuple<double, std::int64_t, double, std::vector<const char*>> cases[] = {
-        {17, 140, 0.85, {"17", "140 wpm", "85%"}},
-        {20.5, 133, 0.7000000000000001, {"21", "133 wpm", "70%"}},
-        {2, 1, 0.7999999999999999, {"2", "1 wpm", "80%"}},
-        {400, 9999, 3, {"400", "9999 wpm", "300%"}},
-    };
-    for (const auto& [fontSize, pace, opacity, texts] : cases) {
-        fake.preferences.setNumber(preferenceKeys::kFontSize, fontSize);
-        fake.preferences.setInteger(preferenceKeys::kSpeakingPace, pace);
-        fake.preferences.setNumber(preferenceKeys::kOpacity, opacity);
-        open();
-        expectShown(texts);
-        refresh();
-        EXPECT_TRUE(fake.preferences.writes.empty());
-    }
-}
 
 TEST_F(AppearanceTabTest, SlidersChangeTheirOwnValueAtOnceAndFollowWhatOthersChange)
 {
@@ -82,6 +63,20 @@ TEST_F(AppearanceTabTest, SlidersChangeTheirOwnValueAtOnceAndFollowWhatOthersCha
     EXPECT_EQ(slider("Opacity").value(), 50);
     expectShown({"20", "90 wpm", "50%"});
     EXPECT_EQ(fake.preferences.writes, writes);
+}
+
+TEST_F(AppearanceTabTest, AValueOffTheScaleIsShownAsItIsAndWrittenOnlyWhenTheSliderIsMoved)
+{
+    fake.preferences.setInteger(preferenceKeys::kSpeakingPace, 9999);
+    fake.preferences.setNumber(preferenceKeys::kFontSize, 20.5);
+    open();
+    expectShown({"21", "9999 wpm"});
+    refresh();
+    EXPECT_TRUE(fake.preferences.writes.empty());
+    QTest::keyClick(&slider("Speaking Pace"), Qt::Key_End); // where the slider is already
+    EXPECT_EQ(storeShown->speakingPace(), 250);
+    slider("Speaking Pace").setSliderPosition(147); // as by dragging
+    EXPECT_EQ(storeShown->speakingPace(), 150);
 }
 
 TEST_F(AppearanceTabTest, AnUnknownThemeShowsAsSystemAndStaysUntilAnotherIsPicked)

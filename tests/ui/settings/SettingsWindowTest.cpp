@@ -4,8 +4,6 @@
 #include "ui/panel/PanelFixture.h"
 
 #include <QApplication>
-#include <QLabel>
-#include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTabBar>
@@ -48,17 +46,6 @@ TEST_F(SettingsWindowTest, ItFloatsBesideThePanelWithoutBeingItsChild)
     EXPECT_EQ(fake.windowSystem.calls, std::vector<std::string> {"keep above"});
 }
 
-TEST_F(SettingsWindowTest, WithAMenuBarItIsOnTheScreenFromTheFirstTimeOn)
-{
-    window.addMenuBar().addMenu(u"File"_s);
-    const auto screen = window.screen()->availableGeometry();
-    panel.setGeometry(20, screen.bottom() - 360, 200, 360);
-    window.showBeside(panel);
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-    EXPECT_GT(window.height(), 480) << "below the bar there is as much room as without";
-    EXPECT_LE(window.geometry().bottom(), screen.bottom());
-}
-
 TEST_F(SettingsWindowTest, MinimisedWithASlideShowItComesBackWithoutAQuestionThatIsBelowIt)
 {
     open();
@@ -88,18 +75,6 @@ TEST_F(SettingsWindowTest, EscapeAndCtrlWPutItAwayAndOpeningBringsItBackAsItWas)
     EXPECT_EQ(window.winId(), handle);
 }
 
-TEST_F(SettingsWindowTest, TabsTurnByKeysInBothDirectionsAndRound)
-{
-    open();
-    EXPECT_EQ(QApplication::focusWidget(), tabs().tabBar());
-    const std::pair<Qt::Key, QString> cases[] = {{Qt::Key_PageDown, u"Appearance"_s}, {Qt::Key_PageDown, u"About"_s},
-        {Qt::Key_PageDown, u"General"_s}, {Qt::Key_PageUp, u"About"_s}, {Qt::Key_Tab, u"General"_s}};
-    for (const auto& [key, expected] : cases) {
-        QTest::keyClick(window.windowHandle(), key, Qt::ControlModifier);
-        EXPECT_EQ(tab(), expected);
-    }
-}
-
 TEST_F(SettingsWindowTest, EverythingIsResetOnlyWhenTheUserConfirmsIt)
 {
     const auto pressing = [this](Qt::Key key) {
@@ -118,41 +93,6 @@ TEST_F(SettingsWindowTest, EverythingIsResetOnlyWhenTheUserConfirmsIt)
         answer();
         EXPECT_FALSE(alert());
         EXPECT_EQ(resets, expected);
-    }
-}
-
-TEST_F(SettingsWindowTest, AllTextFitsAndTheWholeGeneralTabCanBeScrolledTo)
-{
-    fake.captureExclusion.known = CaptureExclusion::State::Visible;
-    fake.accessibility.transparencyReduced = true;
-    fake.captureExclusion.changed.notify();
-    fake.accessibility.changed.notify();
-    refresh();
-    open();
-    for (int i = 0; i < tabs().count(); ++i) {
-        tabs().setCurrentIndex(i);
-        processEvents();
-        for (const auto label : tabs().widget(i)->findChildren<QLabel*>()) {
-            EXPECT_GE(label->height(), label->heightForWidth(label->width())) << label->text().toStdString();
-            EXPECT_LE(label->mapTo(&window, QPoint(label->width(), 0)).x(), window.width());
-        }
-    }
-    tabs().setCurrentIndex(0);
-    const auto button = find(window, "Reset All Data…");
-    QTest::keyClick(tabs().currentWidget(), Qt::Key_PageDown);
-    QTest::keyClick(tabs().currentWidget(), Qt::Key_PageDown);
-    EXPECT_EQ(button->visibleRegion().boundingRect(), button->rect());
-}
-
-TEST_F(SettingsWindowTest, WhatTheAudienceSeesIsToldUnlessItIsNothing)
-{
-    const auto advice = QStringLiteral("This desktop cannot hide a window from a shared screen. Share a single window "
-                                       "or tab instead of the whole screen.");
-    using enum CaptureExclusion::State;
-    for (const auto state : {Excluded, Visible, Unknown, Excluded, Blackout}) {
-        fake.captureExclusion.known = state;
-        fake.captureExclusion.changed.notify();
-        EXPECT_EQ(isShown(window, advice), state != Excluded);
     }
 }
 

@@ -11,7 +11,7 @@ namespace cuebright::test {
 
 namespace {
 
-/// A KWin with one window of ours (pid 42) and one of somebody else; `print` says what reaches the bus.
+/// A KWin with windows of this program (pid 42) and of others; `print` shows the D-Bus calls.
 constexpr const char* kWorkspace = R"js(
 const print = console.log;
 function signal() {
@@ -43,15 +43,14 @@ TEST(KWinScript, ReportsTheWorstOfAllWindowsOfOurs)
     if (node.isEmpty())
         GTEST_SKIP() << "needs node, to run the script as KWin would";
     const std::tuple<const char*, std::string, std::string, const char*> cases[] = {
-        {"no window of ours", "", "add(makeWindow(8)); if (windows.some(w => w.excludeFromCapture)) print('foreign')",
-            ""},
+        {"no own window", "", "add(makeWindow(8)); if (windows.some(w => w.excludeFromCapture)) print('foreign')", ""},
         {"a window that is there", "windows.push(makeWindow(42))", "", "omitted\n"},
         {"a later window", "", "add(makeWindow(42))", "omitted\n"},
         {"too old", "windows.push(makeWindow(42, 'old'))", "", "unsupported\n"},
         {"one of two refuses", "windows.push(makeWindow(42, 'stubborn'))", "add(makeWindow(42))", "refused\nrefused\n"},
         {"a menu that refuses", "windows.push(makeWindow(42))", "add(makeWindow(42, 'stubborn'))",
             "omitted\nrefused\n"},
-        {"somebody resets the flag", "const w = makeWindow(42); windows.push(w)", "w.reset()", "omitted\nrefused\n"},
+        {"the flag is reset", "const w = makeWindow(42); windows.push(w)", "w.reset()", "omitted\nrefused\n"},
     };
     for (const auto& [name, before, after, reports] : cases) {
         SCOPED_TRACE(name);

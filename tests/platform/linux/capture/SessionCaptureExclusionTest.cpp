@@ -14,13 +14,9 @@ TEST(SessionCaptureExclusion, EachSessionGetsWhatItsCompositorOffers)
     const std::tuple<const char*, DesktopSession, CaptureExclusionMethod> cases[] = {
         {"Plasma", {true, {"KDE"}, {}, {}}, KWin},
         {"Plasma on X11", {false, {"KDE"}, {}, {}}, NoneAndVisible},
-        {"bare X11", {}, NoneAndVisible},
         {"Hyprland", {true, {"Hyprland"}, "abc_1", {}}, Hyprland},
         {"variables of Hyprland in an X11 session", {false, {}, "abc_1", {}}, NoneAndVisible},
         {"GNOME", {true, {"ubuntu", "GNOME"}, {}, {}}, NoneAndVisible},
-        {"sway", {true, {"sway"}, {}, {}}, NoneAndVisible},
-        {"COSMIC", {true, {"COSMIC"}, {}, {}}, NoneAndVisible},
-        {"river", {true, {"river"}, {}, {}}, NoneAndVisible},
         {"labwc", {true, {"labwc", "wlroots"}, {}, {}}, NoneAndVisible},
         {"niri", {true, {"niri"}, {}, {}}, NoneAndUnknown},
         {"other Wayland", {true, {"weston"}, {}, {}}, NoneAndUnknown},

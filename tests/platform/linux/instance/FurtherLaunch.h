@@ -8,7 +8,7 @@
 
 namespace cuebright::test {
 
-/// What `claim` returns in a thread of its own, as in a process of its own, while the event loop of this one runs.
+/// The result of `claim` in another thread, while this thread's event loop runs.
 template <typename Claim> auto furtherLaunch(Claim claim)
 {
     auto outcome = std::async(std::launch::async, claim);

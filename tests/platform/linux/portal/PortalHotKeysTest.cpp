@@ -30,7 +30,7 @@ protected:
     {
         return hotKeys.registerHotKey(key, [this] { ++presses; });
     }
-    /// Beside a portal, and bound to a key.
+    /// Starts with a portal that binds the key.
     std::unique_ptr<HotKeyRegistration> startBound()
     {
         if (!portal)
@@ -87,7 +87,7 @@ TEST_F(PortalHotKeysTest, WhatThePortalDoesNotGrantIsNotSystemWide)
         const auto refused = keys.registerHotKey(kKey, [] {});
         keys.start();
         ASSERT_TRUE(waitUntil([&, expected = calls] { return portal->calls.size() == expected; }));
-        // What is granted afterwards tells when the refusal has arrived.
+        // Once a later request is granted, the refusal has arrived.
         portal->hasShortcuts = true;
         portal->responseToCreate = portal->responseToBind = 0;
         portal->triggerDescription = QStringLiteral("Ctrl+T");
@@ -98,12 +98,6 @@ TEST_F(PortalHotKeysTest, WhatThePortalDoesNotGrantIsNotSystemWide)
     }
 }
 
-TEST_F(PortalHotKeysTest, APortalWithoutTheRegistryBindsKeysToo)
-{
-    startPortal().hasRegistry = false;
-    startBound();
-}
-
 TEST_F(PortalHotKeysTest, AKeyIsRegisteredThenGivenASessionThenBoundAndGivenBackClosesItsSession)
 {
     registerKey(kOtherKey).reset(); // never started
@@ -112,7 +106,7 @@ TEST_F(PortalHotKeysTest, AKeyIsRegisteredThenGivenASessionThenBoundAndGivenBack
     EXPECT_EQ(portal->calls, kCallsForOneKey + QStringList {QStringLiteral("Close")});
 }
 
-TEST_F(PortalHotKeysTest, ALatePortalAndARestartedOneAreAskedAnewUntilTheDesktopEndsTheSession)
+TEST_F(PortalHotKeysTest, LateAndRestartedPortalsAreAskedUntilTheSessionIsClosed)
 {
     const auto registration = registerKey();
     hotKeys.start();
@@ -127,16 +121,6 @@ TEST_F(PortalHotKeysTest, ALatePortalAndARestartedOneAreAskedAnewUntilTheDesktop
     EXPECT_TRUE(waitUntil([&] { return presses == 1; }));
     portal->closeSession(portal->sessions[0].path);
     EXPECT_TRUE(becomesBound(registration, false));
-}
-
-TEST_F(PortalHotKeysTest, WithoutABusTheKeyIsSilent)
-{
-    PortalHotKeys keys([] { return QDBusConnection(QStringLiteral("no such bus")); });
-    const auto registration = keys.registerHotKey(kKey, [] {});
-    keys.start();
-    const auto late = keys.registerHotKey(kOtherKey, [] {});
-    EXPECT_FALSE(registration->isSystemWide());
-    EXPECT_FALSE(late->isSystemWide());
 }
 
 } // namespace cuebright::test
