@@ -1,5 +1,6 @@
 #include "ui/widgets/ApplicationIcon.h"
 
+#include "platform/ApplicationId.h"
 #include "ui/widgets/DrawnIcon.h"
 
 #include <QSvgRenderer>
@@ -14,7 +15,7 @@ class BuiltInIcon final : public DrawnIcon {
 public:
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode, QIcon::State) override
     {
-        QSvgRenderer(QStringLiteral(":/icons/app.cuebright.Cuebright.svg")).render(painter, rect);
+        QSvgRenderer(QStringLiteral(":/icons/%1.svg").arg(QLatin1String(kApplicationId))).render(painter, rect);
     }
 
     [[nodiscard]] QIconEngine* clone() const override { return new BuiltInIcon; }
@@ -33,7 +34,7 @@ public:
 
 QIcon applicationIcon()
 {
-    const QIcon installed = QIcon::fromTheme(QStringLiteral("app.cuebright.Cuebright"));
+    const QIcon installed = QIcon::fromTheme(QString::fromLatin1(kApplicationId));
     return installed.isNull() ? QIcon(new BuiltInIcon) : installed;
 }
 
