@@ -8,12 +8,12 @@
 
 namespace cuebright {
 
-/// One signal on a message bus, passed on to a function as long as this lives. It takes a slot to get one.
+/// Calls a function for each D-Bus signal of one kind. A class, because QtDBus connects signals to slots only.
 class DBusSignal final : public QObject {
     Q_OBJECT
 
 public:
-    /// Empty `service` or `path` stand for all. `received` runs on the main thread.
+    /// An empty `service` or `path` matches every one. `received` runs on the main thread.
     DBusSignal(QDBusConnection bus, const QString& service, const QString& path, const QString& interface,
         const QString& name, std::function<void(const QDBusMessage&)> received);
 

@@ -7,10 +7,10 @@
 
 namespace cuebright {
 
-/// The desktop session in which the program runs, as its environment describes it.
+/// The desktop session that the program runs in, as described by the environment.
 struct DesktopSession {
-    bool isWayland = false; ///< also where the program itself goes through XWayland
-    std::vector<std::string> desktops; ///< XDG_CURRENT_DESKTOP, taken apart
+    bool isWayland = false; ///< also when the program itself runs on XWayland
+    std::vector<std::string> desktops; ///< the items of XDG_CURRENT_DESKTOP
     std::string hyprlandInstance; ///< empty outside Hyprland
     std::filesystem::path runtimeDirectory; ///< XDG_RUNTIME_DIR; empty where there is none
 

@@ -6,7 +6,7 @@
 
 namespace cuebright {
 
-/// Owns an open file descriptor; negative when there is none.
+/// Owns an open file descriptor; a negative one means none.
 class FileDescriptor final {
 public:
     explicit FileDescriptor(int descriptor)

@@ -14,7 +14,7 @@ std::optional<int> number(const QVariant& value)
 
 bool is(const QVariant& value, bool wanted) { return value.typeId() == QMetaType::Bool && value.toBool() == wanted; }
 
-/// KDE keeps its settings as text; not every portal turns them into numbers.
+/// KDE stores its settings as text, which not every portal converts to numbers.
 bool isZero(const QVariant& value)
 {
     const int type = value.typeId();

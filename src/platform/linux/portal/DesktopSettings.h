@@ -8,23 +8,23 @@
 
 namespace cuebright {
 
-/// What the user has told the desktop about motion, contrast and colours, in the words of its settings: the portal's
-/// own `org.freedesktop.appearance`, and where that is silent the older ones of GNOME and KDE.
+/// The desktop's settings for motion, contrast and colours: the portal's own `org.freedesktop.appearance`, else the
+/// older ones of GNOME and KDE.
 ///
-/// What is missing, or not of the type it should have, is not asked for.
+/// A setting that is missing or has another type than expected counts as not set.
 class DesktopSettings final {
 public:
-    /// The groups of settings that count here.
+    /// The groups of settings that are read; `set` ignores others.
     [[nodiscard]] static QStringList groups();
 
     void set(const QString& group, const QString& key, const QVariant& value);
 
     [[nodiscard]] bool reduceMotion() const;
     [[nodiscard]] bool increaseContrast() const;
-    [[nodiscard]] std::optional<bool> isDark() const; ///< nothing: no preference
+    [[nodiscard]] std::optional<bool> isDark() const; ///< empty: no preference
 
 private:
-    QHash<QString, QVariant> m_values; ///< by group and key, a blank between them
+    QHash<QString, QVariant> m_values; ///< by "group key"
 };
 
 } // namespace cuebright

@@ -22,14 +22,14 @@ void Portal::call(const QString& interface, const QString& method, const QVarian
 {
     auto message = QDBusMessage::createMethodCall(service(), path(), interface, method);
     message.setArguments(arguments);
-    ++m_owedAnswers;
+    ++m_pendingReplies;
     auto* const watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(message), &m_context);
     QObject::connect(watcher, &QDBusPendingCallWatcher::finished, watcher,
         [this, watcher, generation = m_generation, answered = std::move(answered)] {
             watcher->deleteLater();
             if (generation != m_generation)
                 return;
-            --m_owedAnswers;
+            --m_pendingReplies;
             answered(watcher->reply());
         });
 }
@@ -44,11 +44,11 @@ QVariant Portal::unwrapped(QVariant value)
 void Portal::changeOwner(const QString& oldOwner, const QString& newOwner)
 {
     // A call to a portal that is not running starts it and is then delivered to it.
-    const bool isStartedByUs = oldOwner.isEmpty() && m_owedAnswers > 0;
+    const bool isStartedByUs = oldOwner.isEmpty() && m_pendingReplies > 0;
     if (isStartedByUs)
         return;
     ++m_generation;
-    m_owedAnswers = 0;
+    m_pendingReplies = 0;
     if (!oldOwner.isEmpty())
         m_left();
     if (!newOwner.isEmpty())

@@ -9,22 +9,23 @@
 
 namespace cuebright {
 
-/// The desktop's portal (XDG Desktop Portal) as seen over one connection to the session bus. Never waits.
+/// The XDG Desktop Portal, over one connection to the session bus. Never blocks.
 ///
-/// Calls start a portal that is installed but not running. What an earlier portal still owed is dropped when it leaves.
+/// Calls start a portal that is installed but not running. When the portal leaves the bus, its outstanding replies are
+/// dropped.
 class Portal final {
 public:
-    /// `left` runs when the portal goes away, `appeared` when a new one is there that has been asked nothing yet.
+    /// `left` runs when the portal leaves the bus, `appeared` when one appears that no call is waiting for.
     Portal(QDBusConnection bus, std::function<void()> appeared, std::function<void()> left);
 
-    /// `answered` gets the reply or the error, on the main thread.
+    /// `answered` receives the reply or the error, on the main thread.
     void call(const QString& interface, const QString& method, const QVariantList& arguments,
         std::function<void(const QDBusMessage&)> answered);
 
     [[nodiscard]] static QString service() { return QStringLiteral("org.freedesktop.portal.Desktop"); }
     [[nodiscard]] static QString path() { return QStringLiteral("/org/freedesktop/portal/desktop"); }
 
-    /// A value without the variants that portals wrap it in, one or several.
+    /// The value inside the one or several variants that portals wrap it in.
     [[nodiscard]] static QVariant unwrapped(QVariant value);
 
 private:
@@ -33,9 +34,9 @@ private:
     QDBusConnection m_bus;
     std::function<void()> m_appeared;
     std::function<void()> m_left;
-    int m_generation = 0; ///< tells the answers of one portal from those of the one before
-    int m_owedAnswers = 0;
-    QObject m_context; ///< ends the watching of calls with this object
+    int m_generation = 0; ///< counts the portals; replies of an earlier one are ignored
+    int m_pendingReplies = 0;
+    QObject m_context; ///< stops watching the calls when it is destroyed
     QDBusServiceWatcher m_watcher;
 };
 

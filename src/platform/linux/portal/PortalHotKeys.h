@@ -9,14 +9,14 @@
 
 namespace cuebright {
 
-/// Keys that the desktop's portal grabs for us, with the user's consent: Plasma from 5.27, GNOME from 48, Hyprland.
-/// Written after the portal's documentation; has not run on one of these desktops.
+/// Hot keys bound through the desktop's portal, with the user's consent: Plasma from 5.27, GNOME from 48, Hyprland.
+/// Written from the portal's documentation; not yet run on any of these desktops.
 ///
-/// Nothing is asked before `start`. A refusal and the lack of a portal are silent: the key then does nothing.
+/// Sends nothing before `start`. Where the portal refuses or is missing, the key silently does nothing.
 class PortalHotKeys final : public HotKeys {
 public:
-    /// `connect` opens a connection of our own, which ends with this object: a portal takes note of who we are only as
-    /// long as nothing else was asked over it.
+    /// `connect` opens a connection for hot keys alone, which closes with this object: the portal's `Register` must be
+    /// the first call on a connection.
     explicit PortalHotKeys(std::function<QDBusConnection()> connect);
     ~PortalHotKeys() override;
     PortalHotKeys(const PortalHotKeys&) = delete;
@@ -24,7 +24,7 @@ public:
 
     void start();
 
-    /// Never null: whether the key can be had shows later.
+    /// Never null: whether the key is granted is known only later.
     std::unique_ptr<HotKeyRegistration> registerHotKey(const HotKey& key, std::function<void()> pressed) override;
 
 private:

@@ -22,14 +22,14 @@ QString bindStep() { return QStringLiteral("bind"); }
 
 QString text(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
 
-/// Portals give paths as such or as text.
+/// Portals send paths as object paths or as text.
 QString path(const QVariant& value)
 {
     const auto objectPath = value.value<QDBusObjectPath>().path();
     return objectPath.isEmpty() ? value.toString() : objectPath;
 }
 
-/// Whether a key leads to the shortcut. A portal that does not list what it has bound has bound everything.
+/// Whether a key is assigned to the shortcut. A portal that does not list the bound shortcuts has bound all of them.
 bool hasKey(const QVariant& list, const QString& id)
 {
     if (!list.canConvert<QDBusArgument>() || list.value<QDBusArgument>().currentSignature() != u"a(sa{sv})")
@@ -53,9 +53,9 @@ PortalShortcut::PortalShortcut(QDBusConnection bus, const HotKey& key, std::func
     , m_portal(
           m_bus, [this] { begin(); }, [this] { forget(); })
     , m_response(m_bus, {}, {}, QStringLiteral("org.freedesktop.portal.Request"), QStringLiteral("Response"),
-          [this](const QDBusMessage& signal) { takeResponse(signal); })
+          [this](const QDBusMessage& signal) { onResponse(signal); })
     , m_activated(m_bus, {}, Portal::path(), shortcutsInterface(), QStringLiteral("Activated"),
-          [this](const QDBusMessage& signal) { takeActivation(signal); })
+          [this](const QDBusMessage& signal) { onActivated(signal); })
     , m_closed(m_bus, {}, {}, sessionInterface(), QStringLiteral("Closed"), [this](const QDBusMessage& signal) {
         if (signal.path() == m_session)
             forget();
@@ -75,10 +75,10 @@ PortalShortcut::~PortalShortcut()
 
 void PortalShortcut::begin()
 {
-    // Nobody else can guess it, so what comes with it comes from the portal.
+    // Unguessable, so that a signal that carries it comes from the portal.
     m_token = QStringLiteral("cuebright_") + QUuid::createUuid().toString(QUuid::Id128);
-    // Says whose shortcut it is where no sandbox does. Older portals lack it and newer ones take it only once: what
-    // they answer does not matter, only that they have heard it first.
+    // Identifies the program outside a sandbox. Older portals lack this call and newer ones accept it only once, so the
+    // reply does not matter, but it has to precede the other calls.
     m_portal.call(QStringLiteral("org.freedesktop.host.portal.Registry"), QStringLiteral("Register"),
         {QGuiApplication::desktopFileName(), QVariantMap()}, [this](const QDBusMessage&) { createSession(); });
 }
@@ -95,7 +95,7 @@ void PortalShortcut::createSession()
     m_portal.call(shortcutsInterface(), QStringLiteral("CreateSession"),
         {QVariantMap {{QStringLiteral("handle_token"), m_token + createStep()},
             {QStringLiteral("session_handle_token"), m_token}}},
-        [](const QDBusMessage&) {}); // the outcome comes as a response
+        [](const QDBusMessage&) {}); // the result arrives as a Response signal
 }
 
 void PortalShortcut::bind()
@@ -108,7 +108,7 @@ void PortalShortcut::bind()
         [](const QDBusMessage&) {});
 }
 
-void PortalShortcut::takeResponse(const QDBusMessage& signal)
+void PortalShortcut::onResponse(const QDBusMessage& signal)
 {
     if (m_token.isEmpty() || signal.signature() != QLatin1String("ua{sv}"))
         return;
@@ -124,12 +124,12 @@ void PortalShortcut::takeResponse(const QDBusMessage& signal)
     }
 }
 
-void PortalShortcut::takeActivation(const QDBusMessage& signal) const
+void PortalShortcut::onActivated(const QDBusMessage& signal) const
 {
     const auto arguments = signal.arguments();
     if (arguments.size() < 2 || m_session.isEmpty() || path(arguments[0]) != m_session || arguments[1] != m_id)
         return;
-    const auto pressed = m_pressed; // it may end this object
+    const auto pressed = m_pressed; // it may destroy this object
     pressed();
 }
 

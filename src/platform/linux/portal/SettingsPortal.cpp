@@ -13,44 +13,44 @@ QString interfaceName() { return QStringLiteral("org.freedesktop.portal.Settings
 
 } // namespace
 
-SettingsPortal::SettingsPortal(const QDBusConnection& bus, std::function<void(const DesktopSettings&)> told)
-    : m_told(std::move(told))
+SettingsPortal::SettingsPortal(const QDBusConnection& bus, std::function<void(const DesktopSettings&)> changed)
+    : m_changed(std::move(changed))
     , m_portal(
-          bus, [this] { ask(); }, [] {})
+          bus, [this] { readAll(); }, [] {})
     , m_settingChanged(bus, {}, Portal::path(), interfaceName(), QStringLiteral("SettingChanged"),
-          [this](const QDBusMessage& signal) { takeChange(signal); })
+          [this](const QDBusMessage& signal) { onSettingChanged(signal); })
 {
-    ask();
+    readAll();
 }
 
-void SettingsPortal::ask()
+void SettingsPortal::readAll()
 {
     m_portal.call(interfaceName(), QStringLiteral("ReadAll"), {DesktopSettings::groups()},
-        [this](const QDBusMessage& answer) { takeAll(answer); });
+        [this](const QDBusMessage& reply) { onReply(reply); });
 }
 
-void SettingsPortal::takeAll(const QDBusMessage& answer)
+void SettingsPortal::onReply(const QDBusMessage& reply)
 {
-    if (answer.type() == QDBusMessage::ReplyMessage && answer.signature() == QLatin1String("a{sa{sv}}")) {
+    if (reply.type() == QDBusMessage::ReplyMessage && reply.signature() == QLatin1String("a{sa{sv}}")) {
         m_settings = {};
         const auto groups =
-            qdbus_cast<QMap<QString, QVariantMap>>(answer.arguments().constFirst().value<QDBusArgument>());
+            qdbus_cast<QMap<QString, QVariantMap>>(reply.arguments().constFirst().value<QDBusArgument>());
         for (auto group = groups.begin(); group != groups.end(); ++group)
             for (auto setting = group->begin(); setting != group->end(); ++setting)
                 m_settings.set(group.key(), setting.key(), Portal::unwrapped(setting.value()));
     }
-    m_hasAnswer = true;
-    m_told(m_settings);
+    m_hasReply = true;
+    m_changed(m_settings);
 }
 
-void SettingsPortal::takeChange(const QDBusMessage& signal)
+void SettingsPortal::onSettingChanged(const QDBusMessage& signal)
 {
-    // The answer that is still to come holds this change too, and all the rest with it.
-    if (!m_hasAnswer || signal.signature() != QLatin1String("ssv"))
+    // The outstanding reply will contain this change.
+    if (!m_hasReply || signal.signature() != QLatin1String("ssv"))
         return;
     const auto arguments = signal.arguments();
     m_settings.set(arguments[0].toString(), arguments[1].toString(), Portal::unwrapped(arguments[2]));
-    m_told(m_settings);
+    m_changed(m_settings);
 }
 
 } // namespace cuebright

@@ -8,21 +8,21 @@
 
 namespace cuebright {
 
-/// The desktop's settings as its portal tells them (`org.freedesktop.portal.Settings`), and each change of them.
+/// Reads the desktop's settings from its portal (`org.freedesktop.portal.Settings`) and follows their changes.
 class SettingsPortal final {
 public:
-    /// Asks at once and again whenever a new portal appears. `told` runs with each answer, with no settings at all
-    /// where there is no portal, and then with every change.
-    SettingsPortal(const QDBusConnection& bus, std::function<void(const DesktopSettings&)> told);
+    /// Reads immediately, and again whenever a new portal appears. `changed` runs after each reading, with empty
+    /// settings where there is no portal, and after each change.
+    SettingsPortal(const QDBusConnection& bus, std::function<void(const DesktopSettings&)> changed);
 
 private:
-    void ask();
-    void takeAll(const QDBusMessage& answer);
-    void takeChange(const QDBusMessage& signal);
+    void readAll();
+    void onReply(const QDBusMessage& reply);
+    void onSettingChanged(const QDBusMessage& signal);
 
-    std::function<void(const DesktopSettings&)> m_told;
+    std::function<void(const DesktopSettings&)> m_changed;
     DesktopSettings m_settings;
-    bool m_hasAnswer = false;
+    bool m_hasReply = false;
     Portal m_portal;
     DBusSignal m_settingChanged;
 };

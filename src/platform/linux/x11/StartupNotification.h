@@ -6,12 +6,12 @@
 
 namespace cuebright {
 
-// The Startup Notification Protocol for X11, as far as it is text.
+// The texts of the Startup Notification Protocol for X11.
 
-/// When the user launched, in the X server's time: ids end in "_TIME" and that number. 0 where this one does not.
+/// The X server's time of the launch: ids end in "_TIME" and that number. 0 where this one does not.
 [[nodiscard]] std::uint32_t startupTime(std::string_view id);
 
-/// What tells the desktop that the launch is over.
+/// The message that tells the desktop that the launch is complete.
 [[nodiscard]] std::string startupEndMessage(std::string_view id);
 
 } // namespace cuebright

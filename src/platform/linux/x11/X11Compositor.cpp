@@ -17,7 +17,7 @@ X11Compositor::X11Compositor(const X11Connection& x11)
     const auto* const extension = xcb_get_extension_data(x11.get(), &xcb_xfixes_id);
     if (!extension || !extension->present)
         return;
-    // The toolkit has told the server already which version of the extension it speaks.
+    // Qt has already negotiated the version of the extension.
     m_selectionEvent = static_cast<std::uint8_t>(extension->first_event + XCB_XFIXES_SELECTION_NOTIFY);
     xcb_xfixes_select_selection_input(x11.get(), x11.root(), m_selection,
         XCB_XFIXES_SELECTION_EVENT_MASK_SET_SELECTION_OWNER | XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_WINDOW_DESTROY

@@ -7,8 +7,8 @@
 
 namespace cuebright {
 
-/// Whether a compositor runs, without which nothing can shine through a window: somebody owns the selection
-/// `_NET_WM_CM_S<screen>` (Extended Window Manager Hints).
+/// Whether a compositor runs, which transparency needs: it owns the selection `_NET_WM_CM_S<screen>` (Extended Window
+/// Manager Hints).
 class X11Compositor final : public QAbstractNativeEventFilter {
 public:
     explicit X11Compositor(const X11Connection& x11);
@@ -25,7 +25,7 @@ private:
 
     const X11Connection& m_x11;
     const xcb_atom_t m_selection;
-    std::uint8_t m_selectionEvent = 0; ///< the type of its events; 0 where the server cannot tell
+    std::uint8_t m_selectionEvent = 0; ///< the type of XFixes selection events; 0 without that extension
     bool m_isRunning;
 };
 

@@ -13,7 +13,7 @@ std::unique_ptr<X11Connection> X11Connection::ofApplication()
     if (!application || !application->connection())
         return nullptr;
     const auto connection = application->connection();
-    // The toolkit keeps to the first screen; others are history.
+    // Qt uses the first screen only.
     const auto screens = xcb_setup_roots_iterator(xcb_get_setup(connection));
     return std::unique_ptr<X11Connection>(new X11Connection(connection, screens.data, 0));
 }
@@ -74,7 +74,7 @@ std::uint32_t X11Connection::events(xcb_window_t window) const
 
 void X11Connection::selectEvents(xcb_window_t window, std::uint32_t mask) const
 {
-    // Checked, and the outcome left alone: the toolkit would report a window that has just gone.
+    // Checked, with the result discarded: Qt would print an error about a window that has just been destroyed.
     const auto cookie = xcb_change_window_attributes_checked(m_connection, window, XCB_CW_EVENT_MASK, &mask);
     xcb_discard_reply(m_connection, cookie.sequence);
 }

@@ -11,17 +11,17 @@
 
 namespace cuebright {
 
-/// What libxcb hands out to be freed.
+/// Frees what libxcb allocates.
 struct FreeReply {
     void operator()(void* reply) const { std::free(reply); }
 };
 template <typename Reply> using XcbReply = std::unique_ptr<Reply, FreeReply>;
 
-/// The toolkit's connection to the X server, with the few requests that several classes make. Requests about windows
-/// that have gone answer empty and do nothing.
+/// Qt's connection to the X server, with the requests that several classes need. Requests for windows that no longer
+/// exist return empty values and do nothing.
 class X11Connection final {
 public:
-    /// Null where the program does not talk to an X server.
+    /// Null where the program does not run on an X server.
     [[nodiscard]] static std::unique_ptr<X11Connection> ofApplication();
 
     [[nodiscard]] xcb_connection_t* get() const { return m_connection; }
@@ -30,7 +30,7 @@ public:
 
     [[nodiscard]] xcb_atom_t atom(const char* name) const;
 
-    /// The 32-bit items of a property.
+    /// The 32-bit items of a property, at most 1024; empty where it has another format.
     [[nodiscard]] std::vector<std::uint32_t> property(xcb_window_t window, xcb_atom_t name) const;
     void setProperty(
         xcb_window_t window, xcb_atom_t name, xcb_atom_t type, std::initializer_list<std::uint32_t> items) const;
@@ -39,7 +39,7 @@ public:
     /// Sends the window manager a request about a window.
     void askWindowManager(xcb_window_t window, xcb_atom_t request, const std::array<std::uint32_t, 5>& data) const;
 
-    /// The events of a window that this program gets.
+    /// The events that this program receives from a window.
     [[nodiscard]] std::uint32_t events(xcb_window_t window) const;
     void selectEvents(xcb_window_t window, std::uint32_t mask) const;
 

@@ -24,13 +24,13 @@ std::optional<xcb_keycode_t> physicalKeyOf(char letter)
     constexpr std::array<std::pair<std::string_view, int>, 3> kRows {
         {{"qwertyuiop", 24}, {"asdfghjkl", 38}, {"zxcvbnm", 52}}};
     for (const auto& [letters, first] : kRows) {
-        if (const auto place = letters.find(letter); place != std::string_view::npos)
-            return static_cast<xcb_keycode_t>(first + static_cast<int>(place));
+        if (const auto column = letters.find(letter); column != std::string_view::npos)
+            return static_cast<xcb_keycode_t>(first + static_cast<int>(column));
     }
     return std::nullopt;
 }
 
-/// The key that types the letter, in the first layout that has it.
+/// The key that types the letter, in the first layout that has the letter.
 std::optional<xcb_keycode_t> keyOf(const X11Connection& x11, char letter)
 {
     const auto* const setup = xcb_get_setup(x11.get());
@@ -57,7 +57,7 @@ public:
         , m_letter(static_cast<char>(std::tolower(static_cast<unsigned char>(letter))))
         , m_pressed(std::move(pressed))
     {
-        // The event of the extension that replaces MappingNotify for programs that know it, as the toolkit does.
+        // Clients that use the XKEYBOARD extension, as Qt does, receive its event instead of MappingNotify.
         constexpr std::string_view kName = "XKEYBOARD";
         const auto cookie = xcb_query_extension(x11.get(), kName.size(), kName.data());
         const XcbReply<xcb_query_extension_reply_t> keyboard(xcb_query_extension_reply(x11.get(), cookie, nullptr));
@@ -75,7 +75,7 @@ public:
         const auto* const event = static_cast<const xcb_generic_event_t*>(message);
         const auto type = event->response_type & ~0x80;
         if (type == XCB_KEY_PRESS || type == XCB_KEY_RELEASE)
-            return takeKey(*reinterpret_cast<const xcb_key_press_event_t*>(event), type == XCB_KEY_PRESS);
+            return handleKey(*reinterpret_cast<const xcb_key_press_event_t*>(event), type == XCB_KEY_PRESS);
         if (type == XCB_MAPPING_NOTIFY || isNewKeyboardMap(*event))
             followLayout();
         return false;
@@ -113,7 +113,7 @@ private:
             isTaken = isTaken || error;
         }
         if (isTaken)
-            ungrab(); // half of a key is worse than none
+            ungrab(); // a key that works with some lock states only is worse than none
     }
 
     void ungrab()
@@ -121,18 +121,18 @@ private:
         const auto key = std::exchange(m_key, std::nullopt);
         if (!key)
             return;
-        m_isDown = false; // its release will not be ours
+        m_isDown = false; // its release will not be reported
         for (const auto lock : kLocks)
             xcb_ungrab_key(m_x11.get(), *key, m_x11.root(), kModifiers | lock);
         xcb_flush(m_x11.get());
     }
 
-    bool takeKey(const xcb_key_press_event_t& event, bool isPress)
+    bool handleKey(const xcb_key_press_event_t& event, bool isPress)
     {
-        const bool isOurs = m_key && event.detail == *m_key && event.event == m_x11.root();
-        if (!isOurs)
+        const bool isHotKey = m_key && event.detail == *m_key && event.event == m_x11.root();
+        if (!isHotKey)
             return false;
-        // A key that is held repeats: as presses alone, or as pairs of a release and a press at the same moment.
+        // A held key repeats as presses only, or as pairs of a release and a press with the same time.
         if (!isPress) {
             m_isDown = false;
             m_releasedAt = event.time;

@@ -5,8 +5,8 @@
 
 namespace cuebright {
 
-/// Hot keys as passive grabs on the root window: they reach this program whatever window has the keyboard, with
-/// NumLock and CapsLock in any state. Follows changes of the keyboard's layout.
+/// Hot keys as passive grabs on the root window: they work whatever window has the focus, with NumLock and CapsLock in
+/// any state. Follows changes of the keyboard layout.
 class X11HotKeys final : public HotKeys {
 public:
     explicit X11HotKeys(const X11Connection& x11)

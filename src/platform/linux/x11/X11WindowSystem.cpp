@@ -10,8 +10,8 @@ namespace cuebright {
 
 namespace {
 
-/// So long it takes a window manager to minimise two windows, and no user minimises the one and then the other.
-constexpr Seconds kMoment {0.1};
+/// Two windows minimised within this time were minimised together by the window manager, not one by one by the user.
+constexpr Seconds kMinimisedTogether {0.1};
 
 } // namespace
 
@@ -33,11 +33,10 @@ X11WindowSystem::X11WindowSystem(const X11Connection& x11, MainQueue& mainQueue)
 void X11WindowSystem::keepAboveFullScreen(WindowId window)
 {
     m_windows.insert(static_cast<xcb_window_t>(window));
-    // The toolkit maps a minimised window as soon as it is to be so no longer (Qt 6.4), and says that this is not the
-    // user's doing only when the window shows.
+    // 0: no focus when the window is mapped. Qt 6.4 writes that only after mapping a window that was minimised.
     m_x11.setProperty(static_cast<xcb_window_t>(window), m_userTimeAtom, XCB_ATOM_CARDINAL, {0});
     followActiveWindow();
-    lift(static_cast<xcb_window_t>(window));
+    updateTransience(static_cast<xcb_window_t>(window));
 }
 
 void X11WindowSystem::release(WindowId window)
@@ -48,7 +47,7 @@ void X11WindowSystem::release(WindowId window)
 
 void X11WindowSystem::setBlurBehind(WindowId window, bool isOn)
 {
-    // No rectangles: all of the window.
+    // An empty list of rectangles means the whole window.
     if (isOn)
         m_x11.setProperty(static_cast<xcb_window_t>(window), m_blurAtom, XCB_ATOM_CARDINAL, {});
     else
@@ -70,14 +69,14 @@ bool X11WindowSystem::nativeEventFilter(const QByteArray&, void* message, qintpt
         if (end->window == m_watched)
             followActiveWindow();
         if (m_windows.contains(end->window))
-            examineUnmapped(end->window);
+            checkMinimised(end->window);
     } else if (type == XCB_MAP_NOTIFY) {
-        // Showing a window again, the toolkit deletes what it has not written itself (Qt 6.4).
+        // When Qt shows a window again, it removes the properties that it did not set itself (6.4).
         const auto* const map = reinterpret_cast<const xcb_map_notify_event_t*>(event);
         if (m_windows.contains(map->window)) {
             askToKeepAbove(map->window);
             if (m_fullScreenWindow != XCB_WINDOW_NONE)
-                lift(map->window);
+                updateTransience(map->window);
         }
     }
     return false;
@@ -108,16 +107,16 @@ void X11WindowSystem::followActiveWindow()
         return;
     m_formerFullScreenWindow = std::exchange(m_fullScreenWindow, fullScreenWindow);
     m_forgetFormer.cancel();
-    m_forgetFormer =
-        m_mainQueue.after(kMoment, m_weakTarget.guard([this] { m_formerFullScreenWindow = XCB_WINDOW_NONE; }));
+    m_forgetFormer = m_mainQueue.after(
+        kMinimisedTogether, m_weakTarget.guard([this] { m_formerFullScreenWindow = XCB_WINDOW_NONE; }));
     for (const auto window : m_windows)
-        lift(window);
+        updateTransience(window);
 }
 
 void X11WindowSystem::watch(xcb_window_t window)
 {
     if (m_watched != XCB_WINDOW_NONE)
-        m_x11.selectEvents(m_watched, m_eventsBefore); // what is not watched must not wake us
+        m_x11.selectEvents(m_watched, m_eventsBefore); // its events would wake the program for nothing
     m_watched = window;
     if (window == XCB_WINDOW_NONE)
         return;
@@ -132,24 +131,24 @@ bool X11WindowSystem::isMinimised(xcb_window_t window) const
     return !state.empty() && state.front() == kIconicState;
 }
 
-/// Window managers minimise a window with what is transient for it, in either order.
-void X11WindowSystem::examineUnmapped(xcb_window_t window)
+/// Window managers minimise a window together with its transient windows, in either order.
+void X11WindowSystem::checkMinimised(xcb_window_t window)
 {
     constexpr std::array<xcb_window_t, 2> kNone {XCB_WINDOW_NONE, XCB_WINDOW_NONE};
-    const std::array below {m_fullScreenWindow, m_formerFullScreenWindow}; // one may have been under the other
+    const std::array below {m_fullScreenWindow, m_formerFullScreenWindow};
     if (below == kNone)
         return;
-    m_mainQueue.after(kMoment, m_weakTarget.guard([this, window, below] {
-        const bool fellTogether = std::ranges::any_of(below, [this](auto other) { return isMinimised(other); });
-        if (!m_windows.contains(window) || !isMinimised(window) || !fellTogether)
+    m_mainQueue.after(kMinimisedTogether, m_weakTarget.guard([this, window, below] {
+        const bool isMinimisedTogether = std::ranges::any_of(below, [this](auto other) { return isMinimised(other); });
+        if (!m_windows.contains(window) || !isMinimised(window) || !isMinimisedTogether)
             return;
-        m_formerFullScreenWindow = XCB_WINDOW_NONE; // should it be minimised again, then for its own sake
+        m_formerFullScreenWindow = XCB_WINDOW_NONE; // the next time it is minimised on its own
         minimisedWithFullScreen.notify(window);
     }));
 }
 
-/// A window that was minimised is withdrawn before it is shown again, and the window manager may delete what it was to
-/// be only after the toolkit has written that anew.
+/// A minimised window is withdrawn before it is shown again, and the window manager may clear its state only after Qt
+/// has written it again.
 void X11WindowSystem::askToKeepAbove(xcb_window_t window) const
 {
     constexpr std::uint32_t kAdd = 1; // Extended Window Manager Hints, _NET_WM_STATE
@@ -157,7 +156,7 @@ void X11WindowSystem::askToKeepAbove(xcb_window_t window) const
     m_x11.askWindowManager(window, m_stateAtom, {kAdd, m_aboveAtom, XCB_ATOM_NONE, kFromApplication, 0});
 }
 
-void X11WindowSystem::lift(xcb_window_t window) const
+void X11WindowSystem::updateTransience(xcb_window_t window) const
 {
     if (m_fullScreenWindow == XCB_WINDOW_NONE)
         m_x11.deleteProperty(window, XCB_ATOM_WM_TRANSIENT_FOR);

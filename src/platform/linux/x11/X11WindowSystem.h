@@ -11,10 +11,10 @@
 
 namespace cuebright {
 
-/// Floating on X11, by the means of the Extended Window Manager Hints and KWin's blur hint.
+/// Keeps windows above others on X11, with the Extended Window Manager Hints and KWin's blur hint.
 ///
-/// A full-screen window that is active lies above windows that are merely "above". While there is one, the windows kept
-/// above are transient for it, which lifts them over it and leaves the keyboard alone.
+/// An active full-screen window is stacked above windows in the state "above". While there is one, the windows kept
+/// above are made transient for it, which raises them over it and leaves the focus where it is.
 class X11WindowSystem final : public WindowSystem, public QAbstractNativeEventFilter {
 public:
     X11WindowSystem(const X11Connection& x11, MainQueue& mainQueue);
@@ -31,9 +31,9 @@ private:
     void followActiveWindow();
     void watch(xcb_window_t window);
     [[nodiscard]] bool isMinimised(xcb_window_t window) const;
-    void examineUnmapped(xcb_window_t window);
+    void checkMinimised(xcb_window_t window);
     void askToKeepAbove(xcb_window_t window) const;
-    void lift(xcb_window_t window) const;
+    void updateTransience(xcb_window_t window) const;
 
     const X11Connection& m_x11;
     MainQueue& m_mainQueue;
@@ -44,11 +44,12 @@ private:
     const xcb_atom_t m_userTimeAtom;
     const xcb_atom_t m_blurAtom;
     const xcb_atom_t m_managedAtom;
-    std::set<xcb_window_t> m_windows; ///< that are kept above
-    xcb_window_t m_watched = XCB_WINDOW_NONE; ///< the active one, unless it is ours
-    std::uint32_t m_eventsBefore = 0; ///< of the watched one
-    xcb_window_t m_fullScreenWindow = XCB_WINDOW_NONE; ///< the same while it is full-screen
-    xcb_window_t m_formerFullScreenWindow = XCB_WINDOW_NONE; ///< was so until a moment ago
+    std::set<xcb_window_t> m_windows; ///< kept above others
+    xcb_window_t m_watched = XCB_WINDOW_NONE; ///< the active window, unless it is one of m_windows
+    std::uint32_t m_eventsBefore = 0; ///< the watched window's event mask before we watched it
+    xcb_window_t m_fullScreenWindow = XCB_WINDOW_NONE; ///< m_watched while it is full-screen
+    xcb_window_t m_formerFullScreenWindow =
+        XCB_WINDOW_NONE; ///< the previous m_fullScreenWindow, for kMinimisedTogether
     PendingTask m_forgetFormer;
     WeakTarget m_weakTarget;
 };
