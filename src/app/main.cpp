@@ -2,6 +2,7 @@
 #include "app/AppDelegate.h"
 #include "app/Application.h"
 #include "app/ExitSave.h"
+#include "platform/ApplicationId.h"
 #include "platform/qt/QtPlatform.h"
 #include "platform/system/ProcessSetup.h"
 #include "platform/system/SingleInstance.h"
@@ -14,8 +15,8 @@ using namespace cuebright;
 
 int main(int, char* argv[])
 {
-    SingleInstance instance; // first: a launch that only hands over starts no Qt
-    if (const auto status = instance.exitStatus())
+    SingleInstance instance; // first: a launch that only passes its request on does not need Qt
+    if (const auto status = instance.claimLock())
         return *status;
     ProcessSetup process;
 
@@ -30,8 +31,10 @@ int main(int, char* argv[])
     QApplication::setApplicationName(QStringLiteral("Cuebright"));
     QApplication::setApplicationVersion(QStringLiteral(CUEBRIGHT_VERSION));
     QApplication::setQuitOnLastWindowClosed(false); // the panel may be hidden
-    QApplication::setDesktopFileName(QStringLiteral("app.cuebright.Cuebright"));
+    QApplication::setDesktopFileName(QString::fromLatin1(kApplicationId));
     process.onApplicationCreated();
+    if (const auto status = instance.claimName())
+        return *status;
 
     QtPlatform platform;
     AppDelegate delegate(platform.services(), platform.desktop());

@@ -5,61 +5,65 @@
 #include <QDBusReply>
 
 #include <csignal>
-#include <ostream>
+#include <filesystem>
 
 namespace cuebright::test {
 namespace {
 
-/// What a further launch shares with the first one.
-struct Way {
-    const char* name;
-    bool sharesBus;
-    bool sharesFolder;
-
-    friend void PrintTo(const Way& way, std::ostream* out) { *out << way.name; }
-};
-
-class FurtherLaunch : public testing::TestWithParam<Way> {
-protected:
-    const Home home;
-    const TemporaryFolder folder;
-
-    /// It has no display to go to: who merely hands over needs none. Returns what it says.
-    [[nodiscard]] std::string launch() const
-    {
-        Environment environment {{"DISPLAY", ":65000"}};
-        if (!GetParam().sharesBus)
-            environment["DBUS_SESSION_BUS_ADDRESS"] = "";
-        if (!GetParam().sharesFolder)
-            environment["XDG_RUNTIME_DIR"] = folder.path();
-        auto start = home.program(environment);
-        start.output = folder.file("messages");
-        EXPECT_EQ(Process(start).exitStatus(), 0);
-        return readFile(start.output);
-    }
-};
-
-TEST_P(FurtherLaunch, ShowsThePanelOfTheFirstWithTheKeyboardAndEndsEvenThoughThatHangs)
+/// Returns what a further launch prints.
+std::string launchAgain(const Home& home, const Environment& environment)
 {
+    const TemporaryFolder folder;
+    auto start = home.program(environment);
+    start.output = folder.file("messages");
+    EXPECT_EQ(Process(start).exitStatus(), 0);
+    return readFile(start.output);
+}
+
+TEST(SingleInstance, AFurtherLaunchFocusesThePanelAndEndsEvenIfTheFirstHangs)
+{
+    const Environment nothingElse {{"DISPLAY", ":65000"}, {"DBUS_SESSION_BUS_ADDRESS", ""}};
+    const Home home;
     const RunningPanel panel(home);
     panel.press("ctrl+shift+s");
     ASSERT_TRUE(panel.isOffScreen());
     const OtherWindow other;
-    EXPECT_EQ(launch(), "");
+    EXPECT_EQ(launchAgain(home, nothingElse), "");
     EXPECT_TRUE(panel.isOnScreen());
     EXPECT_TRUE(panel.isActive());
 
     panel.press("ctrl+shift+s");
     ASSERT_TRUE(panel.isOffScreen());
     panel.send(SIGSTOP);
-    EXPECT_EQ(launch(), "Cuebright is running already but does not answer; it shows its panel when it does.\n");
+    EXPECT_EQ(launchAgain(home, nothingElse),
+        "Cuebright is running already but does not answer; it shows its panel when it does.\n");
     panel.send(SIGCONT);
     EXPECT_TRUE(panel.isOnScreen());
 }
 
-INSTANTIATE_TEST_SUITE_P(Ways, FurtherLaunch,
-    testing::Values(Way {"BusAndFolder", true, true}, Way {"FolderAlone", false, true}, Way {"BusAlone", true, false}),
-    [](const auto& way) { return way.param.name; });
+TEST(SingleInstance, AFurtherLaunchThatSharesOnlyTheBusFocusesThePanel)
+{
+    const Home home;
+    const TemporaryFolder folder;
+    const RunningPanel panel(home);
+    panel.press("ctrl+shift+s");
+    ASSERT_TRUE(panel.isOffScreen());
+    const OtherWindow other;
+    EXPECT_EQ(launchAgain(home, {{"XDG_RUNTIME_DIR", folder.path()}}), "");
+    EXPECT_TRUE(panel.isOnScreen());
+    EXPECT_TRUE(panel.isActive());
+}
+
+TEST(SingleInstance, NoBusIsStartedWhereThereIsNone)
+{
+    const Home home;
+    const TemporaryFolder folder;
+    const auto launcher = folder.write("dbus-launch", "#!/bin/sh\n: >\"$0.was-run\"\n");
+    std::filesystem::permissions(launcher, std::filesystem::perms::owner_all);
+    const Process program(home.program({{"DBUS_SESSION_BUS_ADDRESS", ""}, {"PATH", folder.path()}}));
+    EXPECT_TRUE(waitUntil([&] { return desktop().windowOf(program.pid()).has_value(); }));
+    EXPECT_FALSE(std::filesystem::exists(launcher.string() + ".was-run"));
+}
 
 TEST(SingleInstance, TwoStartedAtOnceEndAsOne)
 {
@@ -120,7 +124,7 @@ protected:
     }
 };
 
-TEST_F(Remote, ActionsStepAndToggleWithoutTheKeyboard)
+TEST_F(Remote, ActionsStepAndToggleWithoutFocus)
 {
     const OtherWindow other;
     const RunningPanel panel(home, {}, RunningPanel::Keyboard::Left);

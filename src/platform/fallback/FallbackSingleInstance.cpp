@@ -1,13 +1,16 @@
 #include "platform/system/SingleInstance.h"
 
+#include "platform/ApplicationId.h"
+
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QLockFile>
 #include <QStandardPaths>
 
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 
@@ -15,8 +18,8 @@ namespace cuebright {
 
 namespace {
 
-constexpr int kReplyTimeout = 1000; // milliseconds
-constexpr int kInterval = 20;
+constexpr std::chrono::milliseconds kReplyTimeout {1000};
+constexpr int kPollInterval = 20; // milliseconds
 
 QString fileInCache(const char* name)
 {
@@ -26,53 +29,50 @@ QString fileInCache(const char* name)
     return folder + QLatin1Char('/') + QString::fromLatin1(name);
 }
 
-/// Of this user only: a plain name would be the same for all users of the machine.
+/// Differs between the users of a machine.
 QString serverName()
 {
-    return QStringLiteral("app.cuebright.Cuebright-")
+    return QString::fromLatin1(kApplicationId) + QLatin1Char('-')
         + QString::fromLatin1(QDir::homePath().toUtf8().toHex().right(60));
 }
 
-bool isAnswered(QLocalSocket& socket) { return socket.waitForReadyRead(kInterval) || socket.bytesAvailable() > 0; }
+bool isAnswered(QLocalSocket& socket) { return socket.waitForReadyRead(kPollInterval) || socket.bytesAvailable() > 0; }
 
 } // namespace
 
-// For systems without a message bus, by a lock file and a local server. Tried on Linux; not run on Windows or macOS
-// yet.
+// For systems without a message bus: a lock file and a local server. Run on Linux; not yet on Windows or macOS.
 struct SingleInstance::System {
     QLockFile lock {fileInCache("lock")};
-    std::optional<int> exitStatus {};
     QLocalServer server {};
 
-    System() { lock.setStaleLockTime(0); } // a lock is stale when its process has gone, however old it is
+    System() { lock.setStaleLockTime(0); } // only the end of its process makes a lock stale, not its age
 
     bool isFirst()
     {
-        // Where it cannot be known, the program runs.
+        // Where the lock does not work, the program runs.
         return lock.tryLock(0) || lock.error() != QLockFile::LockFailedError;
     }
 
-    /// Nothing where the other instance has ended meanwhile.
+    /// Returns nothing where the other instance has ended meanwhile.
     std::optional<int> handOver()
     {
         int argumentCount = 1;
         char name[] = "cuebright";
         char* arguments[] = {name, nullptr};
-        const QCoreApplication forTheSocket(argumentCount, arguments);
+        const QCoreApplication application(argumentCount, arguments);
         QLocalSocket socket;
-        QElapsedTimer timer;
-        timer.start();
+        const QDeadlineTimer deadline(kReplyTimeout);
         bool isQueued = false;
         do {
             if (isFirst())
                 return std::nullopt;
             if (!isQueued) {
                 socket.connectToServer(serverName());
-                isQueued = socket.waitForConnected(kInterval);
+                isQueued = socket.waitForConnected(kPollInterval);
             }
             if (isQueued && isAnswered(socket))
                 return EXIT_SUCCESS;
-        } while (timer.elapsed() < kReplyTimeout);
+        } while (!deadline.hasExpired());
         std::fputs("Cuebright is running already but does not answer.\n", stderr);
         return isQueued ? EXIT_SUCCESS : EXIT_FAILURE;
     }
@@ -81,13 +81,13 @@ struct SingleInstance::System {
 SingleInstance::SingleInstance()
     : m_system(std::make_unique<System>())
 {
-    if (!m_system->isFirst())
-        m_system->exitStatus = m_system->handOver();
 }
 
 SingleInstance::~SingleInstance() = default;
 
-std::optional<int> SingleInstance::exitStatus() const { return m_system->exitStatus; }
+std::optional<int> SingleInstance::claimLock() { return m_system->isFirst() ? std::nullopt : m_system->handOver(); }
+
+std::optional<int> SingleInstance::claimName() { return std::nullopt; }
 
 void SingleInstance::deliver(std::function<void(const RemoteRequest&)> perform)
 {

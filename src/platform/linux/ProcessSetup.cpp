@@ -4,6 +4,7 @@
 #include "platform/linux/TerminationSignals.h"
 #include "platform/linux/base/DesktopSession.h"
 
+#include <QByteArray>
 #include <QtGlobal>
 
 #include <memory>
@@ -17,8 +18,25 @@ struct ProcessSetup::System {
     Subscription terminationSubscription {};
 };
 
+namespace {
+
+/// Where the session has no bus, libdbus would start one that outlives the program ("autolaunch").
+void forbidStartingBus()
+{
+    std::error_code ignored;
+    const auto address = qgetenv("DBUS_SESSION_BUS_ADDRESS");
+    const auto socket = DesktopSession::fromEnvironment().runtimeDirectory / "bus"; // the default address
+    const bool hasBus = address.isEmpty() ? socket.is_absolute() && std::filesystem::is_socket(socket, ignored)
+                                          : !address.startsWith("autolaunch:");
+    if (!hasBus)
+        qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
+}
+
+} // namespace
+
 ProcessSetup::ProcessSetup()
 {
+    forbidStartingBus();
     TerminationSignals::claim(); // before any thread
     m_system = std::make_unique<System>();
 }

@@ -8,20 +8,24 @@
 
 namespace cuebright {
 
-/// Decides which of a user's launches is the one that runs; every other one hands over to it and ends. Neither a crash
-/// nor a hang of the one that runs keeps a launch waiting. Defined once for each system.
+/// Lets one instance run for each user: a further launch passes its request on to that one and ends. Neither a crash
+/// nor a hang of the running instance delays a launch by more than about a second. Defined once for each system.
 ///
-/// Needs nothing of the toolkit.
+/// Both claims return what `main` has to return where another instance runs, and nothing where this one goes on.
 class SingleInstance final {
 public:
     SingleInstance();
     ~SingleInstance();
 
-    /// What `main` returns where another instance has the request or will get it; nothing where this is the one.
-    [[nodiscard]] std::optional<int> exitStatus() const;
+    /// Decides between most launches, without a Qt application object and its start-up time.
+    [[nodiscard]] std::optional<int> claimLock();
 
-    /// Call once, as soon as the requests can be carried out. Those that have been waiting are passed on before this
-    /// returns: they are what the program was started for, so a toggle among them only shows the panel.
+    /// Decides where the lock cannot. Call it with an application object, before the first window.
+    [[nodiscard]] std::optional<int> claimName();
+
+    /// Call it once, as soon as requests can be carried out and before the event loop runs. Those that have been
+    /// waiting are passed on before this returns: they are what the program was started for, so a toggle among them
+    /// only shows the panel.
     void deliver(std::function<void(const RemoteRequest&)> perform);
 
 private:

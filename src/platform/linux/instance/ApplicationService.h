@@ -3,49 +3,33 @@
 #include "platform/RemoteRequest.h"
 #include "platform/linux/instance/InstanceClaim.h"
 
-#include <functional>
-#include <memory>
-#include <optional>
-#include <string>
-#include <utility>
-#include <vector>
+#include <QDBusConnection>
+#include <QDBusVirtualObject>
 
-class QSocketNotifier;
-struct DBusConnection;
+#include <functional>
 
 namespace cuebright {
 
-/// One instance for each session, by the program's name on the message bus, and what others ask of it there.
-///
-/// On a connection of its own, by libdbus and not through the toolkit, which could not be asked before its start. Calls
-/// wait on the connection until `deliver`.
-class ApplicationBusName final {
+/// The program on the session bus: `org.freedesktop.Application` of the Desktop Entry Specification, at the application
+/// id. Whoever owns that name is the one instance.
+class ApplicationService final : public QDBusVirtualObject {
 public:
-    /// What a launch tells the running instance: keys and texts.
-    using PlatformData = std::vector<std::pair<const char*, std::string>>;
+    /// `bus` must not be a connection that suspends delivery until the event loop runs, as
+    /// QDBusConnection::sessionBus() does.
+    explicit ApplicationService(QDBusConnection bus);
 
-    /// Of the user's session; nothing where there is none. Starts none.
-    [[nodiscard]] static std::optional<std::string> sessionBus();
+    /// Takes the name, or has its owner carry out `Activate`.
+    [[nodiscard]] InstanceClaim claim(const QVariantMap& platformData, Seconds timeout = kReplyTimeout);
 
-    explicit ApplicationBusName(std::optional<std::string> busAddress = sessionBus());
-    ~ApplicationBusName();
-    ApplicationBusName(const ApplicationBusName&) = delete;
-    ApplicationBusName& operator=(const ApplicationBusName&) = delete;
-
-    /// Takes the name, or asks its owner to activate itself.
-    [[nodiscard]] InstanceClaim claim(
-        const PlatformData& data, std::chrono::milliseconds timeout = kInstanceReplyTimeout);
-
-    /// Passes on what is asked for, from now on from the event loop. Does nothing where the claim was not granted.
+    /// Passes requests on, those that arrived since the claim immediately. Call it before the event loop runs.
     void deliver(std::function<void(const RemoteRequest&)> perform);
 
-private:
-    struct Bus;
-    void read();
+    [[nodiscard]] QString introspect(const QString& path) const override;
+    bool handleMessage(const QDBusMessage& call, const QDBusConnection& bus) override;
 
-    const std::optional<std::string> m_address;
-    std::unique_ptr<Bus> m_bus;
-    std::unique_ptr<QSocketNotifier> m_notifier;
+private:
+    QDBusConnection m_bus;
+    std::function<void(const RemoteRequest&)> m_perform;
 };
 
 } // namespace cuebright

@@ -1,19 +1,19 @@
 #pragma once
 
-#include <chrono>
+#include "foundation/Seconds.h"
 
 namespace cuebright {
 
-/// The outcome of a launch's attempt to be the one instance.
+/// The outcome of a launch's attempt to become the one instance.
 enum class InstanceClaim {
-    Granted, ///< nobody else is, and nobody else can be any more
-    HandedOver, ///< another one is, and has taken the request
-    Queued, ///< another one is, and gets the request once it runs again
-    Unreachable, ///< another one is, and cannot be told
-    Unavailable, ///< this way of asking does not exist here
+    Granted, ///< this is the one instance
+    HandedOver, ///< another instance has carried out the request
+    Queued, ///< another instance does not answer; it gets the request when it resumes
+    Unreachable, ///< another instance exists, but the request cannot be sent to it
+    Unavailable, ///< this mechanism does not work here
 };
 
-/// How long an instance that has stopped answering may hold up a launch.
-constexpr std::chrono::milliseconds kInstanceReplyTimeout {1000};
+/// The most that an instance that does not answer may delay a launch.
+constexpr Seconds kReplyTimeout {1};
 
 } // namespace cuebright

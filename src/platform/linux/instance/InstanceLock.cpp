@@ -5,8 +5,8 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <chrono>
 #include <cstdlib>
-#include <string_view>
 #include <utility>
 
 #include <fcntl.h>
@@ -21,64 +21,48 @@ namespace cuebright {
 
 namespace {
 
-using namespace std::chrono_literals;
-using Clock = std::chrono::steady_clock;
-
 constexpr std::size_t kLongestToken = 1024;
-constexpr const char* kSocketName = "instance";
-constexpr auto kInterval = 20ms; ///< between two looks at a lock that another one holds
+constexpr int kPollInterval = 20; ///< milliseconds between two attempts to take the lock
+constexpr std::size_t kLongestSocketPath = sizeof(sockaddr_un::sun_path) - 1;
 
-FileDescriptor openFolder(const std::vector<std::filesystem::path>& candidates)
+FileDescriptor openLockFile(const std::filesystem::path& folder)
 {
-    for (const auto& path : candidates) {
-        std::error_code ignored;
-        std::filesystem::create_directories(path.parent_path(), ignored);
-        ::mkdir(path.c_str(), S_IRWXU);
-        const int folder = ::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-        if (folder >= 0 && ::faccessat(folder, ".", W_OK | X_OK, AT_EACCESS) == 0)
-            return FileDescriptor(folder);
-        if (folder >= 0)
-            ::close(folder);
-    }
-    return FileDescriptor(-1);
+    std::error_code ignored;
+    std::filesystem::create_directories(folder.parent_path(), ignored);
+    ::mkdir(folder.c_str(), S_IRWXU);
+    return FileDescriptor(
+        ::open((folder / "lock").c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR));
 }
 
-int openSocket() { return ::socket(AF_UNIX, SOCK_DGRAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0); }
+FileDescriptor openSocket() { return FileDescriptor(::socket(AF_UNIX, SOCK_DGRAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0)); }
 
-/// By way of the open folder, whose own path may be longer than an address can be.
-sockaddr_un addressIn(const FileDescriptor& folder)
+sockaddr_un addressOf(const std::string& path)
 {
-    const auto path = "/proc/self/fd/" + std::to_string(folder.get()) + "/" + kSocketName;
-    sockaddr_un address {};
-    address.sun_family = AF_UNIX;
+    sockaddr_un address {AF_UNIX, {}};
     std::ranges::copy(path, address.sun_path);
     return address;
 }
 
-/// A socket that has sent the token to the one that listens, and that the answer comes to.
-std::optional<FileDescriptor> trySend(const FileDescriptor& folder, std::string_view token)
+/// False where nobody listens. The answer arrives at the same socket.
+bool trySend(const FileDescriptor& socket, std::string_view token, const std::string& path)
 {
-    FileDescriptor socket(openSocket());
-    const sockaddr_un own {AF_UNIX, {}};
-    const auto address = addressIn(folder);
-    // Bound to no name, the kernel gives it one.
-    const bool isSent = ::bind(socket.get(), reinterpret_cast<const sockaddr*>(&own), sizeof own.sun_family) == 0
-        && ::connect(socket.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0
+    const sockaddr_un unnamed {AF_UNIX, {}}; // has the kernel give the socket a name; fails if it has one
+    ::bind(socket.get(), reinterpret_cast<const sockaddr*>(&unnamed), sizeof unnamed.sun_family);
+    const auto address = addressOf(path);
+    return ::connect(socket.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0
         && ::send(socket.get(), token.data(), token.size(), MSG_NOSIGNAL) >= 0;
-    return isSent ? std::optional(std::move(socket)) : std::nullopt;
 }
 
 bool isAnswered(const FileDescriptor& socket)
 {
     pollfd waiting {socket.get(), POLLIN, 0};
     char nothing = 0;
-    return ::poll(&waiting, 1, static_cast<int>(kInterval.count())) == 1
-        && ::recv(socket.get(), &nothing, sizeof nothing, 0) >= 0;
+    return ::poll(&waiting, 1, kPollInterval) == 1 && ::recv(socket.get(), &nothing, sizeof nothing, 0) >= 0;
 }
 
 } // namespace
 
-std::vector<std::filesystem::path> InstanceLock::usualFolders()
+std::vector<std::filesystem::path> InstanceLock::defaultFolders()
 {
     constexpr std::array<std::array<const char*, 2>, 3> kPlaces {
         {{"XDG_RUNTIME_DIR", "cuebright"}, {"XDG_CACHE_HOME", "cuebright"}, {"HOME", ".cache/cuebright"}}};
@@ -92,44 +76,50 @@ std::vector<std::filesystem::path> InstanceLock::usualFolders()
 }
 
 InstanceLock::InstanceLock(const std::vector<std::filesystem::path>& folders)
-    : m_folder(openFolder(folders))
-    , m_lock(::openat(m_folder.get(), "lock", O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR))
 {
+    for (const auto& folder : folders) {
+        m_socketPath = folder / "instance";
+        if (m_socketPath.size() > kLongestSocketPath)
+            continue;
+        m_lock.emplace(openLockFile(folder));
+        if (m_lock->get() >= 0)
+            return;
+    }
+    m_lock.reset();
 }
 
 InstanceLock::~InstanceLock() = default;
 
-InstanceClaim InstanceLock::claim(const std::string& token, std::chrono::milliseconds timeout)
+InstanceClaim InstanceLock::claim(std::string_view token, Seconds timeout)
 {
-    if (m_lock.get() < 0)
+    if (!m_lock)
         return InstanceClaim::Unavailable;
-    const auto deadline = Clock::now() + timeout;
-    std::optional<FileDescriptor> conversation;
+    using Clock = std::chrono::steady_clock;
+    const auto start = Clock::now();
+    const auto request = openSocket();
+    bool isSent = false;
     do {
-        // Again each time: the other one may be on its way out.
-        if (::flock(m_lock.get(), LOCK_EX | LOCK_NB) == 0) {
+        // In every round, because the other instance may be ending.
+        if (::flock(m_lock->get(), LOCK_EX | LOCK_NB) == 0) {
             listen();
             return InstanceClaim::Granted;
         }
         if (errno != EWOULDBLOCK && errno != EINTR) // a file system without locks
             return InstanceClaim::Unavailable;
-        if (!conversation) {
-            if (auto socket = trySend(m_folder, std::string_view(token).substr(0, kLongestToken)))
-                conversation.emplace(std::move(*socket));
-        }
-        if (!conversation) // between its lock and its socket
+        isSent = isSent || trySend(request, token.substr(0, kLongestToken), m_socketPath);
+        if (!isSent) // the other instance has its lock but not yet its socket
             ::poll(nullptr, 0, 1);
-        else if (isAnswered(*conversation))
+        else if (isAnswered(request))
             return InstanceClaim::HandedOver;
-    } while (Clock::now() < deadline);
-    return conversation ? InstanceClaim::Queued : InstanceClaim::Unreachable;
+    } while (Clock::now() - start < timeout);
+    return isSent ? InstanceClaim::Queued : InstanceClaim::Unreachable;
 }
 
 void InstanceLock::listen()
 {
-    ::unlinkat(m_folder.get(), kSocketName, 0); // left behind by one that crashed
-    FileDescriptor socket(openSocket());
-    const auto address = addressIn(m_folder);
+    ::unlink(m_socketPath.c_str()); // left behind by an instance that crashed
+    auto socket = openSocket();
+    const auto address = addressOf(m_socketPath);
     if (::bind(socket.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0)
         m_socket.emplace(std::move(socket));
 }

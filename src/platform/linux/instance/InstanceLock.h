@@ -9,36 +9,37 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 class QSocketNotifier;
 
 namespace cuebright {
 
-/// One instance for each user, by a locked file and a socket beside it. The lock goes with its process, however that
-/// ends. Further launches send a datagram with their token, and get one back when it has been read.
+/// Whoever holds a lock on a file in the user's folder is the one instance; the kernel releases the lock when the
+/// process ends, however it ends. A further launch sends its activation token to the datagram socket beside the file,
+/// and receives an empty datagram when it has been handled. Needs neither Qt nor a message bus to decide.
 class InstanceLock final {
 public:
-    /// In the user's runtime directory, or the cache folder where there is none.
-    [[nodiscard]] static std::vector<std::filesystem::path> usualFolders();
+    /// In the user's runtime directory, else in the cache folder.
+    [[nodiscard]] static std::vector<std::filesystem::path> defaultFolders();
 
-    /// Takes the first of the folders that can be had.
-    explicit InstanceLock(const std::vector<std::filesystem::path>& folders = usualFolders());
+    /// Uses the first folder in which it can open the file.
+    explicit InstanceLock(const std::vector<std::filesystem::path>& folders = defaultFolders());
     ~InstanceLock();
 
-    [[nodiscard]] InstanceClaim claim(
-        const std::string& token, std::chrono::milliseconds timeout = kInstanceReplyTimeout);
+    [[nodiscard]] InstanceClaim claim(std::string_view token, Seconds timeout = kReplyTimeout);
 
-    /// Passes on what further launches ask for, from now on from the event loop. Does nothing where the claim was not
-    /// granted.
+    /// Passes requests on, those that are waiting immediately and later ones from the event loop. Does nothing unless
+    /// the claim was granted.
     void deliver(std::function<void(const RemoteRequest&)> perform);
 
 private:
     void listen();
     void receive() const;
 
-    FileDescriptor m_folder;
-    FileDescriptor m_lock;
+    std::string m_socketPath;
+    std::optional<FileDescriptor> m_lock;
     std::optional<FileDescriptor> m_socket;
     std::function<void(const RemoteRequest&)> m_perform;
     std::unique_ptr<QSocketNotifier> m_notifier;

@@ -1,6 +1,6 @@
 #include "platform/system/SingleInstance.h"
 
-#include "platform/linux/instance/ApplicationBusName.h"
+#include "platform/linux/instance/ApplicationService.h"
 #include "platform/linux/instance/InstanceLock.h"
 
 #include <cstdio>
@@ -10,16 +10,16 @@ namespace cuebright {
 
 namespace {
 
-/// What the launcher gave this process for the window that it is expected to open.
-ApplicationBusName::PlatformData launchData()
+/// What the launcher gave this process for the window it is expected to open. Qt removes it from the environment.
+QVariantMap launchData()
 {
-    ApplicationBusName::PlatformData data;
-    const auto add = [&data](const char* variable, const char* key) {
-        if (const char* const text = std::getenv(variable); text && *text != '\0')
-            data.emplace_back(key, text);
+    QVariantMap data;
+    const auto add = [&data](const char* variable, const QString& key) {
+        if (const auto text = qEnvironmentVariable(variable); !text.isEmpty())
+            data.insert(key, text);
     };
-    add("XDG_ACTIVATION_TOKEN", "activation-token");
-    add("DESKTOP_STARTUP_ID", "desktop-startup-id");
+    add("XDG_ACTIVATION_TOKEN", QStringLiteral("activation-token"));
+    add("DESKTOP_STARTUP_ID", QStringLiteral("desktop-startup-id"));
     return data;
 }
 
@@ -51,35 +51,39 @@ std::optional<int> exitStatusFor(InstanceClaim claim)
 
 } // namespace
 
-/// The lock comes first, as the quicker one, and holds without a bus too; the bus has the last word, because two
-/// programs may see one bus and different folders.
 struct SingleInstance::System {
-    InstanceLock lock;
-    ApplicationBusName name;
-    std::optional<int> exitStatus;
+    const QVariantMap data = launchData();
+    InstanceLock lock {};
+    std::optional<ApplicationService> service {};
 };
 
 SingleInstance::SingleInstance()
     : m_system(std::make_unique<System>())
 {
-    const auto data = launchData();
-    const auto lock = m_system->lock.claim(data.empty() ? std::string() : data.front().second);
-    const bool isAnswered = lock == InstanceClaim::HandedOver || lock == InstanceClaim::Queued;
-    const auto name = isAnswered ? lock : m_system->name.claim(data);
-    const bool isHeldOutOfReach = lock == InstanceClaim::Unreachable && name != InstanceClaim::HandedOver;
-    m_system->exitStatus = exitStatusFor(isHeldOutOfReach ? lock : name);
 }
 
 SingleInstance::~SingleInstance() = default;
 
-std::optional<int> SingleInstance::exitStatus() const { return m_system->exitStatus; }
+std::optional<int> SingleInstance::claimLock()
+{
+    const auto& data = m_system->data;
+    return exitStatusFor(m_system->lock.claim(data.isEmpty() ? std::string() : data.first().toString().toStdString()));
+}
+
+/// Two programs may share one bus but no folder for the lock.
+std::optional<int> SingleInstance::claimName()
+{
+    m_system->service.emplace(
+        QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("application service")));
+    return exitStatusFor(m_system->service->claim(m_system->data));
+}
 
 void SingleInstance::deliver(std::function<void(const RemoteRequest&)> perform)
 {
     const auto isStarting = std::make_shared<bool>(true);
     const auto pass = [isStarting, perform = std::move(perform)](
                           const RemoteRequest& request) { perform(*isStarting ? asFirstRequest(request) : request); };
-    m_system->name.deliver(pass);
+    m_system->service->deliver(pass);
     m_system->lock.deliver(pass);
     *isStarting = false;
 }

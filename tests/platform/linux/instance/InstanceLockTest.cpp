@@ -8,7 +8,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto kMoment = 60ms;
+constexpr Seconds kMoment {0.06};
 
 class InstanceLockTest : public testing::Test {
 protected:
@@ -17,7 +17,7 @@ protected:
     std::vector<std::string> tokens; ///< of the requests to show the panel
 };
 
-TEST_F(InstanceLockTest, AFurtherLaunchHandsItsTokenToTheFirstAtOnceOrWhenItAnswers)
+TEST_F(InstanceLockTest, AFurtherLaunchHandsItsTokenToTheFirstImmediatelyOrWhenItAnswers)
 {
     ASSERT_EQ(InstanceLock(folders).claim({}), InstanceClaim::Granted);
     ASSERT_TRUE(std::filesystem::exists(folders[0] / "instance")) << "as a crash leaves it behind";
@@ -33,15 +33,15 @@ TEST_F(InstanceLockTest, AFurtherLaunchHandsItsTokenToTheFirstAtOnceOrWhenItAnsw
     EXPECT_EQ(tokens, (std::vector<std::string> {"early", "token", ""}));
 }
 
-TEST_F(InstanceLockTest, TheFirstFolderThatCanBeHadIsTakenForTheUserAlone)
+TEST_F(InstanceLockTest, TheFirstUsableFolderIsTakenForTheUserAlone)
 {
     const auto blocked = folder.write("file", "") / "run";
     const auto deep = folder.file(std::string(120, 'x')) / "run"; // longer than the address of a socket
-    EXPECT_EQ(InstanceLock({blocked}).claim({}), InstanceClaim::Unavailable);
-    InstanceLock first({blocked, deep});
+    EXPECT_EQ(InstanceLock({blocked, deep}).claim({}), InstanceClaim::Unavailable);
+    InstanceLock first({blocked, deep, folders[0]});
     EXPECT_EQ(first.claim({}), InstanceClaim::Granted);
-    EXPECT_EQ(TemporaryFolder::modeOf(deep), 0700U);
-    EXPECT_EQ(InstanceLock({deep}).claim({}, kMoment), InstanceClaim::Queued);
+    EXPECT_EQ(TemporaryFolder::modeOf(folders[0]), 0700U);
+    EXPECT_EQ(InstanceLock(folders).claim({}, kMoment), InstanceClaim::Queued);
 }
 
 } // namespace
