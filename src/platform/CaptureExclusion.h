@@ -2,8 +2,6 @@
 
 #include "foundation/Signal.h"
 
-#include <functional>
-
 namespace cuebright {
 
 /// How the program's windows appear in a screen share or a recording: what the system is known to do, never what was
@@ -25,12 +23,14 @@ public:
     /// False while the system's answer is pending; becomes true within seconds in any case.
     [[nodiscard]] virtual bool isSettled() { return true; }
 
-    /// Call before each show. If the windows were `Excluded` and no longer are, excludes them again: `reapplied` runs
-    /// once, on the main thread, when the system confirms it, and never otherwise.
-    virtual void reapplyIfLost(std::function<void()> reapplied) = 0;
+    /// Call before each show. If the windows were `Excluded` and no longer are, excludes them again.
+    virtual void reapplyIfLost() = 0;
 
     /// Emitted after `state` or `isSettled` has changed.
     Signal<> changed;
+
+    /// The system has confirmed that the windows are `Excluded` again after `reapplyIfLost`.
+    Signal<> reapplied;
 };
 
 } // namespace cuebright

@@ -1,40 +1,38 @@
 #pragma once
 
 #include "foundation/Seconds.h"
+#include "foundation/Signal.h"
 
 #include <functional>
 #include <utility>
 
 namespace cuebright {
 
-/// Work that waits on the main queue. Letting the handle go does not cancel the work.
-class PendingTask final {
+/// Owns work that waits on the main queue: cancels it when destroyed or replaced, also from inside that work. May
+/// outlive the queue.
+class [[nodiscard]] PendingTask final {
 public:
     PendingTask() = default;
     explicit PendingTask(std::function<void()> cancel)
-        : m_cancel(std::move(cancel))
+        : m_waiting(std::move(cancel))
     {
     }
 
-    /// The work does not run (again). Nothing happens when it has run, was cancelled before, or there is none.
-    void cancel()
-    {
-        if (auto cancelNow = std::exchange(m_cancel, nullptr))
-            cancelNow();
-    }
+    /// The work does not run (again). Does nothing if it has run, was cancelled before, or there is none.
+    void cancel() { m_waiting.end(); }
 
 private:
-    std::function<void()> m_cancel;
+    Subscription m_waiting;
 };
 
-/// Runs deferred work on the main thread, one piece after the other. Work holds its target weakly (`WeakTarget`).
+/// Runs deferred work on the main thread, one piece after the other, unless its `PendingTask` goes away first.
 class MainQueue {
 public:
     virtual ~MainQueue() = default;
 
-    /// Runs `work` after the current event, and before the user's next key or click reaches what is inside a window,
-    /// even one that waits already. So it must be quick, and must not destroy windows.
-    virtual void post(std::function<void()> work) = 0;
+    /// Runs `work` after the current event, and before a widget receives the next key or click, even one that is queued
+    /// already. So it must be quick, and must not destroy windows.
+    virtual PendingTask post(std::function<void()> work) = 0;
 
     /// Runs `work` once, `delay` from now.
     virtual PendingTask after(Seconds delay, std::function<void()> work) = 0;

@@ -2,6 +2,8 @@
 
 #include "platform/UuidSource.h"
 
+#include <utility>
+
 namespace cuebright {
 
 CardStore::CardStore(const Platform& platform)
@@ -14,9 +16,22 @@ CardStore::CardStore(const Platform& platform)
     applyThemeToApp();
 }
 
-CardStore::~CardStore() = default;
+CardStore::~CardStore()
+{
+    if (const auto undoManager = m_undoManager.lock())
+        undoManager->removeAllActions();
+}
 
 void CardStore::setUndoManager(std::weak_ptr<UndoManager> undoManager) { m_undoManager = std::move(undoManager); }
+
+void CardStore::registerUndo(const std::string& actionName, std::function<void()> action)
+{
+    const auto undoManager = m_undoManager.lock();
+    if (!undoManager)
+        return;
+    undoManager->registerUndo(std::move(action));
+    undoManager->setActionName(actionName);
+}
 
 void CardStore::notifyWillChange(Property property) { willChange.notify(Change {property, m_animation}); }
 

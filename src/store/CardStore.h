@@ -1,14 +1,15 @@
 #pragma once
 
 #include "foundation/Signal.h"
-#include "foundation/WeakTarget.h"
 #include "model/AppState.h"
 #include "platform/MainQueue.h"
 #include "platform/Platform.h"
 #include "store/Change.h"
 
 #include <cstdint>
+#include <deque>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -83,6 +84,7 @@ public:
     void showFeedback(std::string message);
     [[nodiscard]] const std::optional<std::string>& feedbackMessage() const { return m_feedbackMessage; }
     /// Receives the undo steps, if there is one. Steps for cards and deck names act on the deck active when they run.
+    /// The destructor removes them.
     void setUndoManager(std::weak_ptr<UndoManager> undoManager);
 
     // Decks (CardStoreDecks.cpp)
@@ -159,7 +161,7 @@ private:
     void nameActiveDeck(std::string name);
     void performDeckInsertion(Deck deck, std::int64_t index, const std::string& actionName);
     void performDeckRemoval(std::int64_t index, const std::string& actionName);
-    template <typename Work> void registerUndo(const std::string& actionName, Work work);
+    void registerUndo(const std::string& actionName, std::function<void()> action);
 
     void openAppSupportDir();
     void readPreferences();
@@ -188,14 +190,15 @@ private:
     std::optional<std::string> m_persistentError;
     bool m_errorDismissed = false;
 
+    std::deque<PendingTask> m_deckSwitchEnds; ///< one for each switch, the oldest first
     PendingTask m_feedbackWorkItem;
     PendingTask m_saveWorkItem;
+    PendingTask m_saveReport;
     std::int64_t m_consecutiveSaveFailures = 0;
     std::filesystem::path m_appSupportDir;
     std::string m_writeBuffer; ///< reused by the next save to avoid reallocating
     std::weak_ptr<UndoManager> m_undoManager;
     std::optional<Animation> m_animation; ///< of the current `AnimatedTransaction`
-    WeakTarget m_weakTarget;
 };
 
 } // namespace cuebright

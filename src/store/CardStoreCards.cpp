@@ -100,10 +100,9 @@ void CardStore::moveActiveCard(std::int64_t distance)
 
 void CardStore::showFeedback(std::string message)
 {
-    m_feedbackWorkItem.cancel();
     set(m_feedbackMessage, std::move(message), Property::FeedbackMessage);
     m_feedbackWorkItem = m_platform.mainQueue.after(
-        kFeedbackTime, m_weakTarget.guard([this] { set(m_feedbackMessage, std::nullopt, Property::FeedbackMessage); }));
+        kFeedbackTime, [this] { set(m_feedbackMessage, std::nullopt, Property::FeedbackMessage); });
 }
 
 } // namespace cuebright

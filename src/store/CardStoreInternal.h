@@ -32,14 +32,4 @@ template <typename Value> void CardStore::set(Value& member, std::type_identity_
     member = std::move(value);
 }
 
-/// Registers `work`, which does nothing once the store is destroyed.
-template <typename Work> void CardStore::registerUndo(const std::string& actionName, Work work)
-{
-    const auto undoManager = m_undoManager.lock();
-    if (!undoManager)
-        return;
-    undoManager->registerUndo(m_weakTarget.guard(std::move(work)));
-    undoManager->setActionName(actionName);
-}
-
 } // namespace cuebright

@@ -85,8 +85,10 @@ void CardStore::switchToDeck(std::int64_t index)
         const AnimatedTransaction transaction(*this, kDeckSwitch);
         set(m_deckTransitionID, m_platform.uuids.makeUuid(), Property::DeckTransitionID);
     }
-    m_platform.mainQueue.after(
-        kDeckSwitchFlagTime, m_weakTarget.guard([this] { set(m_isDeckSwitch, false, Property::IsDeckSwitch); }));
+    m_deckSwitchEnds.push_back(m_platform.mainQueue.after(kDeckSwitchFlagTime, [this] {
+        m_deckSwitchEnds.pop_front();
+        set(m_isDeckSwitch, false, Property::IsDeckSwitch);
+    }));
     scheduleSave();
 }
 

@@ -56,8 +56,7 @@ void CardStore::applyState(AppState state)
 
 void CardStore::scheduleSave()
 {
-    m_saveWorkItem.cancel();
-    m_saveWorkItem = m_platform.mainQueue.after(kSaveDelay, m_weakTarget.guard([this] { writeToDisk(); }));
+    m_saveWorkItem = m_platform.mainQueue.after(kSaveDelay, [this] { writeToDisk(); });
 }
 
 void CardStore::flushToDisk()
@@ -93,11 +92,11 @@ void CardStore::reportSaveSuccess()
     if (m_consecutiveSaveFailures == 0)
         return;
     m_consecutiveSaveFailures = 0;
-    m_platform.mainQueue.post(m_weakTarget.guard([this] {
+    m_saveReport = m_platform.mainQueue.post([this] {
         set(m_persistentError, std::nullopt, Property::PersistentError);
         set(m_errorDismissed, false, Property::ErrorDismissed);
         showFeedback("Saved");
-    }));
+    });
 }
 
 void CardStore::reportSaveFailure(const std::string& description)
@@ -105,10 +104,10 @@ void CardStore::reportSaveFailure(const std::string& description)
     ++m_consecutiveSaveFailures;
     m_platform.log.writeLine(
         "[Cuebright] ERROR: Save failed (" + std::to_string(m_consecutiveSaveFailures) + "x): " + description);
-    m_platform.mainQueue.post(m_weakTarget.guard([this] {
+    m_saveReport = m_platform.mainQueue.post([this] {
         set(m_persistentError, kSaveFailedMessage, Property::PersistentError);
         set(m_errorDismissed, false, Property::ErrorDismissed);
-    }));
+    });
 }
 
 void CardStore::dismissError() { set(m_errorDismissed, true, Property::ErrorDismissed); }

@@ -22,7 +22,7 @@ public:
     [[nodiscard]] std::string undoActionName() const;
     [[nodiscard]] std::string redoActionName() const;
 
-    /// `action` must do nothing once its target is destroyed.
+    /// Remove the actions before anything that they refer to is destroyed.
     void registerUndo(Action action);
     /// Names the action registered last. Does nothing while undoing or redoing.
     void setActionName(std::string name);

@@ -30,8 +30,6 @@ TimerManager::TimerManager(Clock& clock, MainQueue& mainQueue)
 {
 }
 
-TimerManager::~TimerManager() { stopTimer(); }
-
 Seconds TimerManager::remaining() const { return std::max(m_countdownDuration - m_elapsed, Seconds(0)); }
 
 Seconds TimerManager::displayTime() const { return m_mode == Mode::Countdown ? remaining() : m_elapsed; }
@@ -75,7 +73,7 @@ void TimerManager::pause()
         setElapsed(m_accumulated + (m_clock.uptime() - *m_startDate));
     m_accumulated = m_elapsed;
     m_startDate.reset();
-    stopTimer();
+    m_timer.cancel();
     m_runState = RunState::Paused;
 }
 
@@ -102,7 +100,7 @@ void TimerManager::toggle()
 void TimerManager::reset()
 {
     willChange.notify();
-    stopTimer();
+    m_timer.cancel();
     m_elapsed = Seconds(0);
     m_accumulated = Seconds(0);
     m_startDate.reset();
@@ -126,11 +124,8 @@ void TimerManager::setStopwatch()
 
 void TimerManager::scheduleTimer()
 {
-    stopTimer();
-    m_timer = m_mainQueue.every(kTickInterval, m_weakTarget.guard([this] { tick(); }));
+    m_timer = m_mainQueue.every(kTickInterval, [this] { tick(); });
 }
-
-void TimerManager::stopTimer() { m_timer.cancel(); }
 
 void TimerManager::tick()
 {
@@ -139,7 +134,7 @@ void TimerManager::tick()
     willChange.notify();
     setElapsed(m_accumulated + snappedToTick(m_clock.uptime() - *m_startDate));
     if (m_mode == Mode::Countdown && m_countdownDuration <= m_elapsed)
-        stopTimer();
+        m_timer.cancel();
 }
 
 void TimerManager::setElapsed(Seconds elapsed)

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "foundation/Signal.h"
-#include "foundation/WeakTarget.h"
 #include "platform/Clock.h"
 #include "platform/MainQueue.h"
 
@@ -24,7 +23,6 @@ public:
     TimerManager(Clock& clock, MainQueue& mainQueue);
     TimerManager(const TimerManager&) = delete;
     TimerManager& operator=(const TimerManager&) = delete;
-    ~TimerManager();
 
     [[nodiscard]] Mode mode() const { return m_mode; }
     [[nodiscard]] RunState runState() const { return m_runState; }
@@ -53,7 +51,6 @@ public:
 
 private:
     void scheduleTimer();
-    void stopTimer();
     void tick();
     void setElapsed(Seconds elapsed);
 
@@ -66,7 +63,6 @@ private:
     PendingTask m_timer;
     std::optional<Seconds> m_startDate; ///< uptime of the last start or resume; absent unless running
     Seconds m_accumulated {0}; ///< elapsed before `m_startDate`
-    WeakTarget m_weakTarget;
 };
 
 } // namespace cuebright

@@ -5,7 +5,11 @@
 
 namespace cuebright::test {
 
-void FakeMainQueue::post(std::function<void()> work) { m_posted.push_back(std::move(work)); }
+PendingTask FakeMainQueue::post(std::function<void()> work)
+{
+    const auto& waiting = m_posted.emplace_back(std::make_shared<std::function<void()>>(std::move(work)));
+    return PendingTask([waiting] { *waiting = nullptr; });
+}
 
 PendingTask FakeMainQueue::after(Seconds delay, std::function<void()> work)
 {
@@ -30,8 +34,10 @@ PendingTask FakeMainQueue::schedule(Seconds delay, std::optional<Seconds> interv
 void FakeMainQueue::runPosted()
 {
     while (!m_posted.empty()) {
-        for (const auto& work : std::exchange(m_posted, {}))
-            work();
+        for (const auto& waiting : std::exchange(m_posted, {})) {
+            if (const auto work = std::exchange(*waiting, nullptr))
+                work();
+        }
     }
 }
 

@@ -56,7 +56,7 @@ public:
         : m_clock(clock)
     {
     }
-    void post(std::function<void()> work) override;
+    PendingTask post(std::function<void()> work) override;
     PendingTask after(Seconds delay, std::function<void()> work) override;
     PendingTask every(Seconds interval, std::function<void()> work) override;
 
@@ -78,7 +78,7 @@ private:
     PendingTask schedule(Seconds delay, std::optional<Seconds> interval, std::function<void()> work);
 
     FakeClock& m_clock;
-    std::vector<std::function<void()>> m_posted;
+    std::vector<std::shared_ptr<std::function<void()>>> m_posted; ///< null functions were cancelled
     std::map<int, Timed> m_timed;
     int m_nextOrder = 0;
     std::shared_ptr<const char> m_alive = std::make_shared<const char>('\0');
@@ -162,16 +162,10 @@ class FakeCaptureExclusion final : public CaptureExclusion {
 public:
     State state() override { return known; }
     bool isSettled() override { return settled; }
-    void reapplyIfLost(std::function<void()> reapplied) override
-    {
-        ++checks;
-        whenReapplied = std::move(reapplied);
-    }
+    void reapplyIfLost() override { }
 
     State known = State::Excluded;
     bool settled = true;
-    int checks = 0;
-    std::function<void()> whenReapplied; ///< of the last check
 };
 
 /// One key at a time, pressed by the test.

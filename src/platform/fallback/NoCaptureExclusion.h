@@ -13,7 +13,7 @@ public:
     }
 
     State state() override { return m_known; }
-    void reapplyIfLost(std::function<void()>) override { }
+    void reapplyIfLost() override { }
 
 private:
     State m_known;

@@ -29,7 +29,7 @@ void LinuxAccessibility::start(const QDBusConnection& sessionBus)
         settle({});
         return;
     }
-    m_timeout = m_mainQueue.after(kReplyTimeout, m_weakTarget.guard([this] { settle({}); }));
+    m_timeout = m_mainQueue.after(kReplyTimeout, [this] { settle({}); });
     m_portal =
         std::make_unique<SettingsPortal>(sessionBus, [this](const DesktopSettings& settings) { settle(settings); });
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "foundation/WeakTarget.h"
 #include "platform/Accessibility.h"
 #include "platform/MainQueue.h"
 #include "platform/linux/portal/DesktopSettings.h"
@@ -53,7 +52,6 @@ private:
     std::optional<bool> m_isDark;
     std::unique_ptr<SettingsPortal> m_portal;
     PendingTask m_timeout;
-    WeakTarget m_weakTarget;
 };
 
 } // namespace cuebright

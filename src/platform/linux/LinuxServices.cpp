@@ -82,7 +82,7 @@ public:
         m_accessibility.start(QDBusConnection::sessionBus());
         if (m_portalHotKeys)
             m_portalHotKeys->start();
-        m_mainQueue.after(kSettled, giveBackMemory);
+        m_memoryRelease = m_mainQueue.after(kSettled, giveBackMemory);
     }
 
 private:
@@ -115,6 +115,7 @@ private:
     std::optional<PortalHotKeys> m_portalHotKeys;
     NoHotKeys m_noHotKeys;
     NoWindowSystem m_noWindowSystem;
+    PendingTask m_memoryRelease;
     Subscription m_compositorSubscription;
 };
 

@@ -18,7 +18,7 @@ public:
     State state() override { return m_state; }
 
     /// Asks again; never reports, because nothing ever was `Excluded` for certain.
-    void reapplyIfLost(std::function<void()> reapplied) override;
+    void reapplyIfLost() override;
 
     /// Call for every top-level window when it is made and at each show.
     void windowAppears(WindowSystem::WindowId window);

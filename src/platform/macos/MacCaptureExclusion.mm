@@ -28,7 +28,7 @@ MacCaptureExclusion::MacCaptureExclusion()
 {
 }
 
-void MacCaptureExclusion::reapplyIfLost(std::function<void()>) { applyToAll(); }
+void MacCaptureExclusion::reapplyIfLost() { applyToAll(); }
 
 void MacCaptureExclusion::windowAppears(WindowSystem::WindowId window)
 {

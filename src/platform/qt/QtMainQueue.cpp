@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <memory>
 #include <utility>
 
 namespace cuebright {
@@ -23,16 +24,16 @@ std::chrono::milliseconds toMilliseconds(Seconds time, std::chrono::milliseconds
 void end(QTimer* timer)
 {
     timer->stop();
-    timer->disconnect(); // lets the work go now
-    timer->deleteLater(); // it may be its own work that ends it
+    timer->disconnect(); // releases the work now
+    timer->deleteLater(); // its own work may be running
 }
 
 } // namespace
 
 QtMainQueue::QtMainQueue() { QCoreApplication::instance()->installEventFilter(&m_owner); }
 
-/// The toolkit delivers all input that has come while it was busy in one go, and what was posted only then: keys would
-/// reach what the keys before them have put away. Windows see input first, and only once.
+/// Qt delivers queued input before posted events, so a key could reach a widget that the previous key closed. Runs
+/// posted work before each input event; a QWindow sees every event exactly once.
 bool QtMainQueue::Owner::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->isInputEvent() && watched->isWindowType())
@@ -40,9 +41,15 @@ bool QtMainQueue::Owner::eventFilter(QObject* watched, QEvent* event)
     return false;
 }
 
-void QtMainQueue::post(std::function<void()> work)
+PendingTask QtMainQueue::post(std::function<void()> work)
 {
-    QMetaObject::invokeMethod(&m_owner, std::move(work), Qt::QueuedConnection);
+    const auto waiting = std::make_shared<std::function<void()>>(std::move(work));
+    const auto run = [waiting] {
+        if (const auto due = std::exchange(*waiting, nullptr))
+            due();
+    };
+    QMetaObject::invokeMethod(&m_owner, run, Qt::QueuedConnection);
+    return PendingTask([waiting] { *waiting = nullptr; });
 }
 
 PendingTask QtMainQueue::after(Seconds delay, std::function<void()> work)

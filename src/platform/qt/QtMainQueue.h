@@ -10,12 +10,12 @@ namespace cuebright {
 
 /// Qt's event loop of the main thread. Times are kept to the millisecond.
 ///
-/// What still waits when the queue goes away never runs; handles may outlive it.
+/// What still waits when the queue is destroyed never runs.
 class QtMainQueue final : public MainQueue {
 public:
     QtMainQueue();
 
-    void post(std::function<void()> work) override;
+    PendingTask post(std::function<void()> work) override;
     PendingTask after(Seconds delay, std::function<void()> work) override;
     PendingTask every(Seconds interval, std::function<void()> work) override;
 

@@ -1,7 +1,5 @@
 #include "platform/qt/QtPreferences.h"
 
-#include "platform/MainQueue.h"
-
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -161,15 +159,13 @@ void QtPreferences::removeGroup(const QString& key)
 
 void QtPreferences::scheduleWrite()
 {
-    if (!std::exchange(m_writeScheduled, true))
-        m_mainQueue.post(m_weakTarget.guard([this] { write(); }));
+    m_pendingWrite = m_mainQueue.post([this] { write(); });
 }
 
 /// On a full disk QSettings can leave an empty file and call it a success (seen in Qt 6.4.2): it writes a new file,
 /// which takes the old one's place only if it reads back whole.
 void QtPreferences::write()
 {
-    m_writeScheduled = false;
     if (m_values == m_written)
         return;
     const QFileInfo old(m_file);

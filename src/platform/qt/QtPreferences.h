@@ -1,6 +1,6 @@
 #pragma once
 
-#include "foundation/WeakTarget.h"
+#include "platform/MainQueue.h"
 #include "platform/Preferences.h"
 
 #include <QMap>
@@ -9,8 +9,6 @@
 #include <filesystem>
 
 namespace cuebright {
-
-class MainQueue;
 
 /// Preferences in a settings file of QSettings, one text for each key.
 ///
@@ -48,9 +46,8 @@ private:
     QString m_file;
     Texts m_values;
     Texts m_written; ///< what the file holds
-    bool m_writeScheduled = false;
     int m_writeCount = 0;
-    WeakTarget m_weakTarget;
+    PendingTask m_pendingWrite;
 };
 
 } // namespace cuebright

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "foundation/WeakTarget.h"
 #include "platform/MainQueue.h"
 
 #include <functional>
@@ -8,8 +7,7 @@
 
 namespace cuebright {
 
-/// Runs work after the current event, once however often it is asked for. The work does not run any more when this is
-/// gone.
+/// Runs work after the current event, once however often it is requested. Destruction cancels the request.
 class CoalescedCall final {
 public:
     /// `mainQueue` must outlive this.
@@ -23,17 +21,17 @@ public:
     {
         if (std::exchange(m_isRequested, true))
             return;
-        m_mainQueue.post(m_weakTarget.guard([this] {
+        m_pendingCall = m_mainQueue.post([this] {
             m_isRequested = false;
             m_work();
-        }));
+        });
     }
 
 private:
     MainQueue& m_mainQueue;
     std::function<void()> m_work;
     bool m_isRequested = false;
-    WeakTarget m_weakTarget;
+    PendingTask m_pendingCall;
 };
 
 } // namespace cuebright

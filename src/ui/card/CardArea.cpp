@@ -1,7 +1,6 @@
 #include "ui/card/CardArea.h"
 
 #include "markdown/CardParser.h"
-#include "platform/MainQueue.h"
 #include "platform/qt/QtColors.h"
 #include "store/CardStore.h"
 #include "ui/card/CardAccessible.h"
@@ -105,16 +104,14 @@ void CardArea::updateScrollRange()
 /// Lays out what is below the screen in slices, so that the scroll bar becomes exact without holding up a key.
 void CardArea::continueLayout()
 {
-    if (m_goesOnLayingOut || !m_layout || m_layout->isComplete())
+    m_nextLayoutSlice.cancel();
+    if (!m_layout || m_layout->isComplete())
         return;
-    m_goesOnLayingOut = true;
-    m_context.platform.mainQueue.after(Seconds(0), m_weakTarget.guard([this] { // when nothing else waits
-        m_goesOnLayingOut = false;
-        if (m_layout)
-            m_layout->layOutFor(kLayoutSlice);
+    m_nextLayoutSlice = m_context.platform.mainQueue.after(Seconds(0), [this] { // when nothing else waits
+        m_layout->layOutFor(kLayoutSlice);
         updateScrollRange();
         continueLayout();
-    }));
+    });
 }
 
 bool CardArea::scrollPage(Page page)

@@ -2,7 +2,7 @@
 
 #include "foundation/Signal.h"
 #include "foundation/Uuid.h"
-#include "foundation/WeakTarget.h"
+#include "platform/MainQueue.h"
 #include "ui/base/UiContext.h"
 #include "ui/card/CardLayout.h"
 #include "ui/card/CardTransition.h"
@@ -83,8 +83,7 @@ private:
     std::optional<std::size_t> m_focusedLink; ///< among the layout's links
     std::optional<std::string> m_pressedLink;
     bool m_isSized = false; ///< before it is, laying out would be for nothing
-    bool m_goesOnLayingOut = false;
-    WeakTarget m_weakTarget;
+    PendingTask m_nextLayoutSlice;
 };
 
 } // namespace cuebright

@@ -1,6 +1,5 @@
 #include "ui/editor/MarkdownEditor.h"
 
-#include "platform/MainQueue.h"
 #include "platform/qt/QtColors.h"
 #include "platform/qt/TextConversion.h"
 #include "store/CardStore.h"
@@ -70,12 +69,12 @@ void MarkdownEditor::open()
     select(initialSelection(text()));
     if (m_manager)
         m_manager->setTextView(this);
-    m_context.platform.mainQueue.post(m_weakTarget.guard([this] {
+    m_pendingFocus = m_context.platform.mainQueue.post([this] {
         if (!m_context.store.isEditing())
             return;
         setFocus(Qt::OtherFocusReason);
         ensureCursorVisible();
-    }));
+    });
 }
 
 void MarkdownEditor::refreshText()

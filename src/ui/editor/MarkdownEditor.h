@@ -1,6 +1,6 @@
 #pragma once
 
-#include "foundation/WeakTarget.h"
+#include "platform/MainQueue.h"
 #include "ui/base/UiContext.h"
 #include "ui/editor/DocumentText.h"
 #include "ui/editor/MarkdownFormatting.h"
@@ -85,7 +85,7 @@ private:
     bool m_typingStartsNewStep = false; ///< after a step that typing must not join
     bool m_compositionReplacesSelection = false;
     bool m_keepsToOneFont = false;
-    WeakTarget m_weakTarget;
+    PendingTask m_pendingFocus;
 };
 
 } // namespace cuebright

@@ -97,9 +97,8 @@ bool FrameMemory::eventFilter(QObject*, QEvent* event)
     if (!isMove || !event->spontaneous() || !isOrdinary || m_window.geometry() == m_knownFrame)
         return false;
     m_knownFrame = m_window.geometry();
-    m_save.cancel();
     m_isSavePending = true;
-    m_save = m_context.platform.mainQueue.after(kSaveDelay, m_weakTarget.guard([this] { save(); }));
+    m_save = m_context.platform.mainQueue.after(kSaveDelay, [this] { save(); });
     return false;
 }
 

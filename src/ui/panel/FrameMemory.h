@@ -1,6 +1,5 @@
 #pragma once
 
-#include "foundation/WeakTarget.h"
 #include "platform/MainQueue.h"
 
 #include <QObject>
@@ -42,7 +41,6 @@ private:
     QRect m_knownFrame;
     bool m_isSavePending = false;
     PendingTask m_save;
-    WeakTarget m_weakTarget;
 };
 
 } // namespace cuebright

@@ -50,14 +50,13 @@ void HeaderView::refresh()
 
 void HeaderView::pulse()
 {
-    m_pulseEnd.cancel();
     m_showReturnPulse = true;
     refresh();
     m_eyebrow->announce();
-    m_pulseEnd = m_context.platform.mainQueue.after(kPulseTime, m_weakTarget.guard([this] {
+    m_pulseEnd = m_context.platform.mainQueue.after(kPulseTime, [this] {
         m_showReturnPulse = false;
         refresh();
-    }));
+    });
 }
 
 } // namespace cuebright

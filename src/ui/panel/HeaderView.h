@@ -1,6 +1,5 @@
 #pragma once
 
-#include "foundation/WeakTarget.h"
 #include "platform/MainQueue.h"
 #include "ui/base/UiContext.h"
 
@@ -28,7 +27,6 @@ private:
     DeckPicker* m_deckPicker;
     bool m_showReturnPulse = false;
     PendingTask m_pulseEnd;
-    WeakTarget m_weakTarget;
 };
 
 } // namespace cuebright

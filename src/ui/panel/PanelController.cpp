@@ -61,11 +61,7 @@ PanelController::PanelController(const UiContext& context)
     context.store.setUndoManager(m_panel->undoManager());
 }
 
-PanelController::~PanelController()
-{
-    m_storeUpdate.cancel();
-    m_context.desktop.windowSystem.release(m_panel->winId());
-}
+PanelController::~PanelController() { m_context.desktop.windowSystem.release(m_panel->winId()); }
 
 void PanelController::configureContent()
 {
@@ -88,7 +84,7 @@ void PanelController::togglePanel()
 
 void PanelController::showPanel()
 {
-    reapplyCaptureExclusion(); // before anything can be seen
+    m_context.desktop.captureExclusion.reapplyIfLost(); // before anything can be seen
     m_isMeantToShow = true; // before followPanel() hears of the show
     prepareToShow();
     m_panel->orderFront();
@@ -132,14 +128,6 @@ void PanelController::followPanel()
     m_showHideAnimation.reset();
 }
 
-void PanelController::reapplyCaptureExclusion()
-{
-    m_context.desktop.captureExclusion.reapplyIfLost(m_weakTarget.guard([this] {
-        m_context.platform.log.writeLine("[Cuebright] WARNING: sharingType was reset — re-applied .none");
-        m_context.store.showFeedback("Protection re-applied");
-    }));
-}
-
 void PanelController::setContentCovered(bool isCovered)
 {
     m_isContentCovered = isCovered;
@@ -178,12 +166,14 @@ void PanelController::observeStore()
 {
     // Any change restarts the delay, also one that the window does not show.
     m_storeSubscription = m_context.store.willChange.subscribe([this](const Change&) {
-        m_storeUpdate.cancel();
-        m_storeUpdate =
-            m_context.platform.mainQueue.after(kStoreDebounce, m_weakTarget.guard([this] { followStore(); }));
+        m_storeUpdate = m_context.platform.mainQueue.after(kStoreDebounce, [this] { followStore(); });
     });
     m_accessibilitySubscription = m_context.platform.accessibility.changed.subscribe([this] { applyOpacity(); });
     m_exclusionSubscription = m_context.desktop.captureExclusion.changed.subscribe([this] { reportShareStatus(); });
+    m_reappliedSubscription = m_context.desktop.captureExclusion.reapplied.subscribe([this] {
+        m_context.platform.log.writeLine("[Cuebright] WARNING: sharingType was reset — re-applied .none");
+        m_context.store.showFeedback("Protection re-applied");
+    });
 }
 
 void PanelController::followStore()

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "foundation/Signal.h"
-#include "foundation/WeakTarget.h"
 #include "platform/Clock.h"
 #include "platform/MainQueue.h"
 #include "ui/base/UiContext.h"
@@ -52,7 +51,6 @@ private:
     void applyOpacity();
 
     void followPanel();
-    void reapplyCaptureExclusion();
     void prepareToShow();
     void reportShareStatus();
     void reportReturnAfterAbsence();
@@ -69,10 +67,10 @@ private:
     bool m_isShareStatusDue = true;
     bool m_isContentCovered = false;
     PendingTask m_storeUpdate;
-    WeakTarget m_weakTarget;
     Subscription m_storeSubscription;
     Subscription m_accessibilitySubscription;
     Subscription m_exclusionSubscription;
+    Subscription m_reappliedSubscription;
     Subscription m_panelSubscription;
     Subscription m_minimisedSubscription;
     Subscription m_toggleSubscription;

@@ -8,9 +8,11 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace cuebright::test {
 
@@ -25,10 +27,10 @@ protected:
     /// Runs the event loop for `delay`.
     [[nodiscard]] bool letPass(Seconds delay)
     {
-        auto passed = std::make_shared<bool>(false);
+        bool hasPassed = false;
         QtMainQueue other;
-        other.after(delay, [passed] { *passed = true; });
-        return waitUntil([&] { return *passed; });
+        const auto end = other.after(delay, [&] { hasPassed = true; });
+        return waitUntil([&] { return hasPassed; });
     }
 
     std::string ran;
@@ -39,11 +41,12 @@ protected:
 
 TEST_F(QtMainQueueTest, PostedWorkRunsLaterInOrderAndMayPostMore)
 {
-    queue->post([&] {
+    PendingTask last;
+    const auto first = queue->post([&] {
         ran += 'a';
-        queue->post(note('c'));
+        last = queue->post(note('c'));
     });
-    queue->post(note('b'));
+    const auto second = queue->post(note('b'));
     EXPECT_EQ(ran, "");
     EXPECT_TRUE(waitUntil([&] { return ran == "abc"; })) << ran;
 }
@@ -56,7 +59,7 @@ TEST_F(QtMainQueueTest, PostedWorkRunsBeforeAWindowGetsTheNextKey)
         std::string seen;
     } window;
     window.text = &ran;
-    queue->post(note('a'));
+    const auto posted = queue->post(note('a'));
     QKeyEvent key(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier);
     QCoreApplication::sendEvent(&window, &key);
     EXPECT_EQ(window.seen, "a");
@@ -68,11 +71,11 @@ TEST_F(QtMainQueueTest, DelayedWorkRunsOnceInTheOrderOfItsTimesAndNotEarly)
     elapsed.start();
     qint64 ranAfter = 0;
     auto never = queue->after(Seconds(1e300), note('x'));
-    queue->after(Seconds(0.03), [&] {
+    const auto third = queue->after(Seconds(0.03), [&] {
         ran += 'c';
         ranAfter = elapsed.nsecsElapsed();
     });
-    queue->after(Seconds(0.015), note('b'));
+    const auto second = queue->after(Seconds(0.015), note('b'));
     auto first = queue->after(Seconds(-5), note('a'));
     EXPECT_TRUE(waitUntil([&] { return ran == "abc"; })) << ran;
     EXPECT_GE(ranAfter, 29'000'000);
@@ -80,6 +83,23 @@ TEST_F(QtMainQueueTest, DelayedWorkRunsOnceInTheOrderOfItsTimesAndNotEarly)
     EXPECT_TRUE(letPass(Seconds(0.04)));
     EXPECT_EQ(ran, "abc");
     never.cancel();
+}
+
+TEST_F(QtMainQueueTest, WorkWithoutItsHandleNeverRunsAndIsReleasedImmediately)
+{
+    const auto held = std::make_shared<int>();
+    const auto work = [this, held] { ran += 'a'; };
+    for (const auto end : {+[](PendingTask& task) { task.cancel(); }, +[](PendingTask& task) { task = {}; },
+             +[](PendingTask& task) { const auto destroyed = std::move(task); }}) {
+        std::array tasks {queue->post(work), queue->after(Seconds(0.002), work), queue->every(Seconds(0.002), work)};
+        for (auto& task : tasks) {
+            end(task);
+            task.cancel(); // nothing is left to cancel
+        }
+        EXPECT_EQ(held.use_count(), 2);
+    }
+    EXPECT_TRUE(letPass(Seconds(0.01)));
+    EXPECT_EQ(ran, "");
 }
 
 TEST_F(QtMainQueueTest, WorkMayCancelItselfAndStartAnew)
@@ -101,6 +121,25 @@ TEST_F(QtMainQueueTest, WorkMayCancelItselfAndStartAnew)
     EXPECT_TRUE(letPass(Seconds(0.01)));
     EXPECT_EQ(ran, "aaastill hereb");
     EXPECT_EQ(held.use_count(), 1);
+}
+
+TEST_F(QtMainQueueTest, WorkMayDestroyItsOwnHandle)
+{
+    const auto held = std::make_shared<std::string>("a");
+    std::vector<PendingTask> tasks(3);
+    const auto destroyHandle = [&, held](std::size_t index) {
+        return [&, held, index] {
+            tasks[index] = {};
+            ran += *held;
+        };
+    };
+    tasks[0] = queue->post(destroyHandle(0));
+    tasks[1] = queue->after(Seconds(0), destroyHandle(1));
+    tasks[2] = queue->every(Seconds(0.001), destroyHandle(2));
+    EXPECT_TRUE(waitUntil([&] { return ran == "aaa"; })) << ran;
+    EXPECT_TRUE(letPass(Seconds(0.005)));
+    EXPECT_EQ(ran, "aaa");
+    EXPECT_EQ(held.use_count(), 2);
 }
 
 } // namespace cuebright::test

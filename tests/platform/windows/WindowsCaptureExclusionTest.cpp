@@ -49,10 +49,11 @@ protected:
     int reappliedOnShow()
     {
         int count = 0;
-        exclusion.reapplyIfLost([&] {
+        const auto reapplied = exclusion.reapplied.subscribe([&] {
             EXPECT_EQ(affinity.values[kPanel], kExclude) << "reported before it was done";
             ++count;
         });
+        exclusion.reapplyIfLost();
         return count;
     }
 

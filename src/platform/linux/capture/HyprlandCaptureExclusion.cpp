@@ -81,8 +81,7 @@ void HyprlandCaptureExclusion::sendRule(HyprlandVersion version, HyprlandLanguag
 
 void HyprlandCaptureExclusion::startTimeout()
 {
-    m_deadline.cancel();
-    m_deadline = m_mainQueue.after(kReplyTimeout, m_self.guard([this] { giveUp(); }));
+    m_deadline = m_mainQueue.after(kReplyTimeout, [this] { giveUp(); });
 }
 
 void HyprlandCaptureExclusion::lookUpWindows()

@@ -2,7 +2,6 @@
 
 #include "platform/CaptureExclusion.h"
 
-#include "foundation/WeakTarget.h"
 #include "platform/MainQueue.h"
 #include "platform/linux/capture/HyprlandIpc.h"
 #include "platform/linux/capture/HyprlandMessages.h"
@@ -29,7 +28,7 @@ public:
     State state() override { return m_state; }
     bool isSettled() override { return m_isSettled; }
     /// Nothing is ever `Excluded` here.
-    void reapplyIfLost(std::function<void()>) override { }
+    void reapplyIfLost() override { }
 
 private:
     void sendRuleAnew();
@@ -51,7 +50,6 @@ private:
     bool m_isUnverified = false; ///< the rule was accepted while there was no window to ask
     bool m_hasNewWindow = false; ///< since the windows were last looked up
     PendingTask m_deadline;
-    WeakTarget m_self;
     Subscription m_reloadSubscription;
     Subscription m_windowSubscription;
     Subscription m_lostSubscription;

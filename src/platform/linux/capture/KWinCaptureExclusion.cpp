@@ -26,7 +26,6 @@ KWinCaptureExclusion::KWinCaptureExclusion(std::unique_ptr<KWinScripting> script
 
 KWinCaptureExclusion::~KWinCaptureExclusion()
 {
-    m_deadline.cancel();
     if (m_isPresent)
         m_scripting->unload(kPlugin, {});
 }
@@ -37,11 +36,11 @@ void KWinCaptureExclusion::start()
     m_scripting->start();
 }
 
-void KWinCaptureExclusion::reapplyIfLost(std::function<void()> reapplied)
+void KWinCaptureExclusion::reapplyIfLost()
 {
     if (!m_wasExcluded || m_state == State::Excluded)
         return;
-    m_reapplied = std::move(reapplied);
+    m_isReapplying = true;
     if (m_isPresent && m_isSettled)
         load();
 }
@@ -59,8 +58,7 @@ void KWinCaptureExclusion::beginAttempt()
 {
     ++m_attempt;
     m_isRunning = false;
-    m_deadline.cancel();
-    m_deadline = m_mainQueue.after(kReplyTimeout, m_self.guard([this] { settle(State::Unknown); }));
+    m_deadline = m_mainQueue.after(kReplyTimeout, [this] { settle(State::Unknown); });
 }
 
 void KWinCaptureExclusion::load()
@@ -102,10 +100,10 @@ void KWinCaptureExclusion::takeReport(std::string_view word)
     if (word != "omitted")
         return settle(State::Unknown);
     m_wasExcluded = true;
-    const auto reapplied = std::exchange(m_reapplied, nullptr);
+    const bool wasReapplying = std::exchange(m_isReapplying, false);
     settle(State::Excluded);
-    if (reapplied)
-        reapplied();
+    if (wasReapplying)
+        reapplied.notify();
 }
 
 void KWinCaptureExclusion::setState(State state, bool isSettled)
@@ -121,7 +119,7 @@ void KWinCaptureExclusion::settle(State state)
 {
     m_deadline.cancel();
     if (state == State::Unknown)
-        m_reapplied = nullptr; // a success long after the show that asked would only puzzle
+        m_isReapplying = false; // a success long after the show that asked would only puzzle
     setState(state, true);
 }
 

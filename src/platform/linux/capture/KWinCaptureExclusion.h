@@ -2,11 +2,9 @@
 
 #include "platform/CaptureExclusion.h"
 
-#include "foundation/WeakTarget.h"
 #include "platform/MainQueue.h"
 #include "platform/linux/capture/KWinScripting.h"
 
-#include <functional>
 #include <memory>
 #include <string_view>
 
@@ -26,7 +24,7 @@ public:
 
     State state() override { return m_state; }
     bool isSettled() override { return m_isSettled; }
-    void reapplyIfLost(std::function<void()> reapplied) override;
+    void reapplyIfLost() override;
 
 private:
     void followCompositor(KWinScripting::Availability availability);
@@ -46,8 +44,7 @@ private:
     bool m_isRunning = false; ///< what is reported comes from the script of this attempt
     int m_attempt = 0; ///< replies to an earlier one are not for us any more
     PendingTask m_deadline;
-    std::function<void()> m_reapplied;
-    WeakTarget m_self;
+    bool m_isReapplying = false;
     Subscription m_availabilitySubscription;
     Subscription m_reportSubscription;
 };

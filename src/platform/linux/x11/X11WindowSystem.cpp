@@ -32,7 +32,7 @@ X11WindowSystem::X11WindowSystem(const X11Connection& x11, MainQueue& mainQueue)
 
 void X11WindowSystem::keepAboveFullScreen(WindowId window)
 {
-    m_windows.insert(static_cast<xcb_window_t>(window));
+    m_windows.try_emplace(static_cast<xcb_window_t>(window));
     // 0: no focus when the window is mapped. Qt 6.4 writes that only after mapping a window that was minimised.
     m_x11.setProperty(static_cast<xcb_window_t>(window), m_userTimeAtom, XCB_ATOM_CARDINAL, {0});
     followActiveWindow();
@@ -106,10 +106,8 @@ void X11WindowSystem::followActiveWindow()
     if (fullScreenWindow == m_fullScreenWindow)
         return;
     m_formerFullScreenWindow = std::exchange(m_fullScreenWindow, fullScreenWindow);
-    m_forgetFormer.cancel();
-    m_forgetFormer = m_mainQueue.after(
-        kMinimisedTogether, m_weakTarget.guard([this] { m_formerFullScreenWindow = XCB_WINDOW_NONE; }));
-    for (const auto window : m_windows)
+    m_forgetFormer = m_mainQueue.after(kMinimisedTogether, [this] { m_formerFullScreenWindow = XCB_WINDOW_NONE; });
+    for (const auto& [window, check] : m_windows)
         updateTransience(window);
 }
 
@@ -138,13 +136,13 @@ void X11WindowSystem::checkMinimised(xcb_window_t window)
     const std::array below {m_fullScreenWindow, m_formerFullScreenWindow};
     if (below == kNone)
         return;
-    m_mainQueue.after(kMinimisedTogether, m_weakTarget.guard([this, window, below] {
+    m_windows[window] = m_mainQueue.after(kMinimisedTogether, [this, window, below] {
         const bool isMinimisedTogether = std::ranges::any_of(below, [this](auto other) { return isMinimised(other); });
-        if (!m_windows.contains(window) || !isMinimised(window) || !isMinimisedTogether)
+        if (!isMinimised(window) || !isMinimisedTogether)
             return;
         m_formerFullScreenWindow = XCB_WINDOW_NONE; // the next time it is minimised on its own
         minimisedWithFullScreen.notify(window);
-    }));
+    });
 }
 
 /// A minimised window is withdrawn before it is shown again, and the window manager may clear its state only after Qt

@@ -1,13 +1,12 @@
 #pragma once
 
-#include "foundation/WeakTarget.h"
 #include "platform/MainQueue.h"
 #include "platform/WindowSystem.h"
 #include "platform/linux/x11/X11Connection.h"
 
 #include <QAbstractNativeEventFilter>
 
-#include <set>
+#include <map>
 
 namespace cuebright {
 
@@ -44,14 +43,13 @@ private:
     const xcb_atom_t m_userTimeAtom;
     const xcb_atom_t m_blurAtom;
     const xcb_atom_t m_managedAtom;
-    std::set<xcb_window_t> m_windows; ///< kept above others
+    std::map<xcb_window_t, PendingTask> m_windows; ///< kept above others, each with its pending checkMinimised
     xcb_window_t m_watched = XCB_WINDOW_NONE; ///< the active window, unless it is one of m_windows
     std::uint32_t m_eventsBefore = 0; ///< the watched window's event mask before we watched it
     xcb_window_t m_fullScreenWindow = XCB_WINDOW_NONE; ///< m_watched while it is full-screen
     xcb_window_t m_formerFullScreenWindow =
         XCB_WINDOW_NONE; ///< the previous m_fullScreenWindow, for kMinimisedTogether
     PendingTask m_forgetFormer;
-    WeakTarget m_weakTarget;
 };
 
 } // namespace cuebright

@@ -30,12 +30,12 @@ WindowsCaptureExclusion::WindowsCaptureExclusion(DisplayAffinity& affinity)
 {
 }
 
-void WindowsCaptureExclusion::reapplyIfLost(std::function<void()> reapplied)
+void WindowsCaptureExclusion::reapplyIfLost()
 {
     const bool isLost = m_wasExcluded && readBack() != State::Excluded;
     applyToAll();
     if (isLost && state() == State::Excluded)
-        reapplied();
+        reapplied.notify();
 }
 
 void WindowsCaptureExclusion::windowAppears(WindowSystem::WindowId window)

@@ -22,7 +22,7 @@ public:
 
     State state() override { return readBack(); }
     bool isSettled() override { return !m_windows.empty(); }
-    void reapplyIfLost(std::function<void()> reapplied) override;
+    void reapplyIfLost() override;
 
     /// Call for every top-level window when it is made, at each show and once it shows: hide and show, and becoming
     /// translucent, can lose the affinity.

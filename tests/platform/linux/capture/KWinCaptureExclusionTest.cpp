@@ -150,7 +150,8 @@ TEST_F(KWinCaptureExclusionTest, ARestartedKWinIsAskedAnewAndBelievedOnlyThen)
 TEST_F(KWinCaptureExclusionTest, OnlyALostExclusionIsReappliedAndConfirmedOnce)
 {
     int reapplied = 0;
-    const auto reapply = [&] { exclusion->reapplyIfLost([&] { ++reapplied; }); };
+    const auto reappliedSubscription = exclusion->reapplied.subscribe([&] { ++reapplied; });
+    const auto reapply = [&] { exclusion->reapplyIfLost(); };
     startWith("refused");
     kwin->calls.clear();
     reapply(); // was never excluded
