@@ -90,11 +90,11 @@ void AppDelegate::showOnboarding()
     auto& content = panelController.content();
     const auto overlay = new OnboardingOverlay(m_context, &content);
     panelController.setContentCovered(true);
-    overlay->finished = [overlay, &panelController, &content] {
+    QObject::connect(overlay, &OnboardingOverlay::finished, &content, [overlay, &panelController, &content] {
         overlay->deleteLater();
         content.takeFocus();
         panelController.setContentCovered(false);
-    };
+    });
 }
 
 } // namespace cuebright

@@ -82,11 +82,7 @@ EditCommands::EditCommands(const CardStore& store, const NotesPanel& panel)
     });
 }
 
-void EditCommands::notify()
-{
-    if (targetChanged)
-        targetChanged();
-}
+void EditCommands::notify() { targetChanged.notify(); }
 
 QWidget* EditCommands::focusedText() const
 {

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "foundation/Signal.h"
 #include "ui/menu/Command.h"
 
 #include <QObject>
 #include <QPointer>
 
-#include <functional>
 #include <memory>
 #include <string>
 
@@ -34,8 +34,8 @@ public:
     [[nodiscard]] std::string title(Command undoOrRedo) const;
     [[nodiscard]] bool isEnabled(Command undoOrRedo) const;
 
-    /// Called when another widget has the focus, or Undo or Redo has become available or unavailable in the text.
-    std::function<void()> targetChanged;
+    /// Another widget has the focus, or Undo or Redo has become available or unavailable in the focused text.
+    Signal<> targetChanged;
 
 private:
     [[nodiscard]] QWidget* focusedText() const;

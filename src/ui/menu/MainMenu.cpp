@@ -58,10 +58,8 @@ MainMenu::MainMenu(
     });
     m_undoSubscription = panel.undoManager()->changed.subscribe([this] { m_refresh.request(); });
     m_panelSubscription = panel.isBlockedChanged.subscribe([this] { m_refresh.request(); });
-    edit.targetChanged = [this] { m_refresh.request(); };
+    m_editSubscription = edit.targetChanged.subscribe([this] { m_refresh.request(); });
 }
-
-MainMenu::~MainMenu() { m_edit.targetChanged = nullptr; }
 
 void MainMenu::addItems(QMenu& menu, const std::vector<MenuItem>& items)
 {

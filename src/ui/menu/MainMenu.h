@@ -31,7 +31,6 @@ public:
     /// `perform` gets every command but those that `edit` performs. While a sheet on the panel waits for an answer,
     /// none that changes cards can be had. All that is passed in must outlive this.
     MainMenu(const UiContext& context, EditCommands& edit, NotesPanel& panel, std::function<void(Command)> perform);
-    ~MainMenu();
     MainMenu(const MainMenu&) = delete;
     MainMenu& operator=(const MainMenu&) = delete;
 
@@ -57,6 +56,7 @@ private:
     Subscription m_storeSubscription;
     Subscription m_undoSubscription;
     Subscription m_panelSubscription;
+    Subscription m_editSubscription;
 };
 
 } // namespace cuebright

@@ -37,11 +37,8 @@ constexpr Animation kPageTurn {Animation::Curve::EaseInOut, Seconds(0.2)};
 
 OnboardingOverlay* overlayOn(const QWidget* widget)
 {
-    for (const auto child : widget->children()) {
-        if (const auto overlay = dynamic_cast<OnboardingOverlay*>(child); overlay && !overlay->isHidden())
-            return overlay;
-    }
-    return nullptr;
+    const auto overlay = widget->findChild<OnboardingOverlay*>(QString(), Qt::FindDirectChildrenOnly);
+    return overlay && !overlay->isHidden() ? overlay : nullptr;
 }
 
 /// What a screen reader sees of the widget below: while the overlay is up, only that.
@@ -192,8 +189,7 @@ void OnboardingOverlay::finish()
     hide();
     QAccessibleEvent reordered(parentWidget(), QAccessible::ObjectReorder);
     QAccessible::updateAccessibility(&reordered);
-    if (finished)
-        finished();
+    Q_EMIT finished();
 }
 
 /// The card is as high as its highest page needs it, so that the button stays under the pointer. In a low panel the

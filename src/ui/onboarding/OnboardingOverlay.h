@@ -6,7 +6,6 @@
 
 #include <QWidget>
 
-#include <functional>
 #include <vector>
 
 namespace cuebright {
@@ -17,6 +16,8 @@ class OnboardingPageView;
 /// The introduction at the first run, over the whole of its parent: four pages, forward only. While it is up, keyboard
 /// focus stays on it and a screen reader sees nothing else of the parent.
 class OnboardingOverlay final : public QWidget {
+    Q_OBJECT
+
 public:
     OnboardingOverlay(const UiContext& context, QWidget* parent);
     ~OnboardingOverlay() override;
@@ -30,8 +31,9 @@ public:
     /// Goes to the next page; on the last one notes that it is done, and vanishes.
     void advance();
 
-    /// Called when it has vanished; the overlay may then be deleted by `deleteLater`.
-    std::function<void()> finished;
+Q_SIGNALS:
+    /// The overlay is hidden; a listener may delete it with `deleteLater`.
+    void finished();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

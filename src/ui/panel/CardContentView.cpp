@@ -72,7 +72,7 @@ CardContentView::CardContentView(const UiContext& context, QWidget* parent)
     m_column->addWidget(m_rule);
     m_column->addSpacing(kGap);
     m_column->addWidget(m_footer);
-    m_footer->focusLost = [this] { takeFocus(); };
+    connect(m_footer, &FooterView::focusLost, this, &CardContentView::takeFocus);
     refresh();
 
     m_storeSubscription =

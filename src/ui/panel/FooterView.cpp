@@ -98,7 +98,7 @@ void FooterView::refresh()
         m_feedbackLabel->setText(toQString(*m_content.feedback));
     // Otherwise Qt moves the focus to the other arrow, and the next press would go back.
     if ((m_previous->hasFocus() && !m_content.canGoPrev) || (m_next->hasFocus() && !m_content.canGoNext))
-        focusLost();
+        Q_EMIT focusLost();
     m_previous->setEnabled(m_content.canGoPrev);
     m_next->setEnabled(m_content.canGoNext);
     for (const auto button : {m_edit, m_previous, m_next})

@@ -20,16 +20,19 @@ class TimerView;
 
 /// The panel's last line: position, word count, timer, messages and the buttons.
 class FooterView final : public QWidget {
+    Q_OBJECT
+
 public:
     FooterView(const UiContext& context, TimerManager& timer, QWidget* parent);
 
     void refresh();
 
-    /// Called when the focused button becomes disabled.
-    std::function<void()> focusLost;
-
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return {0, sizeHint().height()}; }
+
+Q_SIGNALS:
+    /// The button with the focus is about to be disabled.
+    void focusLost();
 
 protected:
     bool event(QEvent* event) override;

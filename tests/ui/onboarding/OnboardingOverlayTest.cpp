@@ -31,7 +31,7 @@ protected:
         panel.resize(480, 360);
         below.setAccessibleName(u"below"_s);
         overlay = new OnboardingOverlay(context, &panel);
-        overlay->finished = [this] { ++finishes; };
+        QObject::connect(overlay, &OnboardingOverlay::finished, overlay, [this] { ++finishes; });
         activate(panel);
     }
     QWidget& button() { return *find(*overlay, overlay->currentPage() < 3 ? "Next page" : "Get started"); }
