@@ -6,8 +6,6 @@
 
 #include <QAccessible>
 
-#include <algorithm>
-
 namespace cuebright {
 
 namespace {
@@ -18,19 +16,19 @@ QRect onScreen(const CardArea& area, const QRectF& rect)
     return {area.viewport()->mapToGlobal(inViewport.topLeft()), inViewport.size()};
 }
 
-/// A link in a block.
+/// A link of a block, which owns it.
 class LinkAccessible final : public QAccessibleInterface, public QAccessibleActionInterface {
 public:
-    LinkAccessible(CardArea& area, QAccessibleInterface& block, CardLayout::Link link)
+    LinkAccessible(const CardArea& area, const BlockAccessible& block, const CardLayout::Link& link)
         : m_area(area)
         , m_block(block)
-        , m_link(std::move(link))
+        , m_link(link)
     {
     }
 
     bool isValid() const override { return true; }
     QObject* object() const override { return nullptr; }
-    QAccessibleInterface* parent() const override { return &m_block; }
+    QAccessibleInterface* parent() const override { return const_cast<BlockAccessible*>(&m_block); }
     int childCount() const override { return 0; }
     QAccessibleInterface* child(int) const override { return nullptr; }
     int indexOfChild(const QAccessibleInterface*) const override { return -1; }
@@ -68,9 +66,9 @@ public:
     QStringList keyBindingsForAction(const QString&) const override { return {}; }
 
 private:
-    CardArea& m_area;
-    QAccessibleInterface& m_block;
-    CardLayout::Link m_link;
+    const CardArea& m_area;
+    const BlockAccessible& m_block;
+    const CardLayout::Link& m_link;
 };
 
 } // namespace
@@ -88,15 +86,8 @@ QString accessibleLabel(const CardLayout& layout, std::size_t block)
 BlockAccessible::BlockAccessible(CardArea& area, std::size_t block)
     : m_area(area)
     , m_block(block)
+    , m_links(area.cardLayout()->linksIn(block))
 {
-    for (auto& link : area.cardLayout()->linksIn(block))
-        m_links.push_back(QAccessible::registerAccessibleInterface(new LinkAccessible(area, *this, std::move(link))));
-}
-
-BlockAccessible::~BlockAccessible()
-{
-    for (const auto id : m_links)
-        QAccessible::deleteAccessibleInterface(id);
 }
 
 CardLayout* BlockAccessible::layout() const
@@ -109,25 +100,10 @@ QAccessibleInterface* BlockAccessible::parent() const { return QAccessible::quer
 
 QAccessibleInterface* BlockAccessible::child(int index) const
 {
-    return index >= 0 && index < childCount()
-        ? QAccessible::accessibleInterface(m_links[static_cast<std::size_t>(index)])
-        : nullptr;
-}
-
-int BlockAccessible::indexOfChild(const QAccessibleInterface* child) const
-{
-    const auto isChild = [child](QAccessible::Id id) { return QAccessible::accessibleInterface(id) == child; };
-    const auto it = std::find_if(m_links.begin(), m_links.end(), isChild);
-    return it == m_links.end() ? -1 : static_cast<int>(it - m_links.begin());
-}
-
-QAccessibleInterface* BlockAccessible::childAt(int x, int y) const
-{
-    for (int i = 0; i < childCount(); ++i) {
-        if (child(i)->rect().contains(x, y))
-            return child(i);
-    }
-    return nullptr;
+    if (index < 0 || index >= childCount())
+        return nullptr;
+    return m_children.at(
+        index, [&] { return new LinkAccessible(m_area, *this, m_links[static_cast<std::size_t>(index)]); });
 }
 
 QString BlockAccessible::text(QAccessible::Text kind) const

@@ -3,8 +3,6 @@
 #include "ui/card/BlockAccessible.h"
 #include "ui/card/CardArea.h"
 
-#include <algorithm>
-
 namespace cuebright {
 
 namespace {
@@ -20,22 +18,20 @@ QAccessibleInterface* makeInterface(const QString&, QObject* object)
 CardAccessible::CardAccessible(CardArea& area)
     : QAccessibleWidget(&area, QAccessible::Document)
     , m_area(area)
-    , m_contentSubscription(area.contentChanged.subscribe([this] { takeChangedContent(); }))
+    , m_contentSubscription(area.contentChanged.subscribe([this] { onContentChanged(); }))
 {
 }
 
-CardAccessible::~CardAccessible() { forgetChildren(); }
-
 void CardAccessible::install() { QAccessible::installFactory(makeInterface); }
 
-void CardAccessible::takeChangedContent()
+void CardAccessible::onContentChanged()
 {
-    forgetChildren();
+    m_children.clear();
     QAccessibleEvent event(&m_area, QAccessible::ObjectReorder);
     QAccessible::updateAccessibility(&event);
 }
 
-void CardAccessible::focusMoved(CardArea& area)
+void CardAccessible::notifyFocusMoved(CardArea& area)
 {
     if (!QAccessible::isActive())
         return;
@@ -57,15 +53,6 @@ QAccessibleInterface* CardAccessible::focusChild() const
     return QAccessibleWidget::focusChild();
 }
 
-void CardAccessible::forgetChildren()
-{
-    for (const auto id : m_children) {
-        if (id != 0)
-            QAccessible::deleteAccessibleInterface(id);
-    }
-    m_children.clear();
-}
-
 int CardAccessible::childCount() const
 {
     const auto layout = m_area.cardLayout();
@@ -76,28 +63,7 @@ QAccessibleInterface* CardAccessible::child(int index) const
 {
     if (index < 0 || index >= childCount())
         return nullptr;
-    m_children.resize(static_cast<std::size_t>(childCount()));
-    auto& id = m_children[static_cast<std::size_t>(index)];
-    if (id == 0)
-        id = QAccessible::registerAccessibleInterface(new BlockAccessible(m_area, static_cast<std::size_t>(index)));
-    return QAccessible::accessibleInterface(id);
-}
-
-int CardAccessible::indexOfChild(const QAccessibleInterface* child) const
-{
-    const auto isChild = [child](
-                             QAccessible::Id id) { return id != 0 && QAccessible::accessibleInterface(id) == child; };
-    const auto it = std::find_if(m_children.begin(), m_children.end(), isChild);
-    return it == m_children.end() ? -1 : static_cast<int>(it - m_children.begin());
-}
-
-QAccessibleInterface* CardAccessible::childAt(int x, int y) const
-{
-    for (int i = 0; i < childCount(); ++i) {
-        if (child(i)->rect().contains(x, y))
-            return child(i);
-    }
-    return nullptr;
+    return m_children.at(index, [&] { return new BlockAccessible(m_area, static_cast<std::size_t>(index)); });
 }
 
 } // namespace cuebright

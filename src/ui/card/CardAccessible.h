@@ -1,10 +1,9 @@
 #pragma once
 
 #include "foundation/Signal.h"
+#include "ui/accessibility/AccessibleChildren.h"
 
 #include <QAccessibleWidget>
-
-#include <vector>
 
 namespace cuebright {
 
@@ -14,25 +13,26 @@ class CardArea;
 class CardAccessible final : public QAccessibleWidget {
 public:
     explicit CardAccessible(CardArea& area);
-    ~CardAccessible() override;
 
-    /// From now on card areas have this interface.
+    /// Gives every card area this interface from now on.
     static void install();
-    /// The keyboard has come to a link of the card.
-    static void focusMoved(CardArea& area);
+    /// Call when the focus has moved to a link of the card.
+    static void notifyFocusMoved(CardArea& area);
 
     [[nodiscard]] int childCount() const override;
     [[nodiscard]] QAccessibleInterface* child(int index) const override;
-    [[nodiscard]] int indexOfChild(const QAccessibleInterface* child) const override;
-    [[nodiscard]] QAccessibleInterface* childAt(int x, int y) const override;
+    [[nodiscard]] int indexOfChild(const QAccessibleInterface* child) const override
+    {
+        return m_children.indexOf(child);
+    }
+    [[nodiscard]] QAccessibleInterface* childAt(int x, int y) const override { return childContaining(*this, x, y); }
     [[nodiscard]] QAccessibleInterface* focusChild() const override;
 
 private:
-    void takeChangedContent();
-    void forgetChildren();
+    void onContentChanged();
 
     CardArea& m_area;
-    mutable std::vector<QAccessible::Id> m_children; ///< made when asked for
+    mutable AccessibleChildren m_children;
     Subscription m_contentSubscription;
 };
 

@@ -1,7 +1,6 @@
 #include "ui/card/CardArea.h"
 
 #include "markdown/CardParser.h"
-#include "platform/qt/QtColors.h"
 #include "store/CardStore.h"
 #include "ui/card/CardAccessible.h"
 #include "ui/widgets/FocusRing.h"
@@ -19,8 +18,8 @@ namespace cuebright {
 namespace {
 
 constexpr int kLineStep = 24;
+constexpr double kLinkCornerRadius = 3;
 constexpr std::chrono::microseconds kLayoutSlice {4000}; ///< between two events
-constexpr double kFocusWidth = 2;
 
 } // namespace
 
@@ -163,12 +162,8 @@ std::optional<CardLayout::Link> CardArea::focusedLink() const
 
 void CardArea::drawFocus(QPainter& painter)
 {
-    const auto link = focusedLink();
-    if (!link)
-        return;
-    painter.setPen(QPen(toQColor(m_context.colors().accent()), kFocusWidth));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(link->rect.adjusted(-2, 0, 2, 0), 3, 3);
+    if (const auto link = focusedLink())
+        drawFocusRing(painter, link->rect.adjusted(-3, -1, 3, 1), kLinkCornerRadius, m_context.colors());
 }
 
 QPixmap CardArea::pictureOfFrame()

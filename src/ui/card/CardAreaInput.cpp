@@ -62,7 +62,7 @@ bool CardArea::focusNextPrevChild(bool next)
     const auto bar = verticalScrollBar();
     bar->setValue(std::clamp(bar->value(), static_cast<int>(std::ceil(rect.bottom())) - viewport()->height(),
         std::max(static_cast<int>(rect.top()), static_cast<int>(std::ceil(rect.bottom())) - viewport()->height())));
-    CardAccessible::focusMoved(*this);
+    CardAccessible::notifyFocusMoved(*this);
     return true;
 }
 

@@ -53,7 +53,7 @@ protected:
         const auto centre = QRectF(rect()).center();
         painter.drawLine(centre - QPointF(kReach, kReach), centre + QPointF(kReach, kReach));
         painter.drawLine(centre - QPointF(kReach, -kReach), centre + QPointF(kReach, -kReach));
-        drawFocusRing(painter, rect(), 4);
+        drawFocusRing(painter, 4);
     }
 
 private:

@@ -134,7 +134,7 @@ protected:
         painter.setPen(toQColor(colorFor(timerColor(m_urgency), colors)));
         const QRectF room = QRectF(rect()).adjusted(kTimePaddingX, 0, 0, 0);
         painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, m_time);
-        drawFocusRing(painter, rect(), kTimeCornerRadius);
+        drawFocusRing(painter, kTimeCornerRadius);
     }
 
 private:

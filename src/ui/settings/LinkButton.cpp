@@ -39,7 +39,7 @@ void LinkButton::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    drawFocusRing(painter, rect(), kCornerRadius);
+    drawFocusRing(painter, kCornerRadius);
     painter.setOpacity(isDown() ? kPressedOpacity : 1);
     painter.setPen(toQColor(m_context.colors().accent()));
     painter.drawText(rect(), Qt::AlignCenter, text());

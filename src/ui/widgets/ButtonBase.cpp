@@ -1,9 +1,8 @@
 #include "ui/widgets/ButtonBase.h"
 
-#include "platform/qt/QtColors.h"
+#include "ui/widgets/FocusRing.h"
 
 #include <QKeyEvent>
-#include <QPainter>
 
 namespace cuebright {
 
@@ -16,13 +15,10 @@ void ButtonBase::keyPressEvent(QKeyEvent* event)
         click();
 }
 
-void ButtonBase::drawFocusRing(QPainter& painter, const QRectF& rect, double cornerRadius) const
+void ButtonBase::drawFocusRing(QPainter& painter, double cornerRadius) const
 {
-    if (!hasFocus())
-        return;
-    painter.setPen(QPen(toQColor(m_context.colors().accent()), 2));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(rect.adjusted(1, 1, -1, -1), cornerRadius, cornerRadius);
+    if (hasFocus())
+        cuebright::drawFocusRing(painter, rect(), cornerRadius, m_context.colors());
 }
 
 } // namespace cuebright

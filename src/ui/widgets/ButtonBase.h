@@ -22,8 +22,8 @@ public:
 protected:
     void keyPressEvent(QKeyEvent* event) override;
 
-    /// Shows where the keyboard is, around `rect`.
-    void drawFocusRing(QPainter& painter, const QRectF& rect, double cornerRadius) const;
+    /// Draws a focus ring along the button's edge if the button has focus.
+    void drawFocusRing(QPainter& painter, double cornerRadius) const;
 
     const UiContext& m_context;
 };

@@ -1,6 +1,7 @@
 #include "ui/widgets/CuebrightChromeStyle.h"
 
 #include "platform/qt/QtColors.h"
+#include "ui/widgets/FocusRing.h"
 
 #include <QPainter>
 #include <QTransform>
@@ -15,7 +16,6 @@ constexpr double kCornerRadius = 6;
 constexpr double kPressedFill = 0.5;
 constexpr double kReleasedFill = 0.01;
 constexpr double kDisabledOpacity = 0.35;
-constexpr double kFocusWidth = 2;
 
 /// One continuous corner, in radii from its tip: along the first side to the start of the curve, then the curve.
 void addCorner(QPainterPath& path, const QTransform& toCorner)
@@ -56,7 +56,7 @@ void CuebrightChromeStyle::draw(
     if (!state.isEnabled)
         painter.setOpacity(painter.opacity() * kDisabledOpacity);
     const auto separator = m_colors.sep();
-    const double lineWidth = state.hasFocus ? kFocusWidth : m_colors.borderWidth();
+    const double lineWidth = state.hasFocus ? kFocusRingWidth : m_colors.borderWidth();
     const double inset = lineWidth / 2; // the stroke stays inside
     const auto shape = continuousRoundedRect(rect.adjusted(inset, inset, -inset, -inset), kCornerRadius);
     painter.fillPath(

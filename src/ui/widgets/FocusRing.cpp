@@ -10,10 +10,17 @@ namespace cuebright {
 namespace {
 
 constexpr int kDistance = 5;
-constexpr double kWidth = 2;
 constexpr double kCornerRadius = 5;
 
 } // namespace
+
+void drawFocusRing(QPainter& painter, const QRectF& rect, double cornerRadius, const Colors& colors)
+{
+    constexpr double kInset = kFocusRingWidth / 2;
+    painter.setPen(QPen(toQColor(colors.accent()), kFocusRingWidth));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(rect.adjusted(kInset, kInset, -kInset, -kInset), cornerRadius, cornerRadius);
+}
 
 FocusRing::FocusRing(const UiContext& context, QWidget* target, When when)
     : QFocusFrame(target)
@@ -67,8 +74,7 @@ void FocusRing::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(toQColor(m_context.colors().accent()), kWidth));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), kCornerRadius, kCornerRadius);
+    drawFocusRing(painter, rect(), kCornerRadius, m_context.colors());
 }
 
 } // namespace cuebright

@@ -6,13 +6,17 @@
 
 namespace cuebright {
 
-/// A ring around a widget that has the keyboard, for one that itself has no room for it. It is drawn on the parent of
-/// the widget's parent.
-///
-/// Only the base's standing with screen readers is used, which pass over it.
+/// Logical pixels.
+inline constexpr double kFocusRingWidth = 2;
+
+/// Draws a focus ring along the inside of `rect`.
+void drawFocusRing(QPainter& painter, const QRectF& rect, double cornerRadius, const Colors& colors);
+
+/// A focus ring for a widget that has no room for its own, drawn by the widget's grandparent. Derives from QFocusFrame
+/// only because screen readers ignore that class.
 class FocusRing final : public QFocusFrame {
 public:
-    /// Something large needs no ring as long as nobody goes through the window by Tab.
+    /// When the ring shows: whenever `target` has focus, or only after it was reached by Tab or Shift+Tab.
     enum class When { Focused, ReachedByTab };
 
     FocusRing(const UiContext& context, QWidget* target, When when = When::Focused);
