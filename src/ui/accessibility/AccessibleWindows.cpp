@@ -9,7 +9,7 @@ namespace {
 
 QAccessibleInterface* makeInterface(const QString& className, QObject* object)
 {
-    // Windows of the program's own, which have no class of the toolkit's but this.
+    // The most derived class is asked for first, so Qt has answered for its own kinds of windows before.
     if (className != QLatin1String("QWidget") || !object->isWidgetType())
         return nullptr;
     const auto widget = static_cast<QWidget*>(object);

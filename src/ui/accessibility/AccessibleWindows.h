@@ -2,8 +2,8 @@
 
 namespace cuebright {
 
-/// From now on screen readers take the program's own windows for windows. The toolkit knows only dialogs by itself, and
-/// gives every other one for a mere container.
+/// Gives the program's windows the accessible role of a window from now on. Qt does so only for dialogs, and presents
+/// all others as containers.
 void presentWindowsToScreenReaders();
 
 } // namespace cuebright

@@ -76,10 +76,10 @@ void offerOpenMenusToScreenReaders(QWidget& owner)
 {
     QAccessible::installFactory(makeInterface);
     owner.setProperty(kMark, true);
-    // One made before would stay.
+    // An interface that exists already would stay in use.
     if (const auto former = QAccessible::queryAccessibleInterface(&owner))
         QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(former));
-    // Pressing an item the way of a screen reader leaves its menu open.
+    // An item that is triggered through its accessible action leaves the menu open.
     for (const auto menu : owner.findChildren<QMenu*>(QString(), Qt::FindDirectChildrenOnly))
         QObject::connect(menu, &QMenu::triggered, menu, &QWidget::close);
 }

@@ -4,9 +4,8 @@ class QWidget;
 
 namespace cuebright {
 
-/// Makes the pop-up menus whose parent is `owner` children of it for screen readers too, as long as they are open: what
-/// goes through the tree of elements would not find them otherwise. The owner is a button or a plain widget, and its
-/// menus are there when this is called.
+/// Exposes `owner`'s pop-up menus as accessible children while they are open; Qt leaves them out of the tree. `owner`
+/// is a button or a plain widget that already has its menus.
 void offerOpenMenusToScreenReaders(QWidget& owner);
 
 } // namespace cuebright

@@ -15,10 +15,10 @@ AnimatedValue::AnimatedValue(double value, Seconds duration, std::function<void(
     setDuration(duration);
     QObject::connect(&m_animation, &QVariantAnimation::valueChanged, &m_animation, [this](const QVariant& newValue) {
         if (m_animation.state() == QAbstractAnimation::Running)
-            take(newValue.toDouble());
+            setValue(newValue.toDouble());
     });
-    // The curve ends a rounding away from 1.
-    QObject::connect(&m_animation, &QAbstractAnimation::finished, &m_animation, [this] { take(m_target); });
+    // The curve's last value differs from 1 by a rounding error.
+    QObject::connect(&m_animation, &QAbstractAnimation::finished, &m_animation, [this] { setValue(m_target); });
 }
 
 void AnimatedValue::setDuration(Seconds duration) { m_animation.setDuration(milliseconds(duration)); }
@@ -28,13 +28,13 @@ void AnimatedValue::moveTo(double target, Motion motion)
     m_animation.stop();
     m_target = target;
     if (motion == Motion::AtOnce || m_value == target)
-        return take(target);
+        return setValue(target);
     m_animation.setStartValue(m_value);
     m_animation.setEndValue(target);
     m_animation.start();
 }
 
-void AnimatedValue::take(double value)
+void AnimatedValue::setValue(double value)
 {
     m_value = value;
     m_changed();

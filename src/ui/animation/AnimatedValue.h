@@ -8,12 +8,12 @@
 
 namespace cuebright {
 
-/// A number from 0 to 1 that moves to where it is sent on a curve, from wherever it is.
+/// An animated value in [0, 1]: moveTo() eases from the current value to the target.
 class AnimatedValue final {
 public:
     enum class Motion { Animated, AtOnce };
 
-    /// `changed` is called with each new value, the last one included.
+    /// `changed` is called after each step, and always at the target.
     AnimatedValue(double value, Seconds duration, std::function<void()> changed,
         Animation::Curve curve = Animation::Curve::EaseInOut);
     AnimatedValue(const AnimatedValue&) = delete;
@@ -22,12 +22,12 @@ public:
     [[nodiscard]] double value() const { return m_value; }
     [[nodiscard]] bool hasArrived() const { return m_value == m_target; }
 
-    /// Of the moves to come.
+    /// Applies from the next move on.
     void setDuration(Seconds duration);
     void moveTo(double target, Motion motion);
 
 private:
-    void take(double value);
+    void setValue(double value);
 
     double m_value;
     double m_target;

@@ -16,7 +16,7 @@ namespace cuebright {
     return easing;
 }
 
-/// In the toolkit's milliseconds.
+/// The unit of Qt's animations.
 [[nodiscard]] inline int milliseconds(Seconds duration) { return static_cast<int>(duration.count() * 1000); }
 
 } // namespace cuebright

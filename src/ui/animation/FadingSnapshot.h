@@ -8,8 +8,7 @@
 
 namespace cuebright {
 
-/// A picture of what was on screen, fading away over what has taken its place. Neither mouse nor keyboard see it; it
-/// deletes itself at its end.
+/// Fades out a picture of what was on screen, above what has replaced it. Takes no input; deletes itself at the end.
 class FadingSnapshot final : public QWidget {
 public:
     /// Covers `area` of `parent`.

@@ -4,7 +4,7 @@
 
 namespace cuebright {
 
-/// Draws a widget a little smaller, about its centre.
+/// Draws a widget scaled about its centre.
 class ScaleEffect final : public QGraphicsEffect {
 public:
     /// 1 is the full size.

@@ -12,9 +12,9 @@ constexpr DynamicColor kHighContrastOrange {{0.5, 0.21, 0.0}, {1.0, 0.72, 0.4}};
 
 } // namespace
 
-Color colorFor(ColorRole ink, const Colors& colors)
+Color colorFor(ColorRole role, const Colors& colors)
 {
-    switch (ink) {
+    switch (role) {
     case ColorRole::Text:
         return colors.text();
     case ColorRole::Muted:

@@ -4,10 +4,10 @@
 
 namespace cuebright {
 
-/// What a text or symbol of the panel is drawn in.
+/// The colours of the panel's texts and symbols, by purpose.
 enum class ColorRole { Text, Muted, Accent, Red, Orange };
 
-/// Red and orange can be read on the panel's background in both looks.
-[[nodiscard]] Color colorFor(ColorRole ink, const Colors& colors);
+/// Red and orange are legible on the panel's background, light and dark.
+[[nodiscard]] Color colorFor(ColorRole role, const Colors& colors);
 
 } // namespace cuebright

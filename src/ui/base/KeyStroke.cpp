@@ -11,7 +11,7 @@ namespace {
 
 constexpr auto kCountingModifiers = Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
 
-/// The signs of the menus' keys: where a layout has one in the top row, it stays what it is there.
+/// The characters of the menus' shortcuts. A key of the digit row that types one of them is no digit.
 bool isMenuSign(int key)
 {
     constexpr std::array signs {Qt::Key_Minus, Qt::Key_Equal, Qt::Key_Plus, Qt::Key_BracketLeft, Qt::Key_BracketRight,

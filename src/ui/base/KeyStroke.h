@@ -8,7 +8,7 @@ namespace cuebright {
 struct KeyStroke {
     Qt::KeyboardModifiers modifiers; ///< only Shift, Ctrl, Alt and Meta count
     int key = 0; ///< `Qt::Key`
-    int digit = -1; ///< of the character, or of the physical key of the top row where the character is none; else −1
+    int digit = -1; ///< of the character, otherwise of the physical key in the digit row; −1 for none
 
     [[nodiscard]] static KeyStroke of(const QKeyEvent& event);
 };

@@ -20,7 +20,7 @@ bool isOpenableLink(std::string_view target)
 {
     const auto url = urlOf(target);
     const auto scheme = url.scheme(); // in lower case
-    if (!url.isValid() || scheme.size() < 2) // one letter is a drive
+    if (!url.isValid() || scheme.size() < 2) // one letter is a Windows drive
         return false;
     if (scheme == QLatin1String("http") || scheme == QLatin1String("https"))
         return !url.host().isEmpty();

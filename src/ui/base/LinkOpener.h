@@ -4,10 +4,10 @@
 
 namespace cuebright {
 
-/// Whether a link's target leads somewhere that a click may open: any address with a scheme but scripts.
+/// Whether a click may open this link target: any URL with a scheme except scripts and data.
 [[nodiscard]] bool isOpenableLink(std::string_view target);
 
-/// Opens such a target with the program that the user's desktop has for it; does nothing with any other.
+/// Opens the target in the desktop's default program; does nothing if it is not openable.
 void openLink(std::string_view target);
 
 } // namespace cuebright

@@ -7,7 +7,7 @@
 
 namespace cuebright {
 
-// The toolkit names the newest dialog only, but several windows can have one, and a dialog another one.
+// Qt returns only the newest modal dialog, but several windows can have one, and dialogs can be nested.
 
 bool isWaitingForAnswer(const QWidget& window)
 {

@@ -4,11 +4,11 @@ class QWidget;
 
 namespace cuebright {
 
-/// Whether a sheet on `window`, or a dialog on the whole program, waits for an answer. What the window shows stays as
-/// it is until then: the answer is about that.
+/// Whether a sheet on `window` or an application-modal dialog is open. What the window shows must not change
+/// meanwhile, because the question is about it.
 [[nodiscard]] bool isWaitingForAnswer(const QWidget& window);
 
-/// Answers the sheets on `window` with Cancel.
+/// Rejects all open sheets on `window`.
 void dismissSheets(const QWidget& window);
 
 } // namespace cuebright

@@ -34,17 +34,12 @@ std::optional<std::string_view> shareFeedback(CaptureExclusion::State state)
     return "May be visible in screen shares";
 }
 
-std::optional<std::string_view> shareAdvice(CaptureExclusion::State state)
+std::optional<std::string_view> shareAdvice(CaptureExclusion& exclusion)
 {
-    if (state == CaptureExclusion::State::Excluded)
+    if (!exclusion.isSettled() || exclusion.state() == CaptureExclusion::State::Excluded)
         return std::nullopt;
     return "This desktop cannot hide a window from a shared screen. Share a single window or tab instead of the whole "
            "screen.";
-}
-
-std::optional<std::string_view> currentShareAdvice(CaptureExclusion& exclusion)
-{
-    return exclusion.isSettled() ? shareAdvice(exclusion.state()) : std::nullopt;
 }
 
 } // namespace cuebright

@@ -8,23 +8,20 @@
 
 namespace cuebright {
 
-/// Tells at a glance what the audience sees of the panel.
+/// What the audience sees of the panel, in a few words.
 struct ShareBadge {
     std::string_view text;
-    ColorRole ink;
+    ColorRole color;
 
     bool operator==(const ShareBadge&) const = default;
 };
 
 [[nodiscard]] ShareBadge badgeFor(CaptureExclusion::State state);
 
-/// What the first show after launch tells; absent where nothing of the panel is seen.
+/// The message at the first show after launch; none where the audience sees nothing of the panel.
 [[nodiscard]] std::optional<std::string_view> shareFeedback(CaptureExclusion::State state);
 
-/// What to do where the panel cannot be kept out of a shared screen; absent where it is.
-[[nodiscard]] std::optional<std::string_view> shareAdvice(CaptureExclusion::State state);
-
-/// The same for what is known now; absent while it is being found out.
-[[nodiscard]] std::optional<std::string_view> currentShareAdvice(CaptureExclusion& exclusion);
+/// What to do where the panel cannot be kept out of a shared screen; none where it is, or where that is not known yet.
+[[nodiscard]] std::optional<std::string_view> shareAdvice(CaptureExclusion& exclusion);
 
 } // namespace cuebright

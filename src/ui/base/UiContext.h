@@ -11,14 +11,14 @@ namespace cuebright {
 class CardStore;
 class NotificationCenter;
 
-/// What the panel and its views work with. Outlives them all.
+/// What the panel and its views use. Must outlive them.
 struct UiContext {
     CardStore& store;
     NotificationCenter& notifications;
     Platform platform;
     Desktop desktop;
 
-    /// The colours to draw with now.
+    /// For the current appearance and contrast.
     [[nodiscard]] Colors colors() const
     {
         return {platform.appearance.isDark(), platform.accessibility.increaseContrast()};

@@ -57,7 +57,7 @@ void CardArea::refresh(Content content, const std::optional<Animation>& animatio
     if (isOther && m_key && animation && isVisible()) {
         const auto& store = m_context.store;
         m_transition.start(
-            CardTransition::kindFor(store.isDeckSwitch(), store.navigationDirection()), pictureOfFrame(), *animation);
+            CardTransition::kindFor(store.isDeckSwitch(), store.navigationDirection()), grabFrame(), *animation);
     } else if (isOther) {
         m_transition.stop();
     }
@@ -73,7 +73,7 @@ void CardArea::layOut()
 {
     if (!m_isSized)
         return;
-    forgetLinks();
+    resetLinks();
     const auto card = m_context.store.activeCard();
     if (card)
         m_layout.emplace(
@@ -84,7 +84,7 @@ void CardArea::layOut()
     continueLayout();
 }
 
-void CardArea::forgetLinks()
+void CardArea::resetLinks()
 {
     m_focusedLink.reset();
     m_pressedLink.reset();
@@ -100,13 +100,13 @@ void CardArea::updateScrollRange()
     verticalScrollBar()->setRange(0, std::max(height - viewportHeight, 0));
 }
 
-/// Lays out what is below the screen in slices, so that the scroll bar becomes exact without holding up a key.
+/// Lays out what is below the viewport in slices, so that the scroll bar becomes exact without delaying input.
 void CardArea::continueLayout()
 {
     m_nextLayoutSlice.cancel();
     if (!m_layout || m_layout->isComplete())
         return;
-    m_nextLayoutSlice = m_context.platform.mainQueue.after(Seconds(0), [this] { // when nothing else waits
+    m_nextLayoutSlice = m_context.platform.mainQueue.after(Seconds(0), [this] { // once no event is queued
         m_layout->layOutFor(kLayoutSlice);
         updateScrollRange();
         continueLayout();
@@ -166,7 +166,7 @@ void CardArea::drawFocus(QPainter& painter)
         drawFocusRing(painter, link->rect.adjusted(-3, -1, 3, 1), kLinkCornerRadius, m_context.colors());
 }
 
-QPixmap CardArea::pictureOfFrame()
+QPixmap CardArea::grabFrame()
 {
     const double scale = devicePixelRatioF();
     QPixmap picture(viewport()->size() * scale);
@@ -182,9 +182,9 @@ void CardArea::resizeEvent(QResizeEvent*)
 {
     if (!std::exchange(m_isSized, true))
         return layOut();
-    // Also where a scroll bar comes or goes with another card, whose transition goes on.
+    // Also when the scroll bar appears or disappears with another card, whose transition then continues.
     if (m_layout && m_layout->width() != viewport()->width()) {
-        forgetLinks();
+        resetLinks();
         m_layout->setWidth(viewport()->width());
         contentChanged.notify();
     }

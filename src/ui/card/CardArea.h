@@ -23,22 +23,22 @@ public:
 
     CardArea(const UiContext& context, QWidget* parent);
 
-    /// Shows what the store holds now: another card with a transition, if the change carries an animation, and from its
-    /// top; the same card where it is. `Content::Same` promises that no card, size or colour has changed.
+    /// Shows the store's active card. Another card than before starts at its top, with a transition if there is an
+    /// `animation`; the same card stays where it is. `Content::Same`: no text, size or colour has changed.
     void refresh(Content content, const std::optional<Animation>& animation);
 
-    /// Scrolls by what fits on the screen; false where there is nothing left to scroll.
+    /// False if it is at the end already.
     bool scrollPage(Page page);
 
     /// Null without an active card.
     [[nodiscard]] CardLayout* cardLayout() { return m_layout ? &*m_layout : nullptr; }
-    /// A rectangle of the card on the viewport.
+    /// From the card's coordinates to the viewport's.
     [[nodiscard]] QRect toViewport(const QRectF& rect) const;
-    /// The link that Return opens.
+    /// The link with keyboard focus.
     [[nodiscard]] std::optional<CardLayout::Link> focusedLink() const;
     [[nodiscard]] QSize minimumSizeHint() const override { return {0, 0}; }
 
-    /// Other blocks are on show, or the same ones at other places.
+    /// The blocks or their places have changed.
     Signal<> contentChanged;
 
 protected:
@@ -55,7 +55,7 @@ protected:
     void scrollContentsBy(int dx, int dy) override;
 
 private:
-    /// What makes a rendered card another one.
+    /// Identifies what is shown; another key is another card.
     struct Key {
         Uuid transitionId;
         std::int64_t deckIndex = 0;
@@ -67,13 +67,13 @@ private:
 
     [[nodiscard]] Key currentKey() const;
     void layOut();
-    void forgetLinks();
+    void resetLinks();
     void updateScrollRange();
     void continueLayout();
     void drawCard(QPainter& painter, const QRect& area);
     void drawFrame(QPainter& painter);
     void drawFocus(QPainter& painter);
-    [[nodiscard]] QPixmap pictureOfFrame();
+    [[nodiscard]] QPixmap grabFrame();
     [[nodiscard]] std::optional<std::string> linkAt(const QPoint& position) const;
 
     const UiContext& m_context;
@@ -82,7 +82,7 @@ private:
     CardTransition m_transition;
     std::optional<std::size_t> m_focusedLink; ///< among the layout's links
     std::optional<std::string> m_pressedLink;
-    bool m_isSized = false; ///< before it is, laying out would be for nothing
+    bool m_isSized = false; ///< nothing is laid out before the first resize event
     PendingTask m_nextLayoutSlice;
 };
 

@@ -1,10 +1,9 @@
 #include "ui/card/CardArea.h"
 
-#include "ui/base/Notifications.h"
-
 #include "foundation/NotificationCenter.h"
 #include "store/CardStore.h"
 #include "ui/base/LinkOpener.h"
+#include "ui/base/Notifications.h"
 #include "ui/card/CardAccessible.h"
 
 #include <QContextMenuEvent>
@@ -90,7 +89,7 @@ void CardArea::mouseMoveEvent(QMouseEvent* event)
 {
     const auto link = linkAt(event->pos());
     viewport()->setCursor(link && isOpenableLink(*link) ? Qt::PointingHandCursor : Qt::ArrowCursor);
-    event->setAccepted(m_pressedLink.has_value()); // otherwise the panel may be on its way
+    event->setAccepted(m_pressedLink.has_value()); // ignored, it reaches the panel, which may be dragged
 }
 
 void CardArea::mouseReleaseEvent(QMouseEvent* event)

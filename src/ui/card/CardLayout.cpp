@@ -27,9 +27,9 @@ constexpr double kBarGap = 14;
 constexpr double kEmptyCardTop = 8;
 constexpr double kEmptyCardOpacity = 0.5;
 constexpr double kUnlimitedWidth = 1e6;
-constexpr int kLongestPiece = 4096; ///< UTF-16 units; longer texts cost more than their length to break
+constexpr int kLongestPiece = 4096; ///< UTF-16 units; breaking lines takes more than linear time
 
-/// Where a piece that starts at `start` may end, not between two halves of one character.
+/// The end of the piece that starts at `start`, never inside a surrogate pair.
 int pieceEnd(const QString& text, int start)
 {
     const auto end = std::min(start + kLongestPiece, static_cast<int>(text.size()));
@@ -124,7 +124,7 @@ void CardLayout::layOutPiece()
     piece.origin = {textIndent(piece), piece.top};
     breakLines(*piece.text, m_width - piece.origin.x(), lineSpacing(block.kind));
 
-    // The last line goes on in the next piece, so that one begins with it.
+    // The last line may be incomplete, so the next piece begins with it.
     piece.lineCount = isLast ? piece.text->lineCount() : std::max(piece.text->lineCount() - 1, 1);
     const auto lastLine = piece.text->lineAt(piece.lineCount - 1);
     m_open.start = start + lastLine.textStart() + lastLine.textLength();
@@ -132,7 +132,7 @@ void CardLayout::layOutPiece()
     addLinks(piece, start, m_open.start - start);
 
     if (!isLast)
-        piece.bottom += lineSpacing(block.kind); // a bar goes on without a gap
+        piece.bottom += lineSpacing(block.kind); // leaves no gap in a quote's bar
     m_bottom = piece.bottom;
     m_pieces.push_back(std::move(piece));
     if (isLast)
@@ -146,10 +146,10 @@ void CardLayout::closeBlock(const Block& block)
     m_open = {};
     ++m_nextBlock;
     if (m_nextBlock == m_blocks.size())
-        m_estimatedRest = 0; // no rounding stays
+        m_estimatedRest = 0; // without rounding errors
 }
 
-/// The text's distance from the left edge; makes a numbered item's label.
+/// The text's distance from the left edge. Also makes a numbered item's label.
 double CardLayout::textIndent(Piece& piece) const
 {
     const auto& block = m_blocks[piece.block];
@@ -176,7 +176,7 @@ double CardLayout::textIndent(Piece& piece) const
     return 0;
 }
 
-/// Puts label and text on one baseline; the taller ascent decides where that is.
+/// Puts label and text on one baseline, given by the taller ascent.
 void CardLayout::placeBaselines(Piece& piece) const
 {
     const double ascent = piece.text->lineAt(0).ascent();
@@ -210,9 +210,9 @@ void CardLayout::draw(QPainter& painter, const QRectF& visible)
          ++piece) {
         drawMarker(painter, *piece);
         const bool isMuted = m_isEmptyCard || m_blocks[piece->block].kind == Block::Kind::Blockquote;
-        const auto ink = isMuted ? m_colors.muted() : m_colors.text();
-        painter.setPen(toQColor(ink.withAlpha(m_isEmptyCard ? kEmptyCardOpacity : 1)));
-        piece->text->setCacheEnabled(true); // what is seen once is drawn again soon
+        const auto color = isMuted ? m_colors.muted() : m_colors.text();
+        painter.setPen(toQColor(color.withAlpha(m_isEmptyCard ? kEmptyCardOpacity : 1)));
+        piece->text->setCacheEnabled(true); // visible text is drawn often
         for (int i = 0; i < piece->lineCount; ++i) {
             const auto line = piece->text->lineAt(i);
             const double lineTop = piece->origin.y() + line.y();

@@ -19,14 +19,14 @@ class QPainter;
 
 namespace cuebright {
 
-/// A card's blocks placed below one another in a given width, ready to be drawn.
+/// A card's blocks below one another in a given width, ready to be drawn.
 ///
-/// Text is laid out from the top as far as somebody looks, and the height of the rest is estimated, so that a card of
-/// any length opens at once; a block of any length is laid out in pieces. Coordinates are logical pixels from the top
-/// left.
+/// Text is laid out from the top as far as it is needed, and the height of the rest is estimated, so that a card of any
+/// length opens immediately; long blocks are laid out in pieces. Coordinates are logical pixels from the card's top
+/// left corner.
 class CardLayout final {
 public:
-    /// A place to click, or to reach by keyboard: one for each line that a link covers.
+    /// A rectangle to click or to focus. A link has one on each line that it covers.
     struct Link {
         std::string target; ///< as written
         QString text;
@@ -38,29 +38,28 @@ public:
 
     [[nodiscard]] const std::vector<Block>& blocks() const { return m_blocks; }
     [[nodiscard]] double width() const { return m_width; }
-    /// Begins anew in another width.
+    /// Starts the layout again in this width.
     void setWidth(double width);
-    /// Exact once everything is laid out; a guess below what is.
+    /// An estimate until the layout is complete.
     [[nodiscard]] double height() const { return m_bottom + m_estimatedRest; }
     [[nodiscard]] bool isComplete() const { return m_nextBlock == m_blocks.size(); }
 
     /// Lays out everything that starts above `y`.
     void layOutTo(double y);
     void layOutThrough(std::size_t block);
-    /// Lays out more, for about so long.
+    /// Continues the layout for about `time`.
     void layOutFor(std::chrono::microseconds time);
 
     /// Draws what lies in `visible`, laying it out where needed.
     void draw(QPainter& painter, const QRectF& visible);
 
-    /// Where a block is, without the space below it; lays it out where needed.
+    /// Without the space below the block. Lays it out where needed.
     [[nodiscard]] QRectF blockRect(std::size_t block);
     /// A block's text without its markers.
     [[nodiscard]] QString blockText(std::size_t block) const;
-    /// The links of what is laid out, from the top.
+    /// From the top, as far as the card is laid out.
     [[nodiscard]] std::vector<Link> links() const;
     [[nodiscard]] std::vector<Link> linksIn(std::size_t block);
-    /// The target of the link at that place.
     [[nodiscard]] std::optional<std::string> linkAt(const QPointF& place) const;
 
 private:
@@ -69,14 +68,14 @@ private:
         int length;
         std::string target;
     };
-    /// Some lines of one block.
+    /// Consecutive lines of one block.
     struct Piece {
         std::size_t block;
         QPointF origin; ///< of the text
         double top;
         double bottom; ///< without the space below the block
         double baseline; ///< of the first line
-        int lineCount; ///< the layout may hold one more, which begins the next piece
+        int lineCount; ///< `text` may have one more, which begins the next piece
         bool isFirst;
         std::unique_ptr<QTextLayout> text;
         std::unique_ptr<QTextLayout> label; ///< a numbered item's number

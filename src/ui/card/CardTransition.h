@@ -12,8 +12,8 @@ class QPainter;
 
 namespace cuebright {
 
-/// One card giving way to another: a slide in the direction of travel, or a fade with a little growth where the deck
-/// changes. What was on screen is a picture, so that a new transition can start in the middle of the last one.
+/// The transition from one card to the next: a slide in the direction of navigation, or a cross-fade with slight
+/// scaling when the deck changes. The old card is a picture, so that a transition can start while another one runs.
 class CardTransition final {
 public:
     enum class Kind { SlideForward, SlideBackward, SwitchDeck };
@@ -27,7 +27,7 @@ public:
     void stop();
     [[nodiscard]] bool isRunning() const { return m_progress.state() == QAbstractAnimation::Running; }
 
-    /// Draws a frame into `area`: the picture of what leaves, and what `drawArriving` draws.
+    /// Draws one frame into `area`: the old card's picture and, by `drawArriving`, the new card.
     void draw(QPainter& painter, const QRectF& area, const std::function<void()>& drawArriving) const;
 
 private:

@@ -147,7 +147,7 @@ void OnboardingOverlay::buildPages()
     for (const auto page : m_pages)
         delete page;
     m_pages.clear();
-    for (const auto& page : onboardingPages(currentShareAdvice(m_context.desktop.captureExclusion)))
+    for (const auto& page : onboardingPages(shareAdvice(m_context.desktop.captureExclusion)))
         m_pages.push_back(new OnboardingPageView(m_context, page, this));
     m_dots->raise(); // read after the page
     m_advance->raise();

@@ -40,8 +40,8 @@ void HeaderView::refresh()
     const auto badge = badgeFor(m_context.desktop.captureExclusion.state());
     const auto position = toQString(m_context.store.positionLabel());
     if (m_showReturnPulse)
-        m_eyebrow->crossFadeTo(toQString(badge.text), badge.ink, kCrossFadeTime);
-    else if (m_eyebrow->ink() != ColorRole::Muted)
+        m_eyebrow->crossFadeTo(toQString(badge.text), badge.color, kCrossFadeTime);
+    else if (m_eyebrow->color() != ColorRole::Muted)
         m_eyebrow->crossFadeTo(position, ColorRole::Muted, kCrossFadeTime);
     else
         m_eyebrow->setText(position);

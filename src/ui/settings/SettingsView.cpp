@@ -77,7 +77,7 @@ void SettingsView::addPagingKeys()
 
 void SettingsView::tellWhatTheAudienceSees()
 {
-    const auto advice = currentShareAdvice(m_context.desktop.captureExclusion);
+    const auto advice = shareAdvice(m_context.desktop.captureExclusion);
     m_shareAdvice->setText(toQString(advice.value_or("")));
     m_shareAdvice->setVisible(advice.has_value());
 }

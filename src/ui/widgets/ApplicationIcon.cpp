@@ -9,8 +9,7 @@ namespace cuebright {
 
 namespace {
 
-/// Drawn here, so that it needs none of Qt's image plug-ins, which some systems install separately. Whoever
-/// asks keeps a copy.
+/// Needs none of Qt's image plug-ins, which some systems package separately.
 class BuiltInIcon final : public DrawnIcon {
 public:
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode, QIcon::State) override
@@ -20,7 +19,7 @@ public:
 
     [[nodiscard]] QIconEngine* clone() const override { return new BuiltInIcon; }
 
-    /// Those that the window system is given.
+    /// The sizes that the window system gets.
     QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override
     {
         QList<QSize> sizes;

@@ -4,8 +4,8 @@
 
 namespace cuebright {
 
-/// The program's icon: the one of the user's icon theme where the program is installed, otherwise the one built in.
-/// Call once the application object is there.
+/// The program's icon: from the user's icon theme if the program is installed, otherwise built in. Needs the
+/// application object.
 [[nodiscard]] QIcon applicationIcon();
 
 } // namespace cuebright

@@ -6,7 +6,7 @@
 
 namespace cuebright {
 
-/// A button of the panel that draws itself: reached by Tab only, pressed by mouse, Space and Return.
+/// A self-drawn button of the panel: takes focus by Tab only, is pressed by mouse, Space and Return.
 class ButtonBase : public QAbstractButton {
 public:
     ButtonBase(const UiContext& context, QWidget* parent)

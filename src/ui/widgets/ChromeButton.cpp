@@ -21,7 +21,7 @@ constexpr double kTitleSpacing = 1;
 constexpr QChar kCommandKey(0x2318);
 constexpr double kCommandKeyWidth = kTitleSize + 2 * kTitleSpacing;
 
-/// A title in two parts: whether the command key's sign comes first, and the words.
+/// A title, split into a leading "⌘" and the rest.
 struct Title {
     explicit Title(const QString& text)
         : hasCommandKey(text.startsWith(kCommandKey))
@@ -38,7 +38,7 @@ struct Title {
     QString words;
 };
 
-/// As large as `side`, in the middle of `rect`, in the pen's colour.
+/// Centred in `rect`, in the pen's colour.
 void drawSymbol(QPainter& painter, Icon icon, double side, const QRectF& rect)
 {
     QRectF place(0, 0, side, side);
@@ -85,14 +85,14 @@ void ChromeButton::setFrameWidth(int width)
     updateGeometry();
 }
 
-void ChromeButton::setSymbol(Icon icon, ColorRole ink, const QString& name)
+void ChromeButton::setSymbol(Icon icon, ColorRole color, const QString& name)
 {
     if (name != accessibleName())
         setName(name);
-    if (m_symbol->icon == icon && m_symbol->ink == ink)
-        return; // a tick of the timer draws its digits only
+    if (m_symbol->icon == icon && m_symbol->color == color)
+        return; // most calls come with each second of the timer
     m_symbol->icon = icon;
-    m_symbol->ink = ink;
+    m_symbol->color = color;
     update();
 }
 
@@ -109,8 +109,8 @@ void ChromeButton::paintEvent(QPaintEvent*)
     const auto colors = m_context.colors();
     const CuebrightChromeStyle::State state {m_press.value(), isEnabled(), hasFocus()};
     CuebrightChromeStyle(colors).draw(painter, rect(), state, [&](QPainter& labelPainter) {
-        if (m_symbol && m_symbol->ink)
-            labelPainter.setPen(toQColor(colorFor(*m_symbol->ink, colors)));
+        if (m_symbol && m_symbol->color)
+            labelPainter.setPen(toQColor(colorFor(*m_symbol->color, colors)));
         if (m_symbol)
             drawSymbol(labelPainter, m_symbol->icon, m_symbol->side, rect());
         else

@@ -12,15 +12,14 @@ namespace cuebright {
 /// A small button of the panel, drawn in the chrome style.
 class ChromeButton final : public ButtonBase {
 public:
-    /// As wide as the words need. A "⌘" in front of them is drawn, as few fonts have it.
+    /// As wide as its text. A leading "⌘" is drawn as a symbol, because few fonts have it.
     ChromeButton(const UiContext& context, const QString& text, QWidget* parent);
-    /// A symbol of `side` logical pixels in a frame of fixed size. It is called `name`, on the screen and to a screen
-    /// reader.
+    /// A symbol of `side` logical pixels in a frame of fixed size; `name` is its tool tip and accessible name.
     ChromeButton(const UiContext& context, Icon icon, int side, const QString& name, QWidget* parent);
 
     void setFrameWidth(int width);
-    /// Another symbol of the same size, in an ink of its own.
-    void setSymbol(Icon icon, ColorRole ink, const QString& name);
+    /// Replaces the symbol, its colour and its name; the size stays.
+    void setSymbol(Icon icon, ColorRole color, const QString& name);
 
     [[nodiscard]] QSize sizeHint() const override;
 
@@ -31,7 +30,7 @@ private:
     struct Symbol {
         Icon icon;
         int side;
-        std::optional<ColorRole> ink = {}; ///< else the style's
+        std::optional<ColorRole> color = {}; ///< otherwise the style's
     };
 
     ChromeButton(const UiContext& context, std::optional<Symbol> symbol, QWidget* parent);

@@ -11,20 +11,20 @@ class QPainter;
 
 namespace cuebright {
 
-/// A rectangle whose corners curve in without a visible start, as opposed to quarter circles. Every corner takes up
-/// about one and a half times `radius` of its sides, less where they are short.
+/// A rectangle with corners of continuous curvature, unlike quarter circles. Each corner takes up about 1.5 × `radius`
+/// of its sides, less where they are short.
 [[nodiscard]] QPainterPath continuousRoundedRect(const QRectF& rect, double radius);
 
-/// How every small button of the panel is drawn.
+/// Draws the panel's small buttons.
 class CuebrightChromeStyle final {
 public:
     struct State {
         double pressed = 0; ///< 0 = released, 1 = pressed
         bool isEnabled = true;
-        bool hasFocus = false; ///< reached by keyboard
+        bool hasFocus = false;
     };
 
-    /// How long a press takes to show, in milliseconds, on an ease-out curve.
+    /// Duration of the press animation in milliseconds; ease-out.
     static constexpr int kPressAnimationTime = 80;
 
     explicit CuebrightChromeStyle(const Colors& colors)
@@ -32,7 +32,7 @@ public:
     {
     }
 
-    /// Draws the button's body and, over it, what `drawLabel` draws with the painter's pen set to the label's colour.
+    /// Draws the button's body, then calls `drawLabel` with the pen set to the label's colour.
     void draw(QPainter& painter, const QRectF& rect, const State& state,
         const std::function<void(QPainter&)>& drawLabel) const;
 

@@ -4,7 +4,7 @@
 
 namespace cuebright {
 
-/// An icon that is drawn anew each time it is asked for, on nothing.
+/// An icon engine that draws its pixmaps on a transparent background, without a cache.
 class DrawnIcon : public QIconEngine {
 public:
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override;

@@ -17,7 +17,7 @@ namespace {
 
 constexpr int kUnlimited = 1 << 20;
 
-/// Gives the text as it is: the toolkit's own interface takes "&" for the mark of a shortcut.
+/// Returns the text unchanged: Qt's own interface removes "&" as a mnemonic.
 class LabelInterface final : public QAccessibleWidget {
 public:
     explicit LabelInterface(Label* label)
@@ -49,12 +49,12 @@ QAccessibleInterface* makeInterface(const QString&, QObject* object)
 
 } // namespace
 
-Label::Label(const UiContext& context, const QFont& font, ColorRole ink, WhenNarrow whenNarrow, QWidget* parent)
+Label::Label(const UiContext& context, const QFont& font, ColorRole color, WhenNarrow whenNarrow, QWidget* parent)
     : QLabel(parent)
     , m_context(context)
-    , m_ink(ink)
+    , m_color(color)
     , m_whenNarrow(whenNarrow)
-    , m_former {{}, ink}
+    , m_former {{}, color}
     , m_crossFade(1, Seconds(0), [this] { showCrossFade(); })
 {
     QAccessible::installFactory(makeInterface);
@@ -73,15 +73,15 @@ void Label::setInkOpacity(double opacity)
     update();
 }
 
-void Label::crossFadeTo(const QString& newText, ColorRole ink, Seconds time)
+void Label::crossFadeTo(const QString& newText, ColorRole color, Seconds time)
 {
-    if (newText == text() && ink == m_ink)
+    if (newText == text() && color == m_color)
         return;
-    m_former = {text(), m_ink};
+    m_former = {text(), m_color};
     setText(newText);
-    m_ink = ink;
+    m_color = color;
     m_isMessage = false;
-    // Turned back half-way, it starts from what is on the screen.
+    // Reversed half-way, it starts from what is on the screen.
     m_crossFade.setDuration(time);
     m_crossFade.moveTo(1 - m_crossFade.value(), AnimatedValue::Motion::AtOnce);
     m_crossFade.moveTo(1, isVisible() ? AnimatedValue::Motion::Animated : AnimatedValue::Motion::AtOnce);
@@ -97,21 +97,21 @@ void Label::showCrossFade()
 void Label::announce()
 {
     m_isMessage = true;
-    const auto tell = [this](QAccessible::Event type) {
+    const auto notify = [this](QAccessible::Event type) {
         QAccessibleEvent event(this, type);
         QAccessible::updateAccessibility(&event);
     };
-    tell(QAccessible::Alert);
-    // AT-SPI knows no such event (Qt 6.4): screen readers there read a message when it comes into view.
+    notify(QAccessible::Alert);
+    // Qt 6.4 sends no alert over AT-SPI; screen readers there announce a message when it is shown.
     if (!std::exchange(m_isNewlyShown, false)) {
-        tell(QAccessible::ObjectHide);
-        tell(QAccessible::ObjectShow);
+        notify(QAccessible::ObjectHide);
+        notify(QAccessible::ObjectShow);
     }
 }
 
 void Label::showEvent(QShowEvent*) { m_isNewlyShown = true; }
 
-/// Letter spacing also follows the last letter, where it would only push away what stands next.
+/// Without the letter spacing that Qt adds after the last letter too.
 double Label::widthOf(const QString& text) const
 {
     return text.isEmpty() ? 0 : QFontMetricsF(font()).horizontalAdvance(text) - font().letterSpacing();
@@ -152,13 +152,13 @@ void Label::paintEvent(QPaintEvent*)
     painter.setFont(font());
     if (!m_crossFade.hasArrived())
         draw(painter, m_former, 1 - m_crossFade.value());
-    draw(painter, {text(), m_ink}, m_crossFade.value());
+    draw(painter, {text(), m_color}, m_crossFade.value());
 }
 
 void Label::draw(QPainter& painter, const Look& look, double opacity) const
 {
     painter.setOpacity(m_opacity * opacity);
-    painter.setPen(toQColor(colorFor(look.ink, m_context.colors())));
+    painter.setPen(toQColor(colorFor(look.color, m_context.colors())));
     if (m_whenNarrow == WhenNarrow::Wrap) {
         painter.drawText(QRectF(rect()), static_cast<int>(alignment()) | Qt::TextWordWrap, look.text);
         return;

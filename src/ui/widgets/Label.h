@@ -8,26 +8,26 @@
 
 namespace cuebright {
 
-/// Plain text in one of the panel's colours. A screen reader always gets the whole of it, however little room there is.
+/// Plain text in one of the panel's colours. Its accessible name is always the whole text.
 class Label final : public QLabel {
 public:
     enum class WhenNarrow {
         Keep,
-        Elide, ///< cut with an ellipsis; the tool tip shows the whole
+        Elide, ///< the tool tip then shows the whole text
         Wrap,
     };
 
-    Label(const UiContext& context, const QFont& font, ColorRole ink, WhenNarrow whenNarrow, QWidget* parent);
+    Label(const UiContext& context, const QFont& font, ColorRole color, WhenNarrow whenNarrow, QWidget* parent);
 
-    [[nodiscard]] ColorRole ink() const { return m_ink; }
+    [[nodiscard]] ColorRole color() const { return m_color; }
 
     /// From 0 to 1.
     void setInkOpacity(double opacity);
 
-    /// The new text is there at once; on the screen it fades in while the one before fades out, for so long.
-    void crossFadeTo(const QString& text, ColorRole ink, Seconds time);
+    /// Sets text and colour immediately; on the screen they fade in while the former ones fade out.
+    void crossFadeTo(const QString& text, ColorRole color, Seconds time);
 
-    /// Has a screen reader read the text now, as a message.
+    /// Has screen readers announce the text now, as an alert.
     void announce();
     [[nodiscard]] bool isMessage() const { return m_isMessage; }
 
@@ -43,7 +43,7 @@ protected:
 private:
     struct Look {
         QString text;
-        ColorRole ink;
+        ColorRole color;
     };
 
     void showCrossFade();
@@ -52,12 +52,12 @@ private:
     [[nodiscard]] bool isCut() const;
 
     const UiContext& m_context;
-    ColorRole m_ink;
+    ColorRole m_color;
     WhenNarrow m_whenNarrow;
     double m_opacity = 1;
     bool m_isMessage = false;
     bool m_isNewlyShown = false; ///< since the last announcement
-    Look m_former; ///< what fades out
+    Look m_former; ///< fades out
     AnimatedValue m_crossFade;
 };
 

@@ -6,7 +6,7 @@ namespace cuebright {
 
 void makeSlim(QScrollBar& bar)
 {
-    // A style sheet, because it moves the clickable parts along with the look. The palette follows light and dark.
+    // A style sheet also moves the clickable parts. Its palette() follows the appearance.
     bar.setStyleSheet(QStringLiteral("QScrollBar:vertical { background: transparent; width: 8px; margin: 0; }"
                                      "QScrollBar::handle:vertical { background: palette(mid); border-radius: 3px;"
                                      " min-height: 28px; margin-left: 2px; }"

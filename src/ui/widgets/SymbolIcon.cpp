@@ -10,7 +10,6 @@ namespace cuebright {
 
 namespace {
 
-/// Its colour follows the look.
 class SymbolIconEngine final : public DrawnIcon {
 public:
     explicit SymbolIconEngine(Icon icon)

@@ -6,7 +6,7 @@
 
 namespace cuebright {
 
-/// A symbol for the toolkit's own widgets: in the colour of their text, sharp on every screen.
+/// A symbol for Qt's own widgets, in their text colour and sharp at every scale.
 [[nodiscard]] QIcon symbolIcon(Icon icon);
 
 } // namespace cuebright
