@@ -74,7 +74,7 @@ TEST_F(OnboardingOverlayTest, WhereThePanelCanBeSeenTheSecondPageSaysSo)
     open(Visible);
     overlay->advance();
     const auto advice = find(*overlay, kAdvice);
-    const auto body = find(*overlay, onboardingPages(shareAdvice(Visible))[1].body);
+    const auto body = find(*overlay, onboardingPages(shareAdvice(fake.captureExclusion))[1].body);
     EXPECT_LT(advice->geometry().bottom(), body->geometry().top());
     fake.captureExclusion.known = Excluded;
     fake.captureExclusion.changed.notify();
