@@ -7,7 +7,7 @@
 #include "ui/onboarding/OnboardingOverlay.h"
 #include "ui/panel/CardContentView.h"
 #include "ui/panel/NotesPanel.h"
-#include "ui/settings/AboutWindow.h"
+#include "ui/settings/About.h"
 #include "ui/settings/SettingsWindow.h"
 #include "ui/widgets/ApplicationIcon.h"
 

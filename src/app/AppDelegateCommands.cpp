@@ -2,12 +2,12 @@
 
 #include "platform/RemoteRequest.h"
 #include "platform/system/WindowActivation.h"
-#include "store/ThemeNames.h"
+#include "store/ThemeChoices.h"
 #include "ui/base/LinkOpener.h"
 #include "ui/base/ModalSheets.h"
 #include "ui/base/Notifications.h"
 #include "ui/panel/NotesPanel.h"
-#include "ui/settings/AboutWindow.h"
+#include "ui/settings/About.h"
 #include "ui/settings/Product.h"
 #include "ui/settings/SettingsWindow.h"
 
@@ -45,11 +45,9 @@ void AppDelegate::perform(Command command)
     case Command::CancelEdit:
         return m_store.cancelEdit();
     case Command::SetThemeSystem:
-        return m_store.setTheme(themeNames::kSystem);
     case Command::SetThemeLight:
-        return m_store.setTheme(themeNames::kLight);
     case Command::SetThemeDark:
-        return m_store.setTheme(themeNames::kDark);
+        return m_store.setTheme(themeOf(command));
     case Command::IncreaseTextSize:
         return m_store.increaseFontSize();
     case Command::DecreaseTextSize:
@@ -167,7 +165,7 @@ void AppDelegate::openSettings()
 
 void AppDelegate::openSupport() { openLink(product::kSupportPage); }
 
-void AppDelegate::emailSupport() { openLink(product::supportMailLink().toStdString()); }
+void AppDelegate::emailSupport() { openLink(product::supportMailLink()); }
 
 /// Only shows what there is: updates come from whoever installed the program.
 void AppDelegate::checkForUpdates() { openLink(product::kReleasesPage); }

@@ -6,7 +6,7 @@
 #include "platform/Log.h"
 #include "platform/Preferences.h"
 #include "store/PreferenceKeys.h"
-#include "store/ThemeNames.h"
+#include "store/ThemeChoices.h"
 
 #include <algorithm>
 #include <cstdlib>

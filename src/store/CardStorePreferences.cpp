@@ -5,7 +5,7 @@
 #include "platform/Preferences.h"
 #include "store/DisplayLimits.h"
 #include "store/PreferenceKeys.h"
-#include "store/ThemeNames.h"
+#include "store/ThemeChoices.h"
 
 #include <algorithm>
 

@@ -21,14 +21,14 @@ namespace cuebright {
 namespace {
 
 constexpr int kCaretWidth = 2;
-constexpr int kTabWidth = 4; ///< in blanks
+constexpr int kTabWidth = 4; ///< in spaces
 
-/// Looking for the end of a longer word costs Qt 6.4 time by its square: 57 s for a megabyte.
+/// Qt 6.4 finds word boundaries in quadratic time: 57 s for a word of 1 MB.
 constexpr int kLongestWord = 2000;
-/// Looking through all fonts for the characters that one lacks takes Qt 6.4 a second per 100 KB of emoji in one line.
-constexpr int kLongestLineInManyFonts = 10'000;
+/// Font fallback in Qt 6.4 takes 1 s per 100 KB of emoji in one line.
+constexpr int kLongestLineWithFontFallback = 10'000;
 
-/// Lines can break after blanks, and beside these letters of East Asia.
+/// Whether a line can break after the character: spaces, ideographs and Hangul.
 bool isBreakable(QChar c)
 {
     const bool isIdeograph = c.unicode() >= 0x4e00 && c.unicode() <= 0x9fff;
@@ -36,7 +36,7 @@ bool isBreakable(QChar c)
     return (c.isSpace() && c != QChar::Nbsp) || isIdeograph || isHangulSyllable;
 }
 
-template <typename IsEnd> bool hasStretchOver(qsizetype limit, QStringView text, IsEnd isEnd)
+template <typename IsEnd> bool hasRunOver(qsizetype limit, QStringView text, IsEnd isEnd)
 {
     qsizetype length = 0;
     return std::any_of(text.begin(), text.end(), [&](QChar c) {
@@ -94,7 +94,7 @@ void MarkdownEditor::refreshText()
 void MarkdownEditor::refreshStyle()
 {
     auto newFont = systemFont(m_context.store.fontSize());
-    if (m_keepsToOneFont)
+    if (m_hasNoFontFallback)
         newFont.setStyleStrategy(QFont::NoFontMerging);
     if (newFont != document()->defaultFont()) {
         setFont(newFont);
@@ -141,7 +141,7 @@ void MarkdownEditor::showEvent(QShowEvent* event)
 void MarkdownEditor::focusOutEvent(QFocusEvent* event)
 {
     QPlainTextEdit::focusOutEvent(event);
-    refreshText(); // changes that waited for the user's typing to end
+    refreshText(); // the text was not updated while the editor had focus
 }
 
 void MarkdownEditor::hideEvent(QHideEvent* event)
@@ -151,7 +151,7 @@ void MarkdownEditor::hideEvent(QHideEvent* event)
         m_manager->setTextView(nullptr);
 }
 
-/// The toolkit's caret (Qt 6.4) inverts what is below it, which is not the colour of the text.
+/// Draws the caret in the text colour. Qt 6.4 inverts the pixels below it.
 void MarkdownEditor::paintEvent(QPaintEvent* event)
 {
     QPlainTextEdit::paintEvent(event);
@@ -160,7 +160,7 @@ void MarkdownEditor::paintEvent(QPaintEvent* event)
         return;
     auto cursor = textCursor();
     if (position >= 0)
-        cursor.setPosition(std::min(position, document()->characterCount() - 1)); // where a drop would go
+        cursor.setPosition(std::min(position, document()->characterCount() - 1)); // the drop position
     QPainter(viewport()).fillRect(cursorRect(cursor), palette().color(QPalette::Text));
 }
 
@@ -172,7 +172,7 @@ void MarkdownEditor::setDocumentText(const QString& text)
     m_compositionReplacesSelection = false;
     clear();
     setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    m_keepsToOneFont = false;
+    m_hasNoFontFallback = false;
     refreshStyle();
     limitLayoutTime(text);
     setPlainText(m_documentText.encoded(text));
@@ -195,19 +195,19 @@ void MarkdownEditor::writeToStore()
     const auto newText = text();
     limitLayoutTime(newText);
     auto utf8 = toUtf8(newText);
-    // The document tells of changes of its looks as well.
+    // textChanged is also emitted for format-only changes.
     if (utf8 != m_context.store.editText())
         m_context.store.setEditText(std::move(utf8));
 }
 
-/// Until the next text is set: what was too long once may come back by undo.
+/// Limits stay in force until the next setDocumentText(), since undo may bring a long line back.
 void MarkdownEditor::limitLayoutTime(QStringView text)
 {
-    if (wordWrapMode() != QTextOption::WrapAnywhere && hasStretchOver(kLongestWord, text, isBreakable))
+    if (wordWrapMode() != QTextOption::WrapAnywhere && hasRunOver(kLongestWord, text, isBreakable))
         setWordWrapMode(QTextOption::WrapAnywhere);
     const auto endsLine = [](QChar c) { return c == QLatin1Char('\n'); };
-    if (!m_keepsToOneFont && hasStretchOver(kLongestLineInManyFonts, text, endsLine)) {
-        m_keepsToOneFont = true;
+    if (!m_hasNoFontFallback && hasRunOver(kLongestLineWithFontFallback, text, endsLine)) {
+        m_hasNoFontFallback = true;
         refreshStyle();
     }
 }

@@ -14,38 +14,38 @@ namespace cuebright {
 
 class TextViewManager;
 
-/// The plain-text editor of the open edit, which it writes into the store with every change.
+/// The plain-text editor of the open edit. Every change is written to the store.
 ///
-/// Takes and gives plain text only, and alters nothing but what the user changes. Undo and redo are the text's own and
-/// never reach further. Tab types a tab; Shift+Tab, Ctrl+Tab and Ctrl+Shift+Tab leave the editor by the keyboard.
+/// Undo and redo are limited to the editor's text. Tab inserts a tab; Shift+Tab, Ctrl+Tab and Ctrl+Shift+Tab move the
+/// focus.
 ///
-/// Overwriting takes the place of exactly one UTF-16 unit, line feeds included, however long what is typed, pasted or
-/// dropped; at the end of the text it appends, and a selection is replaced as ever.
+/// In overwrite mode, input of any length replaces exactly one UTF-16 unit, which may be a line feed; at the end of the
+/// text it appends. A selection is replaced as usual.
 ///
-/// Very long words break anywhere, and beside very long lines characters that the font lacks show as boxes: typing must
-/// stay quick.
+/// To keep typing fast, very long words may break anywhere, and documents with very long lines get no font fallback
+/// (missing glyphs show as boxes).
 class MarkdownEditor final : public QPlainTextEdit {
 public:
     MarkdownEditor(const UiContext& context, QWidget* parent);
 
-    /// Whose overwrite mode and formatting to follow, and whose text view to be while on screen.
+    /// The source of overwrite mode and formatting; its text view is this editor while that is visible.
     void setManager(TextViewManager& manager);
 
-    /// Takes the store's text, forgets the text's own history, puts the selection where writing starts, and asks for
-    /// the focus once that is possible.
+    /// Loads the store's text, clears the undo history, sets the initial selection, and takes the focus after the
+    /// current event.
     void open();
     /// Shows the store's text, unless the editor has the focus.
     void refreshText();
     /// Follows the text size and the colours.
     void refreshStyle();
 
-    /// Has an input method finish the word it composes. To be called before an edit ends, or the word is lost.
+    /// Commits the input method's composition. Call before an edit ends, otherwise the composed word is lost.
     static void commitComposition();
 
     [[nodiscard]] QString text() const;
     [[nodiscard]] TextRange selectedRange() const;
     [[nodiscard]] bool mayChange() const;
-    /// As one step of the text's undo.
+    /// Applies `edit` as one undo step.
     void apply(const TextEdit& edit);
 
 protected:
@@ -82,9 +82,9 @@ private:
     QPointer<TextViewManager> m_manager;
     DocumentText m_documentText;
     bool m_isUpdating = false;
-    bool m_typingStartsNewStep = false; ///< after a step that typing must not join
+    bool m_typingStartsNewStep = false; ///< typing must not join the last step
     bool m_compositionReplacesSelection = false;
-    bool m_keepsToOneFont = false;
+    bool m_hasNoFontFallback = false;
     PendingTask m_pendingFocus;
 };
 

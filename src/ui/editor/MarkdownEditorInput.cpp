@@ -27,7 +27,7 @@ enum class MarkdownEditor::Command {
 
 namespace {
 
-/// The text that a key types; empty where it types none.
+/// The text that the key inserts; empty if none.
 QString typedText(const QKeyEvent& event)
 {
     const auto modifiers = event.modifiers() & ~Qt::KeyboardModifiers(Qt::KeypadModifier);
@@ -37,7 +37,7 @@ QString typedText(const QKeyEvent& event)
     if (text.isEmpty())
         return {};
     const QChar first = text[0];
-    // Control and Shift together type the invisible characters of some scripts.
+    // Some keyboard layouts insert zero-width joiners with Ctrl+Shift.
     if (first.category() == QChar::Other_Format)
         return text;
     if (modifiers == Qt::ControlModifier || modifiers == (Qt::ControlModifier | Qt::ShiftModifier))
@@ -141,7 +141,7 @@ void MarkdownEditor::keyPressEvent(QKeyEvent* event)
     insertInput(typed, UndoStep::MayJoinTyping);
 }
 
-/// A composition takes the selection's place when it begins, so what it commits in the end replaces nothing more.
+/// A composition replaces the selection when it starts, so its commit must not also overwrite a character.
 void MarkdownEditor::inputMethodEvent(QInputMethodEvent* event)
 {
     const auto cursor = textCursor();
@@ -196,7 +196,7 @@ void MarkdownEditor::insertInput(const QString& input, UndoStep step)
     if (overwrites)
         cursor.setPosition(cursor.position() + 1, QTextCursor::KeepAnchor);
     const bool isOwnStep = overwrites || step == UndoStep::Own;
-    // An edit block joins no step before it, but typing after it would join the block.
+    // An edit block never joins the undo step before it, but typing after it joins the block.
     const bool isBlock = std::exchange(m_typingStartsNewStep, isOwnStep) || isOwnStep;
     if (isBlock)
         cursor.beginEditBlock();

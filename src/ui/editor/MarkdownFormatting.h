@@ -2,10 +2,10 @@
 
 #include <QString>
 
-/// What the formatting commands make of a text. Pure functions; `TextViewManager` applies them.
+/// The formatting commands as pure functions, applied by `TextViewManager`.
 ///
-/// Positions and lengths count UTF-16 units. Where a new selection is measured by characters, it counts characters as
-/// people see them (grapheme clusters), each as one.
+/// Positions and lengths are in UTF-16 units, but inserted text counts as one per grapheme cluster in the new
+/// selection.
 namespace cuebright {
 
 struct TextRange {
@@ -15,22 +15,24 @@ struct TextRange {
     bool operator==(const TextRange&) const = default;
 };
 
-/// One replacement in a text and what is selected after it.
+/// A replacement and the selection after it.
 struct TextEdit {
     TextRange range;
     QString replacement;
     TextRange selection;
 };
 
+/// The number of grapheme clusters.
 [[nodiscard]] int characterCount(const QString& text);
 
-/// The selection between two markers, wholly selected; without a selection, the caret between them.
+/// Puts the selection between two markers and selects all of it; an empty selection puts the caret between them.
 [[nodiscard]] TextEdit wrapEdit(const QString& text, TextRange selection, const QString& marker);
-/// The selection as the text of a link with its address to be filled in; without a selection, both to be filled in.
+/// Makes the selection a link's text and selects the placeholder for the address; an empty selection inserts both
+/// placeholders and selects the text.
 [[nodiscard]] TextEdit linkEdit(const QString& text, TextRange selection);
-/// The caret's line with the prefix, or without if it had it. Lines end with line feeds only, as they do in a card.
+/// Toggles `prefix` on the caret's line. Only line feeds end lines.
 [[nodiscard]] TextEdit linePrefixEdit(const QString& text, TextRange selection, const QString& prefix);
-/// What is selected when an edit opens: the text of a heading in the first line, else nothing, at the start.
+/// The selection when an edit opens: the text of a heading in the first line, else the start.
 [[nodiscard]] TextRange initialSelection(const QString& text);
 
 } // namespace cuebright

@@ -8,7 +8,7 @@ namespace cuebright {
 
 class TextViewManager;
 
-/// One row of buttons that format the text being edited.
+/// The row of formatting buttons.
 class MarkdownToolbar final : public QWidget {
 public:
     /// `manager` must outlive this.

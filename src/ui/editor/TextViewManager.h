@@ -9,18 +9,17 @@ namespace cuebright {
 class MarkdownEditor;
 struct TextEdit;
 
-/// The live text being edited, for those who format it, and the switch between inserting and overwriting.
+/// The formatting operations on the open editor, and its overwrite mode.
 ///
-/// Each formatting operation is one step of the text's own undo; without a text view it does nothing. Wrapping looks
-/// for no markers that are there already.
+/// Each operation is one undo step of the editor; without a text view it does nothing. Wrapping always adds markers.
 class TextViewManager final : public QObject {
 public:
     using QObject::QObject;
 
-    [[nodiscard]] MarkdownEditor* textView() const; ///< null while no editor is on screen
+    [[nodiscard]] MarkdownEditor* textView() const; ///< null while no editor is visible
     void setTextView(MarkdownEditor* textView);
 
-    /// Survives the end of an edit.
+    /// Kept across edits.
     [[nodiscard]] bool isOverwriteMode() const { return m_isOverwriteMode; }
     void setOverwriteMode(bool isOverwriteMode) { m_isOverwriteMode = isOverwriteMode; }
 

@@ -1,28 +1,9 @@
 #include "ui/menu/Command.h"
 
 #include "store/CardStore.h"
-#include "store/ThemeNames.h"
+#include "store/ThemeChoices.h"
 
 namespace cuebright {
-
-namespace {
-
-/// Null where the command chooses none.
-const char* themeOf(Command command)
-{
-    switch (command) {
-    case Command::SetThemeSystem:
-        return themeNames::kSystem;
-    case Command::SetThemeLight:
-        return themeNames::kLight;
-    case Command::SetThemeDark:
-        return themeNames::kDark;
-    default:
-        return nullptr;
-    }
-}
-
-} // namespace
 
 bool isCommandEnabled(Command command, const CardStore& store)
 {
@@ -43,12 +24,18 @@ bool isCommandEnabled(Command command, const CardStore& store)
     }
 }
 
-bool isCommandCheckable(Command command) { return themeOf(command); }
-
-bool isCommandChecked(Command command, const CardStore& store)
+const char* themeOf(Command command)
 {
-    const auto* const theme = themeOf(command);
-    return theme && store.theme() == theme;
+    switch (command) {
+    case Command::SetThemeSystem:
+        return kThemeChoices[0].value;
+    case Command::SetThemeLight:
+        return kThemeChoices[1].value;
+    case Command::SetThemeDark:
+        return kThemeChoices[2].value;
+    default:
+        return nullptr;
+    }
 }
 
 bool isCardCommand(Command command)

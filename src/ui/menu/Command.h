@@ -4,7 +4,7 @@ namespace cuebright {
 
 class CardStore;
 
-/// Everything that the menus offer.
+/// The menus' commands.
 enum class Command {
     ShowAbout,
     OpenSettings,
@@ -40,18 +40,17 @@ enum class Command {
     EmailSupport,
 };
 
-/// Whether the command could do something in the store's state. True for all that does not depend on the store; what
-/// can be undone is known to `EditCommands`.
+/// Whether the command would have an effect in the store's state. True for commands that do not depend on the store;
+/// `EditCommands` decides about Undo and Redo.
 [[nodiscard]] bool isCommandEnabled(Command command, const CardStore& store);
 
-/// The three themes carry check marks, nothing else does.
-[[nodiscard]] bool isCommandCheckable(Command command);
-[[nodiscard]] bool isCommandChecked(Command command, const CardStore& store);
+/// The value of `CardStore::theme` that the command sets; null for other commands.
+[[nodiscard]] const char* themeOf(Command command);
 
-/// Whether the command changes decks, cards or what is being edited, at once or after a question.
+/// Whether the command changes decks, cards or the open edit, immediately or after a question.
 [[nodiscard]] bool isCardCommand(Command command);
 
-/// Whether a held key may perform the command again and again.
+/// Whether holding the key repeats the command.
 [[nodiscard]] bool isCommandRepeatable(Command command);
 
 } // namespace cuebright

@@ -19,7 +19,7 @@ namespace cuebright {
 
 namespace {
 
-/// The slot that every kind of text has for the command; null for other commands.
+/// The slot for the command in all of Qt's text widgets; null for other commands.
 const char* textSlot(Command command)
 {
     switch (command) {
@@ -46,7 +46,7 @@ bool isText(const QWidget* widget)
         || qobject_cast<const QTextEdit*>(widget);
 }
 
-/// A label has no slots for these, and its own keys are the menus'.
+/// A label has no such slots, and the menu's shortcuts take precedence over its own keys.
 void performOn(QLabel& label, Command command)
 {
     if (command == Command::Copy && label.hasSelectedText())

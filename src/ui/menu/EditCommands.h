@@ -17,20 +17,19 @@ class CardStore;
 class NotesPanel;
 class UndoManager;
 
-/// Undo, Redo, Cut, Copy, Paste and Select All. They act on the text that has the keyboard; while none has, Undo and
-/// Redo act on the store's stack and the others do nothing.
+/// Undo, Redo, Cut, Copy, Paste and Select All. They act on the text that has focus. Without one, Undo and Redo act on
+/// the store's undo stack, and Copy and Select All on a focused label.
 ///
-/// The two stacks never mix: with nothing left to undo in a text, Undo does nothing; and while a card is being edited
-/// the store's stack rests, or the edit would be saved into the card that takes its place. It also rests while a sheet
-/// on the panel waits for an answer.
+/// The two stacks never mix: if a text has nothing left to undo, Undo does nothing. The store's stack is blocked while
+/// a card is being edited (the edit would be saved into another card) and while a sheet on the panel is open.
 class EditCommands final : public QObject {
 public:
     EditCommands(const CardStore& store, const NotesPanel& panel);
 
-    /// False where the command is not one of the six.
+    /// False if the command is none of the six.
     bool perform(Command command);
 
-    /// "Undo Add Card"; plain "Undo" while a text has the keyboard. UTF-8 as it shows.
+    /// "Undo Add Card"; just "Undo" while a text has focus. UTF-8, without mnemonics.
     [[nodiscard]] std::string title(Command undoOrRedo) const;
     [[nodiscard]] bool isEnabled(Command undoOrRedo) const;
 
@@ -45,7 +44,7 @@ private:
     const CardStore& m_store;
     const NotesPanel& m_panel;
     std::shared_ptr<UndoManager> m_undoManager;
-    QPointer<QWidget> m_focusBeforeMenus; ///< had the keyboard before a menu bar took it
+    QPointer<QWidget> m_focusBeforeMenus; ///< had focus before a menu bar
 };
 
 } // namespace cuebright

@@ -16,7 +16,7 @@ namespace cuebright {
 
 namespace {
 
-/// A window that a sheet can belong to: no menu, no tooltip, no icon in a tray.
+/// Whether `window` can be a dialog's parent; menus, tool tips and tray icons cannot.
 bool canHaveSheets(const QWidget* window)
 {
     const auto type = window->windowType();
@@ -38,8 +38,6 @@ ExportCommand::ExportCommand(const UiContext& context, QWidget& panel)
 {
 }
 
-ExportCommand::~ExportCommand() { delete m_dialog; }
-
 void ExportCommand::exportDeck()
 {
     if (m_dialog)
@@ -50,7 +48,7 @@ void ExportCommand::exportDeck()
         bringToFront(*parent);
     auto text = m_context.store.exportDeckAsMarkdown();
     ask(canHaveSheets(parent) ? parent : nullptr);
-    QObject::connect(m_dialog, &QFileDialog::fileSelected, m_dialog,
+    connect(m_dialog, &QFileDialog::fileSelected, this,
         [this, text = std::move(text)](const QString& file) { write(file, text); });
 }
 
@@ -58,6 +56,7 @@ void ExportCommand::ask(QWidget* parent)
 {
     m_dialog = new ExportDialog(toQString(safeFileName(m_context.store.deckName()) + ".md"), parent);
     m_dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(qApp, &QCoreApplication::aboutToQuit, m_dialog, &QObject::deleteLater); // it may have no parent
     m_dialog->setWindowModality(parent ? Qt::WindowModal : Qt::ApplicationModal);
     m_dialog->show();
 }
@@ -73,7 +72,7 @@ void ExportCommand::write(const QString& file, const std::string& text)
     m_context.store.showFeedback("Exported to " + toUtf8(target.fileName()));
     std::error_code error;
     if (std::filesystem::equivalent(target.filesystemFilePath(), m_context.store.stateURL(), error))
-        m_context.store.scheduleSave(); // or all decks would be gone at the next start
+        m_context.store.scheduleSave(); // the export has overwritten the state file
 }
 
 } // namespace cuebright

@@ -9,20 +9,17 @@
 
 namespace cuebright {
 
-/// Writes the active deck into a Markdown file of the user's choice.
-class ExportCommand final {
+/// Exports the active deck to a Markdown file that the user chooses.
+class ExportCommand final : public QObject {
 public:
-    /// `panel` outlives this.
+    /// `panel` must outlive this.
     ExportCommand(const UiContext& context, QWidget& panel);
-    ~ExportCommand();
-    ExportCommand(const ExportCommand&) = delete;
-    ExportCommand& operator=(const ExportCommand&) = delete;
 
-    /// Takes the deck's text as it is now and asks for the file, on a sheet of the active window, else of the
-    /// panel. A question that is open already comes to the front.
+    /// Asks for the file in a sheet of the active window, else of the panel. The deck's text is that of now. A dialog
+    /// that is open already is activated instead.
     void exportDeck();
 
-    /// Null while none is open.
+    /// The open dialog, or null.
     [[nodiscard]] QFileDialog* dialog() const { return m_dialog; }
 
 private:

@@ -21,7 +21,7 @@ ExportDialog::ExportDialog(const QString& proposedName, QWidget* parent)
     : QFileDialog(parent, QStringLiteral("Export Deck"), startFolder())
 {
     setOption(DontUseNativeDialog);
-    // The toolkit's own question runs an event loop inside the dialog, which may go away in it with the panel.
+    // Qt's own confirmation runs a nested event loop, in which the dialog could be deleted together with its parent.
     setOption(DontConfirmOverwrite);
     setAcceptMode(AcceptSave);
     setFileMode(AnyFile);

@@ -4,10 +4,10 @@
 
 namespace cuebright {
 
-/// Asks where to put a Markdown file; ".md" is added to a name without a suffix. Asks once more before a file is
-/// replaced.
+/// Asks for the file name of an export, and for confirmation before a file is replaced. Names without a suffix get
+/// ".md".
 ///
-/// Never the system's own dialog: that may belong to another process, which nothing keeps out of a screen share.
+/// Never the native dialog: it may belong to another process, whose windows we cannot exclude from screen sharing.
 class ExportDialog final : public QFileDialog {
 public:
     ExportDialog(const QString& proposedName, QWidget* parent);

@@ -9,6 +9,7 @@
 #include "ui/menu/MenuTree.h"
 #include "ui/panel/NotesPanel.h"
 
+#include <QApplication>
 #include <QMenuBar>
 
 #include <utility>
@@ -17,7 +18,7 @@ namespace cuebright {
 
 namespace {
 
-/// Where a system gathers such items in a menu of its own; anywhere else an item stays where it is.
+/// Where the item goes on systems with an application menu.
 QAction::MenuRole roleOf(Command command)
 {
     switch (command) {
@@ -45,7 +46,7 @@ MainMenu::MainMenu(
     , m_refresh(context.platform.mainQueue, [this] { refresh(); })
 {
     for (const auto& tree : mainMenuTree()) {
-        // All titles begin with different letters, which open them together with Alt.
+        // The first letters are the mnemonics: no two titles begin with the same one.
         const auto& menu = m_menus.emplace_back(std::make_unique<QMenu>(QLatin1Char('&') + toActionText(tree.title)));
         addItems(*menu, tree.items);
         QObject::connect(menu.get(), &QMenu::aboutToShow, menu.get(), [this] { refresh(); });
@@ -81,15 +82,15 @@ void MainMenu::addCommand(QMenu& menu, const MenuItem& item)
     action->setShortcuts(item.keys);
     action->setShortcutContext(Qt::ApplicationShortcut);
     action->setAutoRepeat(isCommandRepeatable(command));
-    action->setCheckable(isCommandCheckable(command));
+    action->setCheckable(themeOf(command));
     QObject::connect(action, &QAction::triggered, action, [this, command] { trigger(command); });
     m_actions.emplace(command, action);
 }
 
 void MainMenu::trigger(Command command)
 {
-    m_refresh.request(); // the toolkit has turned a check mark round by itself
-    // The toolkit keeps the keys away from the window that a sheet belongs to, and only from that one.
+    m_refresh.request(); // Qt has toggled the check mark
+    // Qt blocks shortcuts only in the window that the sheet belongs to.
     if (isCardCommand(command) && isWaitingForAnswer(m_panel))
         return;
     MarkdownEditor::commitComposition(); // the command may end the edit
@@ -118,7 +119,7 @@ void MainMenu::refresh()
             action->setEnabled(m_edit.isEnabled(command));
         } else {
             action->setEnabled(isCommandEnabled(command, m_context.store) && !(isWaiting && isCardCommand(command)));
-            action->setChecked(isCommandChecked(command, m_context.store));
+            action->setChecked(action->isCheckable() && m_context.store.theme() == themeOf(command));
         }
     }
 }

@@ -21,21 +21,20 @@ class EditCommands;
 class NotesPanel;
 struct MenuItem;
 
-/// The main menu's menus and actions, made once. What is enabled, what carries a check mark, and what Undo and Redo are
-/// called follows the store and the keyboard once per turn of the event loop, whether a menu opens or not: keys and
-/// screen readers go by it too.
+/// The main menu's menus and actions. Enabled states, check marks and the titles of Undo and Redo follow the store and
+/// the focus even while no menu is open, since shortcuts and screen readers depend on them.
 ///
-/// A key works in every window that has the actions.
+/// Shortcuts work in every window that has the actions.
 class MainMenu final {
 public:
-    /// `perform` gets every command but those that `edit` performs. While a sheet on the panel waits for an answer,
-    /// none that changes cards can be had. All that is passed in must outlive this.
+    /// `perform` gets the commands that `edit` does not perform. Commands that change cards are disabled while a sheet
+    /// on the panel is open. All arguments must outlive this.
     MainMenu(const UiContext& context, EditCommands& edit, NotesPanel& panel, std::function<void(Command)> perform);
     MainMenu(const MainMenu&) = delete;
     MainMenu& operator=(const MainMenu&) = delete;
 
     void addMenusTo(QMenuBar& bar) const;
-    /// Has the keys work while this window has the keyboard, be its menu bar on the screen or not.
+    /// Makes the shortcuts work in `window`, whether its menu bar is visible or not.
     void addActionsTo(QWidget& window) const;
 
     [[nodiscard]] QAction& action(Command command) const { return *m_actions.at(command); }

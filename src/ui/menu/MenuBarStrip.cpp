@@ -22,13 +22,13 @@ constexpr int kTop = 6;
 constexpr int kSide = 8;
 constexpr int kTitlePadding = 8;
 constexpr double kFontSize = 12;
-constexpr double kChosenFill = 0.6; // in high contrast too: the ink on it stays readable
+constexpr double kChosenFill = 0.6; // keeps the text readable in high contrast too
 constexpr double kCornerRadius = 5;
 constexpr Seconds kFadeTime {0.2};
 
 } // namespace
 
-/// The sizes of the titles; and Alt alone goes to the bar whatever the desktop is like.
+/// Sets the titles' sizes, and lets Alt focus the menu bar on every desktop.
 class MenuBarStrip::Style final : public QProxyStyle {
 public:
     Style()
@@ -83,16 +83,16 @@ MenuBarStrip::MenuBarStrip(const UiContext& context, QWidget* panel)
     connect(new QShortcut(QKeySequence(Qt::Key_F10), panel), &QShortcut::activated, this, &MenuBarStrip::takeKeyboard);
     m_appearanceSubscription = context.platform.appearance.changed.subscribe([this] { update(); });
     m_accessibilitySubscription = context.platform.accessibility.changed.subscribe([this] { update(); });
-    show(); // the panel may be on the screen already
+    show(); // the panel may be visible already
     updateVisibility();
 }
 
-/// The toolkit has no other way in than pressing Alt and letting it go.
+/// Simulates pressing and releasing Alt: QMenuBar has no function for this.
 void MenuBarStrip::takeKeyboard()
 {
     if (!isVisible() || hasFocus())
         return;
-    QKeyEvent press(QEvent::ShortcutOverride, Qt::Key_Alt, Qt::NoModifier); // the state before the key
+    QKeyEvent press(QEvent::ShortcutOverride, Qt::Key_Alt, Qt::NoModifier); // modifiers before the press
     QKeyEvent release(QEvent::KeyRelease, Qt::Key_Alt, Qt::AltModifier);
     QCoreApplication::sendEvent(window(), &press);
     QCoreApplication::sendEvent(window(), &release);

@@ -8,19 +8,19 @@
 
 namespace cuebright {
 
-/// The panel's menu bar, over the empty strip above the header, as wide as its titles and no wider: what is beside it
-/// still moves the panel. It fades away while neither the pointer nor the keyboard is in the panel; but it stays where
-/// it is, for a menu bar that is hidden has no keys. Alt or F10 gives it the keyboard.
+/// The panel's menu bar, in the empty strip above the header. It is only as wide as its titles, so that the rest of the
+/// strip still moves the panel. It fades out while the panel is neither active nor under the pointer, but stays visible
+/// to Qt, because a hidden menu bar gets no keys. Alt or F10 moves the focus to it.
 ///
-/// Where the desktop shows the menus of programs in a bar of its own, they are there and nothing is here.
+/// Empty on desktops with a global menu bar.
 class MenuBarStrip final : public QMenuBar {
 public:
     MenuBarStrip(const UiContext& context, QWidget* panel);
 
-    /// 0 = faded away, 1 = there.
+    /// The opacity, from 0 to 1.
     [[nodiscard]] double fade() const { return m_fade.value(); }
 
-    /// Gives it the keyboard, the first title first.
+    /// Moves the focus to the first title.
     void takeKeyboard();
 
 protected:

@@ -1,5 +1,6 @@
 #include "ui/menu/MenuTree.h"
 
+#include "store/ThemeChoices.h"
 #include "ui/panel/GlobalHotKey.h"
 
 namespace cuebright {
@@ -57,7 +58,9 @@ std::vector<MenuItem> editItems()
 std::vector<MenuItem> viewItems()
 {
     return {
-        {"Appearance", {}, {}, {{"System", SetThemeSystem}, {"Light", SetThemeLight}, {"Dark", SetThemeDark}}},
+        {"Appearance", {}, {},
+            {{kThemeChoices[0].title, SetThemeSystem}, {kThemeChoices[1].title, SetThemeLight},
+                {kThemeChoices[2].title, SetThemeDark}}},
         kSeparator,
         {"Increase Text Size", IncreaseTextSize, {Qt::CTRL | Qt::Key_Equal}},
         {"Decrease Text Size", DecreaseTextSize, {Qt::CTRL | Qt::Key_Minus}},
@@ -70,7 +73,7 @@ std::vector<MenuItem> viewItems()
     };
 }
 
-/// Many desktops take Ctrl+Alt+Up and Down for themselves, so moving a card has a second key.
+/// Many desktops reserve Ctrl+Alt+Up and Down, so moving a card has a second key.
 std::vector<MenuItem> deckItems()
 {
     return {

@@ -10,12 +10,12 @@
 
 namespace cuebright {
 
-/// One line of a menu: a command, a submenu, or, without a title, a separator. Titles are UTF-8, as they show.
+/// A command, a submenu or, without a title, a separator. Titles are UTF-8, without mnemonics.
 struct MenuItem {
     const char* title = nullptr;
     std::optional<Command> command = {};
-    QList<QKeySequence> keys = {}; ///< the first is the one shown
-    std::vector<MenuItem> items = {}; ///< of a submenu
+    QList<QKeySequence> keys = {}; ///< the menu shows the first
+    std::vector<MenuItem> items = {}; ///< of the submenu
 };
 
 struct Menu {

@@ -10,21 +10,21 @@ namespace cuebright {
 
 namespace {
 
-/// File systems take 255; a suffix and the name of the temporary file beside it need some.
+/// In bytes. File systems allow 255; the suffix and the temporary file's name need some of them.
 constexpr std::size_t kLongestName = 200;
 
-QString withoutOddCharacters(QString name)
+QString withoutSpecialCharacters(QString name)
 {
     for (auto& c : name) {
         if (c == QLatin1Char('/') || c == QLatin1Char('\\'))
             c = QLatin1Char('-');
         else if (c == QLatin1Char('"'))
-            c = QLatin1Char('\''); // the file dialog would take what is between two of them for the name
+            c = QLatin1Char('\''); // QFileDialog reads quotation marks as delimiters of several names
     }
     return toOneLine(std::move(name));
 }
 
-/// The first characters, as a reader counts them, that fit.
+/// Cut to `kLongestName` between two grapheme clusters.
 QString shortened(const QString& name)
 {
     QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, name);
@@ -41,8 +41,8 @@ QString shortened(const QString& name)
 
 std::string safeFileName(std::string_view deckName)
 {
-    auto name = withoutOddCharacters(toQString(deckName));
-    // A hidden file, somebody's home, a resource of the toolkit's: signs that mean something at the front.
+    auto name = withoutSpecialCharacters(toQString(deckName));
+    // At the start these mean a hidden file, a home folder or a Qt resource.
     const auto isSkipped = [](QChar c) { return c.isSpace() || QLatin1String(".~:").contains(c); };
     qsizetype start = 0;
     while (start < name.size() && isSkipped(name[start]))

@@ -5,8 +5,8 @@
 
 namespace cuebright {
 
-/// A name as close to `deckName` as file systems allow, without a suffix and with room for one: on one line, without
-/// slashes and control characters, not hidden, at most 200 bytes. "Untitled" where nothing is left.
+/// `deckName` as a file name without a suffix: one line, no slashes or control characters, not hidden, at most 200
+/// bytes. "Untitled" if nothing remains.
 [[nodiscard]] std::string safeFileName(std::string_view deckName);
 
 } // namespace cuebright

@@ -21,7 +21,7 @@ namespace {
 
 constexpr QSize kIconSize {18, 18};
 
-/// The application's icon in the one size, in its own colours.
+/// The application icon in a single size, at up to three device pixels per pixel.
 QIcon statusIcon()
 {
     const auto icon = applicationIcon();
@@ -32,7 +32,7 @@ QIcon statusIcon()
     return small;
 }
 
-/// Shown with the item, but taken by the main menu.
+/// Shows the key only: the main menu handles it.
 void showKey(QAction& action, const QKeySequence& key)
 {
     action.setShortcut(key);
@@ -63,11 +63,11 @@ StatusItem::~StatusItem() = default;
 
 void StatusItem::appear()
 {
-    m_trayWatch.reset(); // from here on the toolkit follows status areas that come and go
+    m_trayWatch.reset(); // from now on Qt follows trays that come and go
     m_icon = std::make_unique<QSystemTrayIcon>(statusIcon());
     m_icon->setToolTip(QStringLiteral("Cuebright"));
     m_icon->setContextMenu(&m_menu);
-    m_shown.clear(); // the desktop may draw the menu now, and reads titles in its own way
+    m_shown.clear(); // actionText() differs where the desktop draws the menu
     rebuildStatusMenu();
     QObject::connect(m_icon.get(), &QSystemTrayIcon::activated, m_icon.get(), [this](auto reason) {
         if (reason == QSystemTrayIcon::Trigger)
@@ -104,10 +104,10 @@ void StatusItem::addItem(const StatusMenuItem& item)
             action, &QAction::triggered, &m_menu, [this] { m_context.notifications.post(kTogglePanelNotification); });
         return;
     case Kind::Deck:
-        action->setData(QVariant::fromValue<qlonglong>(item.deckIndex));
         action->setCheckable(true);
         action->setChecked(item.isChecked);
-        QObject::connect(action, &QAction::triggered, &m_menu, [this, action] { switchDeckFromMenu(*action); });
+        QObject::connect(
+            action, &QAction::triggered, &m_menu, [this, index = item.deckIndex] { switchDeckFromMenu(index); });
         return;
     case Kind::Quit:
         showKey(*action, Qt::CTRL | Qt::Key_Q);
@@ -118,13 +118,12 @@ void StatusItem::addItem(const StatusMenuItem& item)
     }
 }
 
-void StatusItem::switchDeckFromMenu(const QAction& item)
+void StatusItem::switchDeckFromMenu(std::int64_t index)
 {
-    const auto index = item.data().toLongLong();
     MarkdownEditor::commitComposition(); // the switch ends an open edit
     if (!isWaitingForAnswer(m_panelController.panelWindow()))
         m_context.store.switchToDeck(index);
-    m_shown.clear(); // the toolkit has turned a check mark round by itself
+    m_shown.clear(); // Qt has toggled the check mark
     m_refresh.request();
 }
 

@@ -10,7 +10,6 @@
 #include <functional>
 #include <memory>
 
-class QAction;
 class QSystemTrayIcon;
 
 namespace cuebright {
@@ -18,13 +17,11 @@ namespace cuebright {
 class PanelController;
 class TrayAvailability;
 
-/// The status item in the desktop's status area: a click shows or hides the panel, its menu also switches decks.
-/// Appears as soon as there is such an area; nothing depends on it. Make it after the first frame.
-///
-/// The menu is one object, filled anew whenever something in it has changed.
+/// The icon in the system tray: a click shows or hides the panel, its menu also switches decks. It appears as soon as
+/// there is a tray.
 class StatusItem final {
 public:
-    /// `quit` leaves the program. All that is passed in must outlive this.
+    /// `quit` ends the program. All arguments must outlive this.
     StatusItem(const UiContext& context, PanelController& panelController, std::function<void()> quit);
     ~StatusItem();
     StatusItem(const StatusItem&) = delete;
@@ -37,7 +34,7 @@ private:
     void appear();
     [[nodiscard]] QString actionText(const std::string& title);
     void addItem(const StatusMenuItem& item);
-    void switchDeckFromMenu(const QAction& item);
+    void switchDeckFromMenu(std::int64_t index);
 
     const UiContext& m_context;
     PanelController& m_panelController;

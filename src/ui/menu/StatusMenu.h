@@ -8,12 +8,12 @@ namespace cuebright {
 
 class CardStore;
 
-/// One line of the status item's menu.
+/// One entry of the status item's menu.
 struct StatusMenuItem {
     enum class Kind { TogglePanel, Separator, Deck, Quit };
 
     Kind kind;
-    std::string title = {}; ///< UTF-8 as it shows
+    std::string title = {}; ///< UTF-8, without mnemonics
     std::int64_t deckIndex = 0;
     bool isChecked = false;
 

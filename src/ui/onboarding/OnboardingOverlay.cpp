@@ -23,7 +23,7 @@ namespace cuebright {
 namespace {
 
 constexpr int kCardWidth = 440;
-constexpr int kCardMargin = 12; ///< to the panel's edges at least
+constexpr int kCardMargin = 12; ///< minimum distance from the panel's edges
 constexpr int kPadding = 32;
 constexpr int kDotSize = 8;
 constexpr int kDotGap = 8;
@@ -41,7 +41,7 @@ OnboardingOverlay* overlayOn(const QWidget* widget)
     return overlay && !overlay->isHidden() ? overlay : nullptr;
 }
 
-/// What a screen reader sees of the widget below: while the overlay is up, only that.
+/// Hides a widget's children from screen readers while the overlay covers them.
 class CoveredInterface final : public QAccessibleWidget {
 public:
     explicit CoveredInterface(QWidget* widget)
@@ -78,7 +78,7 @@ QAccessibleInterface* makeInterface(const QString&, QObject* object)
 void coverForScreenReaders(QWidget* widget)
 {
     QAccessible::installFactory(makeInterface);
-    // One made before would stay.
+    // Qt keeps an interface that was created before.
     if (const auto former = QAccessible::queryAccessibleInterface(widget))
         QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(former));
 }
@@ -96,8 +96,7 @@ public:
 
     [[nodiscard]] QSize sizeHint() const override
     {
-        const int count = static_cast<int>(m_overlay.m_pages.size());
-        return {count * (kDotSize + kDotGap) - kDotGap, kDotSize};
+        return {m_overlay.pageCount() * (kDotSize + kDotGap) - kDotGap, kDotSize};
     }
 
 protected:
@@ -107,7 +106,7 @@ protected:
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(Qt::NoPen);
         const auto colors = m_overlay.m_context.colors();
-        for (int i = 0; i < static_cast<int>(m_overlay.m_pages.size()); ++i) {
+        for (int i = 0; i < m_overlay.pageCount(); ++i) {
             painter.setBrush(toQColor(i == m_overlay.m_currentPage ? colors.accent() : colors.sep()));
             painter.drawEllipse(QRectF(i * (kDotSize + kDotGap), 0, kDotSize, kDotSize));
         }
@@ -144,26 +143,23 @@ bool OnboardingOverlay::isDue(const UiContext& context)
 
 void OnboardingOverlay::buildPages()
 {
-    for (const auto page : m_pages)
-        delete page;
     m_pages.clear();
     for (const auto& page : onboardingPages(shareAdvice(m_context.desktop.captureExclusion)))
-        m_pages.push_back(new OnboardingPageView(m_context, page, this));
-    m_dots->raise(); // read after the page
+        m_pages.push_back(std::make_unique<OnboardingPageView>(m_context, page, this));
+    m_dots->raise(); // screen readers read in stacking order
     m_advance->raise();
     showPage();
 }
 
 void OnboardingOverlay::showPage()
 {
-    const int count = static_cast<int>(m_pages.size());
-    for (int i = 0; i < count; ++i)
-        m_pages[static_cast<std::size_t>(i)]->setVisible(i == m_currentPage);
-    const bool isLast = m_currentPage == count - 1;
+    for (const auto& each : m_pages)
+        each->setVisible(each.get() == &page());
+    const bool isLast = m_currentPage + 1 == pageCount();
     m_advance->setText(isLast ? QStringLiteral("GET STARTED") : QStringLiteral("NEXT"));
     m_advance->setAccessibleName(isLast ? QStringLiteral("Get started") : QStringLiteral("Next page"));
-    m_advance->setAccessibleDescription(m_pages[static_cast<std::size_t>(m_currentPage)]->spokenText());
-    m_dots->setAccessibleName(QStringLiteral("Page %1 of %2").arg(m_currentPage + 1).arg(count));
+    m_advance->setAccessibleDescription(page().spokenText());
+    m_dots->setAccessibleName(QStringLiteral("Page %1 of %2").arg(m_currentPage + 1).arg(pageCount()));
     layOut();
     update();
 }
@@ -172,13 +168,13 @@ void OnboardingOverlay::advance()
 {
     if (isHidden())
         return;
-    if (m_currentPage + 1 >= static_cast<int>(m_pages.size()))
+    if (m_currentPage + 1 == pageCount())
         return finish();
     if (isVisible())
         new FadingSnapshot(grab(m_card), m_card, kPageTurn, this);
     ++m_currentPage;
     showPage();
-    m_pages[static_cast<std::size_t>(m_currentPage)]->announce();
+    page().announce();
 }
 
 void OnboardingOverlay::finish()
@@ -192,16 +188,15 @@ void OnboardingOverlay::finish()
     Q_EMIT finished();
 }
 
-/// The card is as high as its highest page needs it, so that the button stays under the pointer. In a low panel the
-/// gaps shrink.
+/// The card is as high as the highest page, so that the button stays under the pointer. In low panels the gaps shrink.
 void OnboardingOverlay::layOut()
 {
     const int cardWidth = std::min(kCardWidth, width() - 2 * kCardMargin);
     const int textWidth = cardWidth - 2 * kPadding;
     const auto highestPage = [&](double gapScale) {
         int highest = 0;
-        for (const auto page : m_pages)
-            highest = std::max(highest, page->heightFor(textWidth, gapScale));
+        for (const auto& each : m_pages)
+            highest = std::max(highest, each->heightFor(textWidth, gapScale));
         return highest;
     };
     const auto heightAt = [&](double gapScale) {
@@ -215,11 +210,10 @@ void OnboardingOverlay::layOut()
 
     m_card = QRect(0, 0, cardWidth, heightAt(gapScale));
     m_card.moveCenter(rect().center());
-    const auto page = m_pages[static_cast<std::size_t>(m_currentPage)];
-    const int pageHeight = page->heightFor(textWidth, gapScale);
-    page->setGeometry(m_card.x() + kPadding,
+    const int pageHeight = page().heightFor(textWidth, gapScale);
+    page().setGeometry(m_card.x() + kPadding,
         m_card.y() + scaledGap(kPadding, gapScale) + (highestPage(gapScale) - pageHeight) / 2, textWidth, pageHeight);
-    page->layOut(gapScale);
+    page().layOut(gapScale);
 
     const auto putCentred = [this](QWidget* widget, int bottom) {
         const auto size = widget->sizeHint();
@@ -238,7 +232,7 @@ bool OnboardingOverlay::eventFilter(QObject* watched, QEvent* event)
     return false;
 }
 
-/// Commands keep working below and may move the focus there, where nobody would see what is typed.
+/// Takes the focus back when a command moves it to a covered widget.
 void OnboardingOverlay::keepFocus(QWidget* focused)
 {
     if (!isHidden() && focused && parentWidget()->isAncestorOf(focused) && !isAncestorOf(focused))
@@ -271,7 +265,7 @@ void OnboardingOverlay::paintCard(QPainter& painter) const
     painter.setRenderHint(QPainter::Antialiasing);
     const auto colors = m_context.colors();
     painter.setPen(Qt::NoPen);
-    // Layers that add up to a soft edge.
+    // The layers add up to a soft shadow.
     painter.setBrush(QColor(0, 0, 0, colors.isDark() ? 8 : 2));
     for (int reach = kShadowReach; reach > 0; reach -= 2) {
         const QRectF layer = QRectF(m_card).adjusted(-reach, -reach, reach, reach).translated(0, kShadowDrop);

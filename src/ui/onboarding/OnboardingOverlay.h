@@ -6,6 +6,7 @@
 
 #include <QWidget>
 
+#include <memory>
 #include <vector>
 
 namespace cuebright {
@@ -13,8 +14,8 @@ namespace cuebright {
 class ChromeButton;
 class OnboardingPageView;
 
-/// The introduction at the first run, over the whole of its parent: four pages, forward only. While it is up, keyboard
-/// focus stays on it and a screen reader sees nothing else of the parent.
+/// The introduction at the first run: four pages, forward only. It covers its parent, keeps the keyboard focus, and
+/// hides the parent's other children from screen readers.
 class OnboardingOverlay final : public QWidget {
     Q_OBJECT
 
@@ -22,13 +23,14 @@ public:
     OnboardingOverlay(const UiContext& context, QWidget* parent);
     ~OnboardingOverlay() override;
 
-    /// Whether it has not been gone through to its end yet.
+    /// Whether the user has not finished the introduction yet.
     [[nodiscard]] static bool isDue(const UiContext& context);
 
     /// From 0 to 3.
     [[nodiscard]] int currentPage() const { return m_currentPage; }
 
-    /// Goes to the next page; on the last one notes that it is done, and vanishes.
+    /// Shows the next page; on the last one stores that the introduction is done, hides the overlay and calls
+    /// `finished`.
     void advance();
 
 Q_SIGNALS:
@@ -46,6 +48,8 @@ private:
     class Dots;
 
     void buildPages();
+    [[nodiscard]] OnboardingPageView& page() const { return *m_pages[static_cast<std::size_t>(m_currentPage)]; }
+    [[nodiscard]] int pageCount() const { return static_cast<int>(m_pages.size()); }
     void showPage();
     void layOut();
     void finish();
@@ -53,7 +57,7 @@ private:
     void paintCard(QPainter& painter) const;
 
     const UiContext& m_context;
-    std::vector<OnboardingPageView*> m_pages;
+    std::vector<std::unique_ptr<OnboardingPageView>> m_pages;
     int m_currentPage = 0;
     QRect m_card;
     Dots* m_dots;

@@ -28,7 +28,7 @@ int heightOf(const QWidget* widget, int width)
     return widget->hasHeightForWidth() ? widget->heightForWidth(width) : widget->sizeHint().height();
 }
 
-/// Keys in a column of their own, and what they do.
+/// A shortcut in a column of fixed width, and its description.
 class KeyRow final : public QWidget {
 public:
     KeyRow(const UiContext& context, const OnboardingPage::Row& row, QWidget* parent)
@@ -80,10 +80,10 @@ OnboardingPageView::OnboardingPageView(const UiContext& context, const Onboardin
         add(new KeyRow(context, page.rows[i], this), i == 0 ? kRowsGap : kRowGap);
 }
 
-Label* OnboardingPageView::makeText(const QString& text, const QFont& font, ColorRole ink)
+Label* OnboardingPageView::makeText(const QString& text, const QFont& font, ColorRole color)
 {
     m_spokenText += (m_spokenText.isEmpty() ? QString() : QStringLiteral(" ")) + text;
-    const auto label = new Label(m_context, font, ink, Label::WhenNarrow::Wrap, this);
+    const auto label = new Label(m_context, font, color, Label::WhenNarrow::Wrap, this);
     label->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     label->setText(text);
     return label;

@@ -12,21 +12,21 @@ namespace cuebright {
 
 class Label;
 
-/// A gap of the introduction in a panel that has room for so much of it. Logical pixels.
+/// `gap` times `scale`, rounded to whole pixels.
 [[nodiscard]] int scaledGap(int gap, double scale);
 
-/// One page of the introduction: icon, title, texts and shortcut rows, one below the other.
+/// A page of the introduction: icon, title, texts and shortcut rows, from top to bottom.
 class OnboardingPageView final : public QWidget {
 public:
     OnboardingPageView(const UiContext& context, const OnboardingPage& page, QWidget* parent);
 
-    /// How high it is in a column of `width`, with its gaps at `gapScale` of what they would like to be.
+    /// The height needed for `width`, with gaps scaled by `gapScale` to fit into low panels.
     [[nodiscard]] int heightFor(int width, double gapScale) const;
     void layOut(double gapScale);
 
-    /// Title and texts, one after the other.
+    /// The title and the texts.
     [[nodiscard]] QString spokenText() const { return m_spokenText; }
-    /// Has a screen reader read the page now.
+    /// Makes screen readers read the page.
     void announce();
 
 protected:
@@ -39,7 +39,7 @@ private:
     };
 
     void add(QWidget* widget, int gapAbove);
-    Label* makeText(const QString& text, const QFont& font, ColorRole ink);
+    Label* makeText(const QString& text, const QFont& font, ColorRole color);
 
     const UiContext& m_context;
     Icon m_icon;

@@ -10,7 +10,7 @@
 
 namespace cuebright {
 
-/// One page of the introduction; what is empty is not shown.
+/// A page of the introduction. Empty parts are not shown.
 struct OnboardingPage {
     struct Row {
         QString keys;
@@ -24,7 +24,7 @@ struct OnboardingPage {
     std::vector<Row> rows;
 };
 
-/// The pages in order. The one on screen sharing takes back no word of its own, but begins with `advice`.
+/// The pages in order. `advice` comes first on the page about screen sharing.
 [[nodiscard]] std::vector<OnboardingPage> onboardingPages(std::optional<std::string_view> advice);
 
 } // namespace cuebright

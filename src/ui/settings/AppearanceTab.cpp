@@ -4,8 +4,7 @@
 #include "platform/qt/TextConversion.h"
 #include "store/CardStore.h"
 #include "store/DisplayLimits.h"
-#include "store/ThemeNames.h"
-#include "ui/settings/SettingSlider.h"
+#include "store/ThemeChoices.h"
 #include "ui/settings/SettingsSection.h"
 #include "ui/widgets/Label.h"
 
@@ -14,6 +13,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace cuebright {
 
@@ -41,10 +41,18 @@ AppearanceTab::AppearanceTab(const UiContext& context, QWidget* parent)
     , m_context(context)
     , m_refresh(context.platform.mainQueue, [this] { refresh(); })
 {
-    column().addWidget(makeThemeSection());
-    column().addWidget(makeFontSizeSection());
-    column().addWidget(makeSpeakingPaceSection());
-    column().addWidget(makeOpacitySection());
+    addThemes();
+    auto& store = context.store;
+    addSlider({QStringLiteral("Font Size"), kFontSizes, wholeNumber, [&store] { return store.fontSize(); },
+        [&store](double points) { store.setFontSize(points); }});
+    addSlider({QStringLiteral("Speaking Pace"), kSpeakingPaces, wordsPerMinute,
+                  [&store] { return static_cast<double>(store.speakingPace()); },
+                  [&store](double pace) { store.setSpeakingPace(std::llround(pace)); }})
+        .addNote(QStringLiteral("Words per minute when speaking from bullet notes. Toggle with ⌘⇧W."));
+    m_transparencyNote =
+        addSlider({QStringLiteral("Opacity"), kOpacities, percentage, [&store] { return store.opacity(); },
+                      [&store](double opacity) { store.setOpacity(opacity); }})
+            .addNote(QStringLiteral("Frosted glass is disabled because Reduce Transparency is on in System Settings."));
     column().addStretch(1);
     m_accessibilitySubscription = context.platform.accessibility.changed.subscribe([this] { m_refresh.request(); });
     m_storeSubscription = context.store.willChange.subscribe([this](const Change& change) {
@@ -57,64 +65,36 @@ AppearanceTab::AppearanceTab(const UiContext& context, QWidget* parent)
 
 AppearanceTab::~AppearanceTab() = default;
 
-QWidget* AppearanceTab::makeThemeSection()
+SettingsSection& AppearanceTab::addSection(const QString& title)
 {
-    const auto section = new SettingsSection(m_context, QStringLiteral("Theme"), page());
-    m_theme = new QComboBox(section);
+    const auto section = new SettingsSection(m_context, title, page());
+    column().addWidget(section);
+    return *section;
+}
+
+void AppearanceTab::addThemes()
+{
+    auto& section = addSection(QStringLiteral("Theme"));
+    m_theme = new QComboBox(&section);
     m_theme->setAccessibleName(QStringLiteral("Theme"));
-    m_theme->setAccessibleDescription(QStringLiteral("Theme")); // Qt 6.4 gives what is chosen for the name
-    m_theme->addItem(QStringLiteral("System"), QLatin1String(themeNames::kSystem));
-    m_theme->addItem(QStringLiteral("Light"), QLatin1String(themeNames::kLight));
-    m_theme->addItem(QStringLiteral("Dark"), QLatin1String(themeNames::kDark));
+    m_theme->setAccessibleDescription(QStringLiteral("Theme")); // Qt 6.4 reports the current text as the name
+    for (const auto& theme : kThemeChoices)
+        m_theme->addItem(QLatin1String(theme.title), QLatin1String(theme.value));
     connect(m_theme, &QComboBox::activated, this,
         [this] { m_context.store.setTheme(toUtf8(m_theme->currentData().toString())); });
-    section->add(m_theme);
-    return section;
+    section.add(m_theme);
 }
 
-QWidget* AppearanceTab::makeFontSizeSection()
+SettingsSection& AppearanceTab::addSlider(SettingSlider::Setting setting)
 {
-    auto& store = m_context.store;
-    const auto section = new SettingsSection(m_context, QStringLiteral("Font Size"), page());
-    m_sliders.push_back(new SettingSlider(m_context,
-        {QStringLiteral("Font Size"), kFontSizes, wholeNumber, [&store] { return store.fontSize(); },
-            [&store](double points) { store.setFontSize(points); }},
-        section));
-    section->add(m_sliders.back());
-    return section;
-}
-
-QWidget* AppearanceTab::makeSpeakingPaceSection()
-{
-    auto& store = m_context.store;
-    const auto section = new SettingsSection(m_context, QStringLiteral("Speaking Pace"), page());
-    m_sliders.push_back(new SettingSlider(m_context,
-        {QStringLiteral("Speaking Pace"), kSpeakingPaces, wordsPerMinute,
-            [&store] { return static_cast<double>(store.speakingPace()); },
-            [&store](double pace) { store.setSpeakingPace(std::llround(pace)); }},
-        section));
-    section->add(m_sliders.back());
-    section->addNote(QStringLiteral("Words per minute when speaking from bullet notes. Toggle with ⌘⇧W."));
-    return section;
-}
-
-QWidget* AppearanceTab::makeOpacitySection()
-{
-    auto& store = m_context.store;
-    const auto section = new SettingsSection(m_context, QStringLiteral("Opacity"), page());
-    m_sliders.push_back(new SettingSlider(m_context,
-        {QStringLiteral("Opacity"), kOpacities, percentage, [&store] { return store.opacity(); },
-            [&store](double opacity) { store.setOpacity(opacity); }},
-        section));
-    section->add(m_sliders.back());
-    m_transparencyNote = section->addNote(
-        QStringLiteral("Frosted glass is disabled because Reduce Transparency is on in System Settings."));
+    auto& section = addSection(setting.name);
+    m_sliders.push_back(new SettingSlider(m_context, std::move(setting), &section));
+    section.add(m_sliders.back());
     return section;
 }
 
 void AppearanceTab::refresh()
 {
-    // Any other text means the system's look, which comes first.
     m_theme->setCurrentIndex(std::max(0, m_theme->findData(toQString(m_context.store.theme()))));
     for (const auto slider : m_sliders)
         slider->refresh();

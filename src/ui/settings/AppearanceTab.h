@@ -3,6 +3,7 @@
 #include "foundation/Signal.h"
 #include "ui/base/CoalescedCall.h"
 #include "ui/base/UiContext.h"
+#include "ui/settings/SettingSlider.h"
 #include "ui/settings/SettingsPage.h"
 
 #include <vector>
@@ -12,20 +13,19 @@ class QComboBox;
 namespace cuebright {
 
 class Label;
-class SettingSlider;
+class SettingsSection;
 struct Change;
 
-/// The display preferences, each changed at once and always shown as it is.
+/// The display preferences. A change takes effect immediately; a change made elsewhere is shown here.
 class AppearanceTab final : public SettingsPage {
 public:
     AppearanceTab(const UiContext& context, QWidget* parent);
     ~AppearanceTab() override;
 
 private:
-    QWidget* makeThemeSection();
-    QWidget* makeFontSizeSection();
-    QWidget* makeSpeakingPaceSection();
-    QWidget* makeOpacitySection();
+    SettingsSection& addSection(const QString& title);
+    void addThemes();
+    SettingsSection& addSlider(SettingSlider::Setting setting);
     void refresh();
 
     const UiContext& m_context;

@@ -7,6 +7,7 @@
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QLayout>
 #include <QScreen>
 #include <QShortcut>
 
@@ -19,11 +20,11 @@ AuxiliaryWindow::AuxiliaryWindow(const UiContext& context, const QString& title)
     , m_context(context)
 {
     setWindowTitle(title);
-    setAttribute(Qt::WA_ShowWithoutActivating); // counts from when the native window is made
+    setAttribute(Qt::WA_ShowWithoutActivating); // read when the native window is created
     m_minimisedSubscription =
         context.desktop.windowSystem.minimisedWithFullScreen.subscribe([this](WindowSystem::WindowId window) {
             if (window == internalWinId())
-                comeBack();
+                restore();
         });
     connect(new QShortcut(Qt::CTRL | Qt::Key_W, this), &QShortcut::activated, this, [this] { close(); });
 }
@@ -37,9 +38,9 @@ AuxiliaryWindow::~AuxiliaryWindow()
 void AuxiliaryWindow::showBeside(const QWidget& panel)
 {
     if (!isVisible()) {
-        setWindowState(windowState() & ~Qt::WindowMinimized); // some window managers offer it all the same
-        settleSize();
-        placeBesidePanel(panel);
+        setWindowState(windowState() & ~Qt::WindowMinimized);
+        layout()->activate(); // updates the size
+        place(panel);
         m_context.desktop.windowSystem.keepAboveFullScreen(winId());
         show();
     } else if (isMinimized()) {
@@ -49,8 +50,9 @@ void AuxiliaryWindow::showBeside(const QWidget& panel)
     activateWindow();
 }
 
-/// Without the keyboard, which showing it as it is would take. A sheet would end up below its window.
-void AuxiliaryWindow::comeBack()
+/// Hides and shows the window because showNormal() would activate it. Sheets would end up below it, so they are
+/// dismissed.
+void AuxiliaryWindow::restore()
 {
     dismissSheets(*this);
     m_context.desktop.windowSystem.keepAboveFullScreen(winId());
@@ -59,22 +61,23 @@ void AuxiliaryWindow::comeBack()
     show();
 }
 
-/// Before a window is first shown nobody knows how wide its borders are; the panel's are the best guess.
-void AuxiliaryWindow::placeBesidePanel(const QWidget& panel)
+/// A window that was never shown has no frame margins yet, so the panel's are used.
+void AuxiliaryWindow::place(const QWidget& panel)
 {
     const auto panelFrame = panel.frameGeometry();
-    const auto screenThere = QGuiApplication::screenAt(panelFrame.center());
-    const auto screen = screenThere ? screenThere : QGuiApplication::primaryScreen();
+    auto screen = QGuiApplication::screenAt(panelFrame.center());
+    if (!screen)
+        screen = QGuiApplication::primaryScreen();
     if (!screen)
         return;
     const auto content = panel.geometry();
-    const QMargins borders(content.left() - panelFrame.left(), content.top() - panelFrame.top(),
+    const QMargins margins(content.left() - panelFrame.left(), content.top() - panelFrame.top(),
         panelFrame.right() - content.right(), panelFrame.bottom() - content.bottom());
-    const auto frame = placeBeside(panelFrame, size().grownBy(borders), screen->availableGeometry());
-    setGeometry(frame.marginsRemoved(borders));
+    const auto frame = placeBeside(panelFrame, size().grownBy(margins), screen->availableGeometry());
+    setGeometry(frame.marginsRemoved(margins));
 }
 
-/// Only hides it: the toolkit would destroy the native window, which others know by its handle.
+/// Only hides: closing would destroy the native window, whose handle the window system keeps.
 void AuxiliaryWindow::closeEvent(QCloseEvent* event)
 {
     event->ignore();

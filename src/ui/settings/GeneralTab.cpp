@@ -4,11 +4,11 @@
 #include "ui/base/Fonts.h"
 #include "ui/settings/SettingsSection.h"
 #include "ui/settings/ShortcutReference.h"
-#include "ui/settings/ShortcutRow.h"
 #include "ui/widgets/FocusRing.h"
 #include "ui/widgets/Label.h"
 #include "ui/widgets/SymbolIcon.h"
 
+#include <QHBoxLayout>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -21,6 +21,28 @@ namespace {
 
 constexpr int kBelowDescription = 8;
 
+/// One line of the shortcut reference: the action on the left, its keys on the right.
+class ShortcutRow final : public QWidget {
+public:
+    ShortcutRow(const UiContext& context, const ShortcutSection::Row& row, QWidget* parent)
+        : QWidget(parent)
+    {
+        const auto makeLabel = [&](const QString& text, QFont::Weight weight) {
+            const auto label = new Label(
+                context, systemFont(kSettingsTextSize, weight), ColorRole::Text, Label::WhenNarrow::Keep, this);
+            label->setText(text);
+            return label;
+        };
+        const auto line = new QHBoxLayout(this);
+        line->setContentsMargins(0, 0, 0, 0);
+        line->addWidget(makeLabel(row.label, QFont::Normal));
+        line->addStretch(1);
+        line->addWidget(makeLabel(row.keys, QFont::Medium));
+        setAccessibleName(row.label);
+        setAccessibleDescription(row.keys);
+    }
+};
+
 } // namespace
 
 GeneralTab::GeneralTab(const UiContext& context, std::function<void()> reset, QWidget* parent)
@@ -28,7 +50,7 @@ GeneralTab::GeneralTab(const UiContext& context, std::function<void()> reset, QW
     , m_context(context)
     , m_reset(std::move(reset))
 {
-    setFocusPolicy(Qt::StrongFocus); // most of it is text, which only scrolling brings into view
+    setFocusPolicy(Qt::StrongFocus); // so that the keyboard can scroll it
     new FocusRing(context, this, FocusRing::When::ReachedByTab);
     addShortcuts();
     addReset();
@@ -72,7 +94,6 @@ void GeneralTab::askToReset()
     const auto alert = new QMessageBox(
         QMessageBox::Warning, QString(), QStringLiteral("Reset All Data?"), QMessageBox::NoButton, window());
     alert->setAttribute(Qt::WA_DeleteOnClose);
-    alert->setWindowModality(Qt::WindowModal);
     alert->setInformativeText(QStringLiteral("This will permanently delete all your decks and cards and cannot be "
                                              "undone. Sample decks will be restored."));
     const auto confirm = alert->addButton(QStringLiteral("Reset Everything"), QMessageBox::DestructiveRole);
@@ -80,7 +101,7 @@ void GeneralTab::askToReset()
     palette.setColor(QPalette::ButtonText, toQColor(colorFor(ColorRole::Red, m_context.colors())));
     confirm->setPalette(palette);
     const auto cancel = alert->addButton(QStringLiteral("Cancel"), QMessageBox::RejectRole);
-    alert->setDefaultButton(cancel); // nothing of it can be undone
+    alert->setDefaultButton(cancel);
     alert->setEscapeButton(cancel);
     connect(confirm, &QAbstractButton::clicked, this, [this] { m_reset(); });
     alert->open();

@@ -7,10 +7,10 @@
 
 namespace cuebright {
 
-/// What the keys do, and the way back to a program as on its first day.
+/// The shortcut reference and the reset of all data.
 class GeneralTab final : public SettingsPage {
 public:
-    /// `reset` is called when the user has confirmed it.
+    /// `reset` is called after the user has confirmed.
     GeneralTab(const UiContext& context, std::function<void()> reset, QWidget* parent);
 
 private:

@@ -39,7 +39,7 @@ SettingSlider::SettingSlider(const UiContext& context, Setting setting, QWidget*
     m_slider->setSingleStep(m_setting.scale.step);
     m_slider->setPageStep(m_setting.scale.page);
     m_slider->setAccessibleName(m_setting.name);
-    new FocusRing(context, m_slider, FocusRing::When::ReachedByTab); // the style marks a slider at its end by a hair
+    new FocusRing(context, m_slider, FocusRing::When::ReachedByTab); // the style's own is hardly visible at the ends
     m_value->setFixedWidth(kValueWidth);
     const auto line = new QHBoxLayout(this);
     line->setContentsMargins(0, 0, 0, 0);
@@ -56,13 +56,14 @@ void SettingSlider::refresh()
 {
     const double value = m_setting.read();
     const auto text = m_setting.text(value);
-    const QSignalBlocker quietly(m_slider);
+    const QSignalBlocker blocker(m_slider);
     m_slider->setValue(m_setting.scale.nearest(value));
     m_slider->setAccessibleDescription(text);
     m_value->setText(text);
 }
 
-/// The mouse goes anywhere, and a key may lead to where the slider seems to stand already.
+/// The mouse may stop between two steps. Where a key does not move the slider, Qt emits no valueChanged, but the value
+/// may still differ from the position.
 void SettingSlider::snap()
 {
     const auto& scale = m_setting.scale;
@@ -72,7 +73,7 @@ void SettingSlider::snap()
         writePosition(position);
 }
 
-/// A screen reader sets the slider without an action, to anything between the ends.
+/// A screen reader may set any position, without actionTriggered.
 void SettingSlider::writePosition(int position)
 {
     const auto& scale = m_setting.scale;

@@ -12,20 +12,20 @@ namespace cuebright {
 
 class Label;
 
-/// Where a slider can stand: at `least`, `least + step`, … `most`, each so many parts of one.
+/// The positions of a slider: `least`, `least + step`, … `most`. A value is a position divided by `partsOfOne`.
 struct SliderScale {
     int least;
     int most;
     int step;
-    int page; ///< a whole number of steps
+    int page; ///< a multiple of `step`
     int partsOfOne = 1;
 
-    /// The position next to a value, whatever the value.
+    /// The position nearest to `value`, which may be out of range.
     [[nodiscard]] int nearest(double value) const;
 };
 
-/// A slider for one value of the settings, and the value itself beside it. Of a value that is off the scale it shows
-/// the nearest position, and leaves it as it is until the user moves the slider.
+/// A slider for one setting, with the value beside it. A value off the scale shows as the nearest position and is
+/// changed only when the user moves the slider.
 class SettingSlider final : public QWidget {
 public:
     struct Setting {
@@ -38,7 +38,7 @@ public:
 
     SettingSlider(const UiContext& context, Setting setting, QWidget* parent);
 
-    /// Shows the value as it is now.
+    /// Shows the current value.
     void refresh();
 
 private:

@@ -6,12 +6,12 @@ class QVBoxLayout;
 
 namespace cuebright {
 
-/// One tab of the settings: sections below one another, scrolled where they do not fit.
+/// A tab of the settings: a scrollable column of sections.
 class SettingsPage : public QScrollArea {
 protected:
     SettingsPage(const QString& name, QWidget* parent);
 
-    /// The parent of what is in the page.
+    /// The parent of the sections.
     [[nodiscard]] QWidget* page() const { return widget(); }
     [[nodiscard]] QVBoxLayout& column() const { return *m_column; }
 

@@ -30,7 +30,7 @@ SettingsSection::SettingsSection(const UiContext& context, const QString& title,
     const auto heading = new Label(
         context, systemFont(kSettingsTextSize, QFont::DemiBold), ColorRole::Text, Label::WhenNarrow::Keep, this);
     heading->setText(title);
-    heading->stackUnder(m_frame); // read before it
+    heading->stackUnder(m_frame); // screen readers read in stacking order
     m_rows->setContentsMargins(kHorizontalPadding, kVerticalPadding, kHorizontalPadding, kVerticalPadding);
     m_rows->setSpacing(kRowGap);
     const auto column = new QVBoxLayout(this);

@@ -15,13 +15,13 @@ class Label;
 inline constexpr double kSettingsTextSize = 13;
 inline constexpr double kSettingsNoteSize = 12;
 
-/// A framed group of the settings under its title.
+/// A titled, framed group of settings.
 class SettingsSection final : public QWidget {
 public:
     SettingsSection(const UiContext& context, const QString& title, QWidget* parent);
 
     void add(QWidget* widget);
-    /// Adds a text that explains the section, as wide as there is room.
+    /// Adds a small explanatory text.
     Label* addNote(const QString& text);
 
 protected:

@@ -4,7 +4,7 @@
 #include "platform/qt/TextConversion.h"
 #include "ui/base/Fonts.h"
 #include "ui/base/ShareStatus.h"
-#include "ui/settings/AboutTab.h"
+#include "ui/settings/About.h"
 #include "ui/settings/AppearanceTab.h"
 #include "ui/settings/GeneralTab.h"
 #include "ui/settings/SettingsSection.h"
@@ -53,16 +53,16 @@ SettingsView::SettingsView(const UiContext& context, std::function<void()> reset
     column->addLayout(advice);
 
     m_accessibilitySubscription = context.platform.accessibility.changed.subscribe([this] {
-        for (const auto part : findChildren<QWidget*>()) // an update of this would stop at the first opaque one
-            part->update();
+        for (const auto widget : findChildren<QWidget*>()) // update() does not repaint opaque children
+            widget->update();
     });
-    m_exclusionSubscription = context.desktop.captureExclusion.changed.subscribe([this] { tellWhatTheAudienceSees(); });
-    tellWhatTheAudienceSees();
+    m_exclusionSubscription = context.desktop.captureExclusion.changed.subscribe([this] { updateShareAdvice(); });
+    updateShareAdvice();
 }
 
 SettingsView::~SettingsView() = default;
 
-/// The toolkit itself pages by Ctrl+Tab only.
+/// Qt itself switches tabs with Ctrl+Tab only.
 void SettingsView::addPagingKeys()
 {
     const auto add = [this](Qt::Key key, int step) {
@@ -75,7 +75,7 @@ void SettingsView::addPagingKeys()
     add(Qt::Key_PageUp, -1);
 }
 
-void SettingsView::tellWhatTheAudienceSees()
+void SettingsView::updateShareAdvice()
 {
     const auto advice = shareAdvice(m_context.desktop.captureExclusion);
     m_shareAdvice->setText(toQString(advice.value_or("")));

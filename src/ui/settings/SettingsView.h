@@ -13,16 +13,16 @@ namespace cuebright {
 
 class Label;
 
-/// Everything there is to set, in tabs. What is changed here holds at once; what is changed elsewhere shows here.
+/// The settings, in tabs. A change takes effect immediately; a change made elsewhere is shown here.
 class SettingsView final : public QWidget {
 public:
-    /// `reset` puts everything back to the first day; it is called when the user has confirmed it.
+    /// `reset` deletes all data; it is called after the user has confirmed.
     SettingsView(const UiContext& context, std::function<void()> reset, QWidget* parent);
     ~SettingsView() override;
 
 private:
     void addPagingKeys();
-    void tellWhatTheAudienceSees();
+    void updateShareAdvice();
 
     const UiContext& m_context;
     QTabWidget* m_tabs;

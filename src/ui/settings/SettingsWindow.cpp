@@ -19,11 +19,12 @@ SettingsWindow::SettingsWindow(const UiContext& context, std::function<void()> r
     : AuxiliaryWindow(context, QStringLiteral("Cuebright Settings"))
 {
     const auto view = new SettingsView(context, std::move(reset), this);
+    view->setFixedSize(kSize);
+    view->setFocus();
     const auto column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
+    column->setSizeConstraint(QLayout::SetFixedSize);
     column->addWidget(view);
-    setFixedSize(kSize);
-    view->setFocus();
 }
 
 QMenuBar& SettingsWindow::addMenuBar()
@@ -31,13 +32,6 @@ QMenuBar& SettingsWindow::addMenuBar()
     const auto bar = new QMenuBar(this);
     layout()->setMenuBar(bar);
     return *bar;
-}
-
-/// The settings keep their size below a bar that is not in the desktop's own.
-void SettingsWindow::settleSize()
-{
-    const auto bar = qobject_cast<QMenuBar*>(layout()->menuBar());
-    setFixedSize(kSize.width(), kSize.height() + (bar && !bar->isNativeMenuBar() ? bar->sizeHint().height() : 0));
 }
 
 } // namespace cuebright

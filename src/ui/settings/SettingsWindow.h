@@ -8,17 +8,14 @@ class QMenuBar;
 
 namespace cuebright {
 
-/// The settings in a window of their own.
+/// The settings window.
 class SettingsWindow final : public AuxiliaryWindow {
 public:
-    /// `reset` puts everything back to the first day; it is called when the user has confirmed it.
+    /// `reset` deletes all data; it is called after the user has confirmed.
     SettingsWindow(const UiContext& context, std::function<void()> reset);
 
-    /// For the main menu, which has to be there for the keyboard in this window too.
+    /// Adds an empty menu bar above the settings, which keep their size.
     [[nodiscard]] QMenuBar& addMenuBar();
-
-protected:
-    void settleSize() override;
 };
 
 } // namespace cuebright

@@ -7,7 +7,7 @@
 
 namespace cuebright {
 
-/// What the keys do, for the user to read. Answering them is the business of others.
+/// The shortcuts as the user reads them; the keys themselves are handled elsewhere.
 struct ShortcutSection {
     struct Row {
         QString label;
@@ -20,7 +20,7 @@ struct ShortcutSection {
 
 [[nodiscard]] std::vector<ShortcutSection> shortcutReference();
 
-/// What the symbols of the reference mean on a keyboard that does not carry them.
+/// Explains ⌘ and ⌥ where the system does not use these symbols.
 [[nodiscard]] std::optional<QString> keySymbolNote();
 
 } // namespace cuebright

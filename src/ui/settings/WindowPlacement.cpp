@@ -8,26 +8,20 @@ namespace {
 
 constexpr int kGap = 12;
 
-int within(int start, int length, int screenStart, int screenLength)
-{
-    return std::max(screenStart, std::min(start, screenStart + screenLength - length));
-}
-
 } // namespace
 
 QRect placeBeside(const QRect& panelFrame, const QSize& size, const QRect& availableScreen)
 {
+    const auto first = availableScreen.topLeft();
+    const QPoint room(availableScreen.width() - size.width(), availableScreen.height() - size.height());
+    const auto last = first + room;
+    const auto fits = [&](int x) { return x >= first.x() && x <= last.x(); };
     const int right = panelFrame.x() + panelFrame.width() + kGap;
     const int left = panelFrame.x() - kGap - size.width();
-    const int screenRight = availableScreen.x() + availableScreen.width();
-    QPoint origin(right, panelFrame.y());
-    if (right < availableScreen.x() || right + size.width() > screenRight)
-        origin.setX(left);
-    if (origin.x() < availableScreen.x() || origin.x() + size.width() > screenRight)
-        origin = availableScreen.topLeft()
-            + QPoint(availableScreen.width() - size.width(), availableScreen.height() - size.height()) / 2;
-    return {QPoint(within(origin.x(), size.width(), availableScreen.x(), availableScreen.width()),
-                within(origin.y(), size.height(), availableScreen.y(), availableScreen.height())),
+    const auto wanted = fits(right) ? QPoint(right, panelFrame.y())
+        : fits(left)                ? QPoint(left, panelFrame.y())
+                                    : first + room / 2;
+    return {{std::max(first.x(), std::min(wanted.x(), last.x())), std::max(first.y(), std::min(wanted.y(), last.y()))},
         size};
 }
 

@@ -5,9 +5,9 @@
 
 namespace cuebright {
 
-/// Where a window of this size goes: to the right of the panel or, failing that, to its left, on one height with it;
-/// to the middle of the screen where neither side has room. All with title bars and borders; the window is on the
-/// screen as far as it fits.
+/// The frame of a window beside the panel: to its right, else to its left, with the same top; centred on the screen
+/// where neither side has room. Clamped to the screen, the top left corner first. Everything includes title bars and
+/// borders.
 [[nodiscard]] QRect placeBeside(const QRect& panelFrame, const QSize& size, const QRect& availableScreen);
 
 } // namespace cuebright
