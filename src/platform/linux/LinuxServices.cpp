@@ -64,9 +64,8 @@ public:
         , m_accessibility(
               mainQueue, [this] { return hasCompositor(); },
               [&appearance](std::optional<bool> isDark) { appearance.setSystemIsDark(isDark); })
-        , m_captureExclusion(makeCaptureExclusion(m_session, mainQueue))
+        , m_captureExclusion(startCaptureExclusion(m_session, mainQueue)) // before the first window
     {
-        m_captureExclusion.start(); // before the first window; it waits for nobody
         if (m_session.isWayland)
             m_portalHotKeys.emplace(connectForHotKeys);
         if (m_x11)
@@ -76,7 +75,7 @@ public:
 
     Clock& clock() override { return m_clock; }
     Accessibility& accessibility() override { return m_accessibility; }
-    Desktop desktop() override { return {*m_captureExclusion.exclusion, hotKeys(), windowSystem()}; }
+    Desktop desktop() override { return {*m_captureExclusion, hotKeys(), windowSystem()}; }
     void start() override
     {
         m_accessibility.start(QDBusConnection::sessionBus());
@@ -111,7 +110,7 @@ private:
     const std::unique_ptr<X11Services> m_x11;
     SystemClock m_clock;
     LinuxAccessibility m_accessibility;
-    SessionCaptureExclusion m_captureExclusion;
+    std::unique_ptr<CaptureExclusion> m_captureExclusion;
     std::optional<PortalHotKeys> m_portalHotKeys;
     NoHotKeys m_noHotKeys;
     NoWindowSystem m_noWindowSystem;

@@ -8,57 +8,53 @@ namespace cuebright {
 
 namespace {
 
-constexpr HyprlandVersion kHasRule {0, 50};
-constexpr HyprlandVersion kHasProperty {0, 53};
-constexpr HyprlandVersion kHasLanguages {0, 55};
-constexpr Seconds kReplyTimeout {3};
+constexpr HyprlandVersion kFirstWithRule {0, 50};
+constexpr HyprlandVersion kFirstWithProperty {0, 53};
+constexpr HyprlandVersion kFirstWithLua {0, 55};
 
 std::string withoutLineEnd(const std::string& text) { return text.substr(0, text.find_last_not_of("\r\n ") + 1); }
 
 } // namespace
 
-HyprlandCaptureExclusion::HyprlandCaptureExclusion(std::unique_ptr<HyprlandIpc> ipc, MainQueue& mainQueue)
-    : m_ipc(std::move(ipc))
-    , m_mainQueue(mainQueue)
-    , m_reloadSubscription(m_ipc->configReloaded.subscribe([this] { sendRuleAnew(); }))
-    , m_windowSubscription(m_ipc->windowOpened.subscribe([this] {
+HyprlandCaptureExclusion::HyprlandCaptureExclusion(std::filesystem::path directory, MainQueue& mainQueue)
+    : CompositorCaptureExclusion(mainQueue)
+    , m_ipc(std::move(directory))
+    , m_reloadSubscription(m_ipc.configReloaded.subscribe([this] { askVersion(); }))
+    , m_windowSubscription(m_ipc.windowOpened.subscribe([this] {
         m_hasNewWindow = true;
         if (m_isUnverified)
-            lookUpWindows();
+            askWindows();
     }))
-    , m_lostSubscription(m_ipc->lost.subscribe([this] {
-        m_isLost = true;
-        giveUp();
-    }))
+    , m_lostSubscription(m_ipc.lost.subscribe([this] { giveUp(); }))
 {
 }
 
 void HyprlandCaptureExclusion::start()
 {
-    m_ipc->start();
-    if (!m_isLost) // a reload that goes unnoticed would turn the answer into a lie
-        sendRuleAnew();
+    if (!m_ipc.listen()) // a reload would go unnoticed, and with it the loss of the rule
+        return giveUp();
+    askVersion();
 }
 
-void HyprlandCaptureExclusion::sendRuleAnew()
+void HyprlandCaptureExclusion::askVersion()
 {
     m_isUnverified = false;
-    m_ipc->abandonRequests();
+    m_ipc.abandonRequests();
     startTimeout();
     request("j/version", [this](const std::string& reply) {
         const auto version = hyprlandVersion(reply);
         if (!version)
             return giveUp();
-        if (*version < kHasRule)
+        if (*version < kFirstWithRule)
             return settle(State::Visible);
-        learnLanguage(*version);
+        askLanguage(*version);
     });
-    setState(State::Unknown, false);
+    unsettle();
 }
 
-void HyprlandCaptureExclusion::learnLanguage(HyprlandVersion version)
+void HyprlandCaptureExclusion::askLanguage(HyprlandVersion version)
 {
-    if (version < kHasLanguages)
+    if (version < kFirstWithLua)
         return sendRule(version, HyprlandLanguage::Classic);
     request("j/status", [this, version](const std::string& reply) {
         const auto language = hyprlandLanguage(reply);
@@ -73,18 +69,13 @@ void HyprlandCaptureExclusion::sendRule(HyprlandVersion version, HyprlandLanguag
     request(hyprlandRuleRequest(version, language), [this, version](const std::string& reply) {
         if (withoutLineEnd(reply) != "ok")
             return settle(State::Visible);
-        if (version < kHasProperty)
+        if (version < kFirstWithProperty)
             return settle(State::Blackout);
-        lookUpWindows();
+        askWindows();
     });
 }
 
-void HyprlandCaptureExclusion::startTimeout()
-{
-    m_deadline = m_mainQueue.after(kReplyTimeout, [this] { giveUp(); });
-}
-
-void HyprlandCaptureExclusion::lookUpWindows()
+void HyprlandCaptureExclusion::askWindows()
 {
     startTimeout();
     m_isUnverified = false;
@@ -94,8 +85,8 @@ void HyprlandCaptureExclusion::lookUpWindows()
         if (!addresses)
             return giveUp();
         m_isUnverified = addresses->empty();
-        if (m_isUnverified && m_hasNewWindow) // since it was asked
-            return lookUpWindows();
+        if (m_isUnverified && m_hasNewWindow) // since this request
+            return askWindows();
         verify(std::move(*addresses));
     });
 }
@@ -118,7 +109,7 @@ void HyprlandCaptureExclusion::verify(std::vector<std::string> addresses)
 
 void HyprlandCaptureExclusion::request(const std::string& text, std::function<void(const std::string&)> answered)
 {
-    m_ipc->request(text, [this, answered = std::move(answered)](const std::optional<std::string>& reply) {
+    m_ipc.request(text, [this, answered = std::move(answered)](const std::optional<std::string>& reply) {
         if (!reply)
             return giveUp();
         answered(*reply);
@@ -127,24 +118,9 @@ void HyprlandCaptureExclusion::request(const std::string& text, std::function<vo
 
 void HyprlandCaptureExclusion::giveUp()
 {
-    m_ipc->abandonRequests();
+    m_ipc.abandonRequests();
     m_isUnverified = false;
     settle(State::Unknown);
-}
-
-void HyprlandCaptureExclusion::setState(State state, bool isSettled)
-{
-    if (state == m_state && isSettled == m_isSettled)
-        return;
-    m_state = state;
-    m_isSettled = isSettled;
-    changed.notify();
-}
-
-void HyprlandCaptureExclusion::settle(State state)
-{
-    m_deadline.cancel();
-    setState(state, true);
 }
 
 } // namespace cuebright

@@ -9,11 +9,11 @@ namespace cuebright {
 
 namespace {
 
-// The class of WM_CLASS, its instance in case that is what counts, and the Wayland application id. The dots are
-// bracketed because a backslash means something in Lua already.
+// Class and instance of WM_CLASS, and the Wayland application id. The dots are in brackets because Lua would interpret
+// a backslash.
 constexpr std::string_view kClass = "^(Cuebright|cuebright|app[.]cuebright[.]Cuebright)$";
 
-constexpr HyprlandVersion kMatchForm {0, 53};
+constexpr HyprlandVersion kFirstWithMatch {0, 53};
 
 QJsonDocument parsed(std::string_view reply)
 {
@@ -48,7 +48,7 @@ std::string hyprlandRuleRequest(HyprlandVersion version, HyprlandLanguage langua
     if (language == HyprlandLanguage::Lua)
         return "/eval hl.window_rule({ name=\"cuebright\", match={ class=\"" + pattern
             + "\" }, no_screen_share=true })";
-    if (version < kMatchForm)
+    if (version < kFirstWithMatch)
         return "/keyword windowrule noscreenshare, class:" + pattern;
     return "/keyword windowrule match:class " + pattern + ", no_screen_share on";
 }

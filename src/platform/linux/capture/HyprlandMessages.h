@@ -8,8 +8,7 @@
 
 namespace cuebright {
 
-// What is said to Hyprland and what its replies mean, as its documentation has it. Nothing is returned for a reply that
-// cannot be understood.
+// Requests to Hyprland and the parsing of its replies, as documented. A malformed reply gives no value.
 
 struct HyprlandVersion {
     int first = 0;
@@ -26,14 +25,14 @@ enum class HyprlandLanguage { Classic, Lua };
 /// The language of the configuration, from the reply to "j/status" (since 0.55).
 [[nodiscard]] std::optional<HyprlandLanguage> hyprlandLanguage(std::string_view reply);
 
-/// The request that has every window of ours captured as a black box, whether it comes through XWayland or not.
-/// Understood from 0.50 on; Lua from 0.55 on.
+/// The request for a rule that captures every window of the program as a black box, XWayland windows included.
+/// Since 0.50; Lua since 0.55.
 [[nodiscard]] std::string hyprlandRuleRequest(HyprlandVersion version, HyprlandLanguage language);
 
 /// The addresses of a process's windows, from the reply to "j/clients".
 [[nodiscard]] std::optional<std::vector<std::string>> hyprlandWindows(std::string_view reply, long pid);
 
-/// The value of a property that is true or false, from the reply to "/getprop".
+/// The value of a boolean property, from the reply to "/getprop".
 [[nodiscard]] std::optional<bool> hyprlandProperty(std::string_view reply);
 
 } // namespace cuebright

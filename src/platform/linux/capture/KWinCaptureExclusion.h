@@ -1,50 +1,40 @@
 #pragma once
 
-#include "platform/CaptureExclusion.h"
-
-#include "platform/MainQueue.h"
+#include "platform/linux/capture/CompositorCaptureExclusion.h"
 #include "platform/linux/capture/KWinScripting.h"
 
-#include <memory>
 #include <string_view>
 
 namespace cuebright {
 
-/// Leaves the program's windows out of screen shares under KWin (Plasma 6.6 and later, Wayland sessions, windows that
-/// come through XWayland included), by a script that stays in KWin while this lives.
+/// Leaves the program's windows out of screen shares under KWin (Plasma 6.6 and later, Wayland sessions, XWayland
+/// windows included), by a script that stays loaded in KWin while this object lives.
 ///
-/// Made from KWin's documentation and tried against a stand-in only: it has not been run on a real KWin.
-class KWinCaptureExclusion final : public CaptureExclusion {
+/// Written from KWin's documentation and tested against a fake; not run with a real KWin yet.
+class KWinCaptureExclusion final : public CompositorCaptureExclusion {
 public:
-    KWinCaptureExclusion(std::unique_ptr<KWinScripting> scripting, MainQueue& mainQueue);
+    /// The arguments of `KWinScripting`.
+    KWinCaptureExclusion(
+        KWinScripting::Connect connect, const std::filesystem::path& runtimeDirectory, MainQueue& mainQueue);
     ~KWinCaptureExclusion() override;
 
-    /// Asks KWin for the first time. Call once.
-    void start();
-
-    State state() override { return m_state; }
-    bool isSettled() override { return m_isSettled; }
+    void start() override;
     void reapplyIfLost() override;
 
 private:
-    void followCompositor(KWinScripting::Availability availability);
+    void onAvailabilityChanged(KWinScripting::Availability availability);
     void beginAttempt();
     void load();
     void run(int script);
-    void takeReport(std::string_view word);
-    void setState(State state, bool isSettled);
-    void settle(State state);
+    void onReport(std::string_view word);
+    void giveUp() override;
 
-    std::unique_ptr<KWinScripting> m_scripting;
-    MainQueue& m_mainQueue;
-    State m_state = State::Unknown;
-    bool m_isSettled = false;
+    KWinScripting m_scripting;
     bool m_wasExcluded = false;
-    bool m_isPresent = false;
-    bool m_isRunning = false; ///< what is reported comes from the script of this attempt
-    int m_attempt = 0; ///< replies to an earlier one are not for us any more
-    PendingTask m_deadline;
     bool m_isReapplying = false;
+    bool m_isPresent = false; ///< KWin, on the bus
+    bool m_isRunning = false; ///< the script of this attempt: reports before that come from an old copy
+    int m_attempt = 0; ///< replies to an earlier one are ignored
     Subscription m_availabilitySubscription;
     Subscription m_reportSubscription;
 };

@@ -4,7 +4,7 @@ namespace cuebright {
 
 namespace {
 
-// The handler is connected before the first report: whoever has been answered is kept up to date.
+// Connects windowAdded before the first report, so that every later window is reported too.
 constexpr std::string_view kBody = R"js(
 (function () {
     if (typeof workspace.windowList !== "function") { // older than Plasma 6

@@ -2,9 +2,7 @@
 
 #include "platform/fallback/NoCaptureExclusion.h"
 #include "platform/linux/base/DesktopSession.h"
-#include "platform/linux/capture/DBusKWinScripting.h"
 #include "platform/linux/capture/HyprlandCaptureExclusion.h"
-#include "platform/linux/capture/HyprlandSocket.h"
 #include "platform/linux/capture/KWinCaptureExclusion.h"
 
 #include <algorithm>
@@ -14,18 +12,13 @@ namespace cuebright {
 
 namespace {
 
-/// Wayland desktops that show every window to whoever shares the screen. On niri it depends on the user's own rules.
+/// Wayland desktops that always capture every window. On niri it depends on the user's rules.
 constexpr std::string_view kHideNothing[] = {"GNOME", "sway", "COSMIC", "river", "labwc"};
 
-template <typename Exclusion> SessionCaptureExclusion startable(std::unique_ptr<Exclusion> exclusion)
+std::unique_ptr<CaptureExclusion> started(std::unique_ptr<CompositorCaptureExclusion> exclusion)
 {
-    auto start = [&made = *exclusion] { made.start(); };
-    return {std::move(exclusion), std::move(start)};
-}
-
-SessionCaptureExclusion nothingToAsk(CaptureExclusion::State known)
-{
-    return {std::make_unique<NoCaptureExclusion>(known), [] {}};
+    exclusion->start();
+    return exclusion;
 }
 
 } // namespace
@@ -42,21 +35,21 @@ CaptureExclusionMethod captureExclusionMethod(const DesktopSession& session)
     return isKnown ? CaptureExclusionMethod::NoneAndVisible : CaptureExclusionMethod::NoneAndUnknown;
 }
 
-SessionCaptureExclusion makeCaptureExclusion(const DesktopSession& session, MainQueue& mainQueue)
+std::unique_ptr<CaptureExclusion> startCaptureExclusion(const DesktopSession& session, MainQueue& mainQueue)
 {
     switch (captureExclusionMethod(session)) {
     case CaptureExclusionMethod::KWin:
-        return startable(std::make_unique<KWinCaptureExclusion>(
-            std::make_unique<DBusKWinScripting>(&QDBusConnection::sessionBus, session.runtimeDirectory), mainQueue));
+        return started(
+            std::make_unique<KWinCaptureExclusion>(&QDBusConnection::sessionBus, session.runtimeDirectory, mainQueue));
     case CaptureExclusionMethod::Hyprland:
-        return startable(std::make_unique<HyprlandCaptureExclusion>(
-            std::make_unique<HyprlandSocket>(session.runtimeDirectory / "hypr" / session.hyprlandInstance), mainQueue));
+        return started(std::make_unique<HyprlandCaptureExclusion>(
+            session.runtimeDirectory / "hypr" / session.hyprlandInstance, mainQueue));
     case CaptureExclusionMethod::NoneAndVisible:
-        return nothingToAsk(CaptureExclusion::State::Visible);
+        return std::make_unique<NoCaptureExclusion>(CaptureExclusion::State::Visible);
     case CaptureExclusionMethod::NoneAndUnknown:
         break;
     }
-    return nothingToAsk(CaptureExclusion::State::Unknown);
+    return std::make_unique<NoCaptureExclusion>(CaptureExclusion::State::Unknown);
 }
 
 } // namespace cuebright

@@ -23,7 +23,7 @@ std::optional<FileDescriptor> tryConnect(const std::filesystem::path& socket)
     address.sun_family = AF_UNIX;
     std::ranges::copy(path, address.sun_path);
     FileDescriptor descriptor(::socket(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0));
-    // Either it succeeds at once or not at all: a Unix socket has no third way.
+    // A Unix socket connects immediately or fails; it is never "in progress".
     if (::connect(descriptor.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0)
         return std::nullopt;
     return descriptor;
@@ -58,7 +58,7 @@ void UnixConnection::readAll()
             received({buffer, static_cast<std::size_t>(count)});
     }
     if (count < 0 && (errno == EAGAIN || errno == EINTR))
-        return; // there is more to come, or to read when the loop looks again
+        return; // the notifier fires again
     close();
     if (ended)
         ended(count == 0 ? End::Complete : End::Broken);

@@ -12,22 +12,22 @@ class QSocketNotifier;
 
 namespace cuebright {
 
-/// A connection to a Unix socket that never waits, and that is closed as soon as the other side has finished.
+/// A connection to a Unix socket that never blocks. Closes when the peer does.
 class UnixConnection final {
 public:
     enum class End { Complete, Broken };
 
-    /// Not open where nobody listens, or where listening is all they do.
+    /// Not open where nobody listens, or where the queue of connections is full.
     explicit UnixConnection(const std::filesystem::path& socket);
     ~UnixConnection();
     UnixConnection(const UnixConnection&) = delete;
     UnixConnection& operator=(const UnixConnection&) = delete;
 
     [[nodiscard]] bool isOpen() const { return m_descriptor.has_value(); }
-    /// All of it at once, or false. Meant for a line.
+    /// False unless all of it could be written immediately. Meant for a line.
     [[nodiscard]] bool write(std::string_view text);
 
-    // Called from the event loop; neither may destroy this.
+    // Called from the event loop; neither may destroy this object.
     std::function<void(std::string_view)> received;
     std::function<void(End)> ended;
 

@@ -2,7 +2,6 @@
 
 #include "platform/linux/base/FileDescriptor.h"
 #include "platform/linux/capture/HyprlandMessages.h"
-#include "platform/linux/capture/HyprlandSocket.h"
 #include "support/EventLoop.h"
 #include "support/FakePlatform.h"
 #include "support/TemporaryFolder.h"
@@ -108,7 +107,7 @@ struct Connection {
     FakeHyprland compositor {folder.path()};
     FileDescriptor events = listenAt(folder.file(".socket2.sock"));
     FakePlatform platform;
-    HyprlandCaptureExclusion exclusion {std::make_unique<HyprlandSocket>(folder.path()), platform.mainQueue};
+    HyprlandCaptureExclusion exclusion {folder.path(), platform.mainQueue};
 };
 
 class HyprlandCaptureExclusionTest : public testing::Test, protected Connection { };

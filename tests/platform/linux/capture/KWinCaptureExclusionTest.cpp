@@ -1,6 +1,5 @@
 #include "platform/linux/capture/KWinCaptureExclusion.h"
 
-#include "platform/linux/capture/DBusKWinScripting.h"
 #include "platform/linux/capture/KWinScript.h"
 #include "support/EventLoop.h"
 #include "support/FakeKWin.h"
@@ -38,8 +37,8 @@ protected:
     }
     std::unique_ptr<KWinCaptureExclusion> makeExclusion(const QDBusConnection& connection)
     {
-        auto scripting = std::make_unique<DBusKWinScripting>([connection] { return connection; }, folder.path());
-        return std::make_unique<KWinCaptureExclusion>(std::move(scripting), platform.mainQueue);
+        return std::make_unique<KWinCaptureExclusion>(
+            [connection] { return connection; }, folder.path(), platform.mainQueue);
     }
     void restartKWin()
     {

@@ -1,4 +1,4 @@
-#include "platform/linux/capture/HyprlandSocket.h"
+#include "platform/linux/capture/HyprlandIpc.h"
 
 #include <QMetaObject>
 
@@ -6,7 +6,7 @@
 
 namespace cuebright {
 
-struct HyprlandSocket::Request {
+struct HyprlandIpc::Request {
     Request(const std::filesystem::path& socket, Reply whenAnswered)
         : connection(socket)
         , reply(std::move(whenAnswered))
@@ -18,39 +18,38 @@ struct HyprlandSocket::Request {
     Reply reply;
 };
 
-HyprlandSocket::HyprlandSocket(std::filesystem::path directory)
+HyprlandIpc::HyprlandIpc(std::filesystem::path directory)
     : m_directory(std::move(directory))
 {
 }
 
-HyprlandSocket::~HyprlandSocket() = default;
+HyprlandIpc::~HyprlandIpc() = default;
 
-void HyprlandSocket::start()
+bool HyprlandIpc::listen()
 {
     m_events = std::make_unique<UnixConnection>(m_directory / ".socket2.sock");
-    if (!m_events->isOpen())
-        return lost.notify();
-    m_events->received = [this](std::string_view text) { takeEvents(text); };
+    m_events->received = [this](std::string_view text) { receiveEvents(text); };
     m_events->ended = [this](UnixConnection::End) { lost.notify(); };
+    return m_events->isOpen();
 }
 
-void HyprlandSocket::request(std::string_view request, Reply reply)
+void HyprlandIpc::request(std::string_view request, Reply reply)
 {
     const int number = ++m_lastNumber;
-    auto& made = *(m_requests[number] = std::make_unique<Request>(m_directory / ".socket.sock", std::move(reply)));
-    made.connection.received = [&made](std::string_view text) { made.text += text; };
-    // Later, because a connection outlives its own call.
-    made.connection.ended = [this, number](UnixConnection::End end) {
+    auto& added = *(m_requests[number] = std::make_unique<Request>(m_directory / ".socket.sock", std::move(reply)));
+    added.connection.received = [&added](std::string_view text) { added.text += text; };
+    // Posted, because the handler must not destroy the connection.
+    added.connection.ended = [this, number](UnixConnection::End end) {
         QMetaObject::invokeMethod(
-            &m_self, [this, number, end] { finish(number, end); }, Qt::QueuedConnection);
+            &m_context, [this, number, end] { finish(number, end); }, Qt::QueuedConnection);
     };
-    if (!made.connection.write(request))
-        made.connection.ended(UnixConnection::End::Broken);
+    if (!added.connection.write(request))
+        added.connection.ended(UnixConnection::End::Broken);
 }
 
-void HyprlandSocket::abandonRequests() { m_requests.clear(); }
+void HyprlandIpc::abandonRequests() { m_requests.clear(); }
 
-void HyprlandSocket::finish(int number, UnixConnection::End end)
+void HyprlandIpc::finish(int number, UnixConnection::End end)
 {
     const auto node = m_requests.extract(number);
     if (node.empty())
@@ -60,7 +59,7 @@ void HyprlandSocket::finish(int number, UnixConnection::End end)
     request.reply(isAnswered ? std::optional(std::move(request.text)) : std::nullopt);
 }
 
-void HyprlandSocket::takeEvents(std::string_view text)
+void HyprlandIpc::receiveEvents(std::string_view text)
 {
     m_eventText += text;
     std::size_t begin = 0;

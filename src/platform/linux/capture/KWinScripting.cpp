@@ -1,7 +1,8 @@
-#include "platform/linux/capture/DBusKWinScripting.h"
+#include "platform/linux/capture/KWinScripting.h"
 
 #include "platform/linux/base/FileDescriptor.h"
 #include "platform/linux/capture/KWinScript.h"
+#include "platform/qt/TextConversion.h"
 
 #include <QDBusError>
 #include <QDBusMessage>
@@ -18,8 +19,6 @@
 namespace cuebright {
 
 namespace {
-
-QString toQString(std::string_view text) { return QString::fromUtf8(text.data(), qsizetype(text.size())); }
 
 QString kwinService() { return QStringLiteral("org.kde.KWin"); }
 
@@ -44,7 +43,7 @@ bool writeForOwnerOnly(const std::filesystem::path& file, std::string_view conte
     if (file.empty())
         return false;
     ::mkdir(file.parent_path().c_str(), S_IRWXU);
-    ::unlink(file.c_str()); // what an earlier run left may have other permissions
+    ::unlink(file.c_str()); // one left by an earlier run may have other permissions
     const FileDescriptor descriptor(::open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR));
     return descriptor.get() >= 0
         && ::write(descriptor.get(), content.data(), content.size()) == static_cast<ssize_t>(content.size());
@@ -52,10 +51,10 @@ bool writeForOwnerOnly(const std::filesystem::path& file, std::string_view conte
 
 } // namespace
 
-/// The object that the script calls.
-class DBusKWinScripting::ReportObject final : public QDBusVirtualObject {
+/// The object on the bus that the script calls.
+class KWinScripting::ReportObject final : public QDBusVirtualObject {
 public:
-    explicit ReportObject(DBusKWinScripting& owner)
+    explicit ReportObject(KWinScripting& owner)
         : m_owner(owner)
     {
     }
@@ -76,31 +75,31 @@ public:
             return connection.send(message.createErrorReply(QDBusError::AccessDenied, QStringLiteral("not KWin")));
         if (message.isReplyRequired())
             connection.send(message.createReply());
-        m_owner.reported.notify(message.arguments().constFirst().toString().toStdString());
+        m_owner.reported.notify(toUtf8(message.arguments().constFirst().toString()));
         return true;
     }
 
 private:
-    DBusKWinScripting& m_owner;
+    KWinScripting& m_owner;
 };
 
-DBusKWinScripting::DBusKWinScripting(Connect connect, const std::filesystem::path& runtimeDirectory)
+KWinScripting::KWinScripting(Connect connect, const std::filesystem::path& runtimeDirectory)
     : m_connect(std::move(connect))
 {
     if (!runtimeDirectory.empty())
         m_scriptFile = runtimeDirectory / "cuebright" / "capture-exclusion.js";
 }
 
-DBusKWinScripting::~DBusKWinScripting()
+KWinScripting::~KWinScripting()
 {
     if (m_bus)
         m_bus->unregisterObject(toQString(kKWinReportPath));
     removeScriptFile();
-    // Ending a watch waits for the thread that writes to the bus: what was sent before has then left the process.
+    // Waits for the thread that writes to the bus, so that what was sent before leaves the process.
     m_ownerWatcher.reset();
 }
 
-void DBusKWinScripting::start()
+void KWinScripting::start()
 {
     m_bus = m_connect();
     if (!m_bus->isConnected())
@@ -114,9 +113,9 @@ void DBusKWinScripting::start()
     askForOwner();
 }
 
-std::string DBusKWinScripting::busName() const { return m_bus ? m_bus->baseService().toStdString() : std::string(); }
+std::string KWinScripting::busName() const { return m_bus ? m_bus->baseService().toStdString() : std::string(); }
 
-void DBusKWinScripting::unload(std::string_view plugin, std::function<void(bool)> done)
+void KWinScripting::unload(std::string_view plugin, std::function<void(bool)> done)
 {
     const auto message = scriptingCall(QStringLiteral("unloadScript"), {toQString(plugin)});
     if (!done) {
@@ -126,8 +125,7 @@ void DBusKWinScripting::unload(std::string_view plugin, std::function<void(bool)
     call(message, [done = std::move(done)](const QDBusMessage& reply) { done(isReply(reply)); });
 }
 
-void DBusKWinScripting::load(
-    std::string_view script, std::string_view plugin, std::function<void(std::optional<int>)> done)
+void KWinScripting::load(std::string_view script, std::string_view plugin, std::function<void(std::optional<int>)> done)
 {
     if (!writeForOwnerOnly(m_scriptFile, script)) {
         QMetaObject::invokeMethod(
@@ -142,7 +140,7 @@ void DBusKWinScripting::load(
         });
 }
 
-void DBusKWinScripting::run(int id, std::function<void(bool)> done)
+void KWinScripting::run(int id, std::function<void(bool)> done)
 {
     const auto path = QStringLiteral("/Scripting/Script%1").arg(id);
     call(kwinCall(path, QStringLiteral("org.kde.kwin.Script"), QStringLiteral("run")),
@@ -152,7 +150,7 @@ void DBusKWinScripting::run(int id, std::function<void(bool)> done)
         });
 }
 
-void DBusKWinScripting::call(const QDBusMessage& message, Replied replied)
+void KWinScripting::call(const QDBusMessage& message, Replied replied)
 {
     auto* watcher = new QDBusPendingCallWatcher(m_bus->asyncCall(message), &m_calls);
     QObject::connect(watcher, &QDBusPendingCallWatcher::finished, watcher, [watcher, replied = std::move(replied)] {
@@ -161,7 +159,7 @@ void DBusKWinScripting::call(const QDBusMessage& message, Replied replied)
     });
 }
 
-void DBusKWinScripting::askForOwner()
+void KWinScripting::askForOwner()
 {
     const auto bus = QStringLiteral("org.freedesktop.DBus");
     auto message = QDBusMessage::createMethodCall(
@@ -175,7 +173,7 @@ void DBusKWinScripting::askForOwner()
     });
 }
 
-void DBusKWinScripting::setOwner(const QString& owner)
+void KWinScripting::setOwner(const QString& owner)
 {
     if (owner == m_owner)
         return;
@@ -183,7 +181,7 @@ void DBusKWinScripting::setOwner(const QString& owner)
     availabilityChanged.notify(owner.isEmpty() ? Availability::Absent : Availability::Present);
 }
 
-void DBusKWinScripting::removeScriptFile()
+void KWinScripting::removeScriptFile()
 {
     if (!m_scriptFile.empty())
         ::unlink(m_scriptFile.c_str());
