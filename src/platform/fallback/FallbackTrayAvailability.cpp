@@ -6,28 +6,21 @@
 
 namespace cuebright {
 
-namespace {
-
-/// The system has always such a place.
-class ImmediateTrayWatch final : public TrayAvailability {
-public:
-    explicit ImmediateTrayWatch(std::function<void()> arrived)
-    {
-        QObject::connect(&m_next, &QTimer::timeout, &m_next, std::move(arrived));
-        m_next.setSingleShot(true);
-        m_next.start(0);
-    }
-
-private:
-    QTimer m_next;
+/// The system always has a tray.
+struct TrayAvailability::System {
+    QTimer available {};
 };
 
-} // namespace
-
-std::unique_ptr<TrayAvailability> watchForTray(std::function<void()> arrived)
+TrayAvailability::TrayAvailability(std::function<void()> available)
+    : m_system(std::make_unique<System>())
 {
-    return std::make_unique<ImmediateTrayWatch>(std::move(arrived));
+    auto& timer = m_system->available;
+    QObject::connect(&timer, &QTimer::timeout, &timer, std::move(available));
+    timer.setSingleShot(true);
+    timer.start(0);
 }
+
+TrayAvailability::~TrayAvailability() = default;
 
 QString exportedMenuText(QString title) { return title.replace(QLatin1Char('&'), QStringLiteral("&&")); }
 

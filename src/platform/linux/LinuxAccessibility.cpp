@@ -34,7 +34,7 @@ void LinuxAccessibility::start(const QDBusConnection& sessionBus)
         std::make_unique<SettingsPortal>(sessionBus, [this](const DesktopSettings& settings) { settle(settings); });
 }
 
-void LinuxAccessibility::compositorMayHaveChanged()
+void LinuxAccessibility::updateCompositor()
 {
     auto wishes = m_wishes;
     wishes.reduceTransparency = !m_hasCompositor();

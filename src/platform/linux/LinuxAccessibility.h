@@ -27,7 +27,7 @@ public:
     void start(const QDBusConnection& sessionBus);
 
     /// Looks again whether there is a compositor.
-    void compositorMayHaveChanged();
+    void updateCompositor();
 
     bool reduceMotion() override { return m_wishes.reduceMotion; }
     bool reduceTransparency() override { return m_wishes.reduceTransparency; }

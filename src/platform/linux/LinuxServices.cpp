@@ -19,7 +19,7 @@ namespace cuebright {
 
 namespace {
 
-/// What an X server gives, XWayland included.
+/// On an X server, XWayland included.
 struct X11Services {
     X11Services(std::unique_ptr<X11Connection> x11Connection, MainQueue& mainQueue)
         : connection(std::move(x11Connection))
@@ -46,83 +46,88 @@ QDBusConnection connectForHotKeys()
     return QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("hot keys"));
 }
 
-constexpr Seconds kSettled {0.5}; // after the first frame
+constexpr Seconds kTrimDelay {0.5}; // after the first frame
 
-/// Starting needs more than running does; what it left free goes back to the system.
-void giveBackMemory()
+/// Returns the memory that only the start needed to the system.
+void trimMemory()
 {
 #ifdef __GLIBC__
     ::malloc_trim(0);
 #endif
 }
 
-class LinuxServices final : public SystemServices {
-public:
-    LinuxServices(QtAppearance& appearance, MainQueue& mainQueue)
-        : m_mainQueue(mainQueue)
-        , m_x11(connectToX11(mainQueue))
-        , m_accessibility(
-              mainQueue, [this] { return hasCompositor(); },
+} // namespace
+
+struct SystemServices::System {
+    System(QtAppearance& appearance, MainQueue& queue)
+        : mainQueue(queue)
+        , x11(connectToX11(queue))
+        , accessibility(
+              queue, [this] { return hasCompositor(); },
               [&appearance](std::optional<bool> isDark) { appearance.setSystemIsDark(isDark); })
-        , m_captureExclusion(startCaptureExclusion(m_session, mainQueue)) // before the first window
+        , captureExclusion(startCaptureExclusion(session, queue)) // before the first window
     {
-        if (m_session.isWayland)
-            m_portalHotKeys.emplace(connectForHotKeys);
-        if (m_x11)
-            m_compositorSubscription =
-                m_x11->compositor.changed.subscribe([this] { m_accessibility.compositorMayHaveChanged(); });
+        if (session.isWayland)
+            portalHotKeys.emplace(connectForHotKeys);
+        if (x11)
+            compositorSubscription = x11->compositor.changed.subscribe([this] { accessibility.updateCompositor(); });
     }
 
-    Clock& clock() override { return m_clock; }
-    Accessibility& accessibility() override { return m_accessibility; }
-    Desktop desktop() override { return {*m_captureExclusion, hotKeys(), windowSystem()}; }
-    void start() override
-    {
-        m_accessibility.start(QDBusConnection::sessionBus());
-        if (m_portalHotKeys)
-            m_portalHotKeys->start();
-        m_memoryRelease = m_mainQueue.after(kSettled, giveBackMemory);
-    }
+    /// A Wayland session always has one.
+    bool hasCompositor() const { return session.isWayland || !x11 || x11->compositor.isRunning(); }
 
-private:
-    /// A Wayland compositor is one by its nature.
-    bool hasCompositor() const { return m_session.isWayland || !m_x11 || m_x11->compositor.isRunning(); }
-
-    /// A grab in a Wayland session would be deaf while a Wayland window has the keyboard.
+    /// A key grabbed through XWayland would not arrive while a Wayland window has focus.
     HotKeys& hotKeys()
     {
-        if (m_portalHotKeys)
-            return *m_portalHotKeys;
-        if (m_x11)
-            return m_x11->hotKeys;
-        return m_noHotKeys;
+        if (portalHotKeys)
+            return *portalHotKeys;
+        if (x11)
+            return x11->hotKeys;
+        return noHotKeys;
     }
 
     WindowSystem& windowSystem()
     {
-        if (m_x11)
-            return m_x11->windowSystem;
-        return m_noWindowSystem;
+        if (x11)
+            return x11->windowSystem;
+        return noWindowSystem;
     }
 
-    MainQueue& m_mainQueue;
-    const DesktopSession m_session = DesktopSession::fromEnvironment();
-    const std::unique_ptr<X11Services> m_x11;
-    SystemClock m_clock;
-    LinuxAccessibility m_accessibility;
-    std::unique_ptr<CaptureExclusion> m_captureExclusion;
-    std::optional<PortalHotKeys> m_portalHotKeys;
-    NoHotKeys m_noHotKeys;
-    NoWindowSystem m_noWindowSystem;
-    PendingTask m_memoryRelease;
-    Subscription m_compositorSubscription;
+    MainQueue& mainQueue;
+    const DesktopSession session = DesktopSession::fromEnvironment();
+    const std::unique_ptr<X11Services> x11;
+    SystemClock clock;
+    LinuxAccessibility accessibility;
+    const std::unique_ptr<CaptureExclusion> captureExclusion;
+    std::optional<PortalHotKeys> portalHotKeys;
+    NoHotKeys noHotKeys;
+    NoWindowSystem noWindowSystem;
+    PendingTask memoryTrim;
+    Subscription compositorSubscription;
 };
 
-} // namespace
-
-std::unique_ptr<SystemServices> makeSystemServices(QtAppearance& appearance, MainQueue& mainQueue)
+SystemServices::SystemServices(QtAppearance& appearance, QtWindowEvents&, MainQueue& mainQueue)
+    : m_system(std::make_unique<System>(appearance, mainQueue))
 {
-    return std::make_unique<LinuxServices>(appearance, mainQueue);
+}
+
+SystemServices::~SystemServices() = default;
+
+Clock& SystemServices::clock() { return m_system->clock; }
+
+Accessibility& SystemServices::accessibility() { return m_system->accessibility; }
+
+Desktop SystemServices::desktop()
+{
+    return {*m_system->captureExclusion, m_system->hotKeys(), m_system->windowSystem()};
+}
+
+void SystemServices::start()
+{
+    m_system->accessibility.start(QDBusConnection::sessionBus());
+    if (m_system->portalHotKeys)
+        m_system->portalHotKeys->start();
+    m_system->memoryTrim = m_system->mainQueue.after(kTrimDelay, trimMemory);
 }
 
 } // namespace cuebright

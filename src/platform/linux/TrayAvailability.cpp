@@ -20,8 +20,8 @@ namespace {
 
 QString statusNotifierWatcher() { return QStringLiteral("org.kde.StatusNotifierWatcher"); }
 
-/// A tray on the X server (freedesktop.org's System Tray Protocol) owns a selection and announces itself to the root
-/// window, whose announcements the toolkit has asked for already.
+/// A tray on the X server (freedesktop.org's System Tray Protocol) owns a selection and announces itself by a message
+/// to the root window, which Qt subscribes to.
 class XEmbedTray final : public QAbstractNativeEventFilter {
 public:
     explicit XEmbedTray(std::function<void()> announced)
@@ -35,7 +35,7 @@ public:
         QCoreApplication::instance()->installNativeEventFilter(this);
     }
 
-    bool isThere() const
+    bool isAvailable() const
     {
         if (!m_x11)
             return false;
@@ -61,69 +61,68 @@ private:
     xcb_atom_t m_manager = XCB_ATOM_NONE;
 };
 
-/// The toolkit decides for good, when it is first asked, whether its icons go to the bus or to the X server (Qt 6.4).
-/// So it must not be asked before one of the two is there, and the bus comes first.
-class LinuxTrayWatch final : public TrayAvailability {
-public:
-    explicit LinuxTrayWatch(std::function<void()> arrived)
-        : m_xEmbedTray([this] { takeXEmbedTray(); })
-        , m_watcher(statusNotifierWatcher(), QDBusConnection::sessionBus(), QDBusServiceWatcher::WatchForRegistration)
+} // namespace
+
+/// Qt decides once, when it is first asked, whether tray icons go to the bus or to the X server (Qt 6.4). So it must
+/// not be asked before one of the two has a tray, and the bus is preferred.
+struct TrayAvailability::System {
+    explicit System(std::function<void()> available)
     {
-        m_arrival.setSingleShot(true);
-        QObject::connect(&m_arrival, &QTimer::timeout, &m_arrival, std::move(arrived));
-        QObject::connect(&m_watcher, &QDBusServiceWatcher::serviceRegistered, &m_watcher, [this] { arrive(); });
+        notification.setSingleShot(true);
+        QObject::connect(&notification, &QTimer::timeout, &notification, std::move(available));
+        QObject::connect(&watcher, &QDBusServiceWatcher::serviceRegistered, &watcher, [this] { notify(); });
         askBus(QDBusConnection::sessionBus());
     }
 
-private:
     void askBus(const QDBusConnection& bus)
     {
         if (!bus.isConnected())
-            return takeAnswer(false); // a call would never be answered
-        auto question = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
+            return onBusReply(false); // a call would get no reply
+        auto call = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
             QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus"),
             QStringLiteral("NameHasOwner"));
-        question << statusNotifierWatcher();
-        const auto answer = new QDBusPendingCallWatcher(bus.asyncCall(question), &m_watcher);
-        QObject::connect(answer, &QDBusPendingCallWatcher::finished, &m_watcher, [this, answer] {
-            answer->deleteLater();
-            const QDBusPendingReply<bool> reply(*answer);
-            takeAnswer(reply.isValid() && reply.value());
+        call << statusNotifierWatcher();
+        const auto pending = new QDBusPendingCallWatcher(bus.asyncCall(call), &watcher);
+        QObject::connect(pending, &QDBusPendingCallWatcher::finished, &watcher, [this, pending] {
+            pending->deleteLater();
+            const QDBusPendingReply<bool> reply(*pending);
+            onBusReply(reply.isValid() && reply.value());
         });
     }
-    void takeAnswer(bool isOnBus)
+
+    void onBusReply(bool isOnBus)
     {
-        m_hasAnswer = true;
-        if (isOnBus || m_xEmbedTray.isThere())
-            arrive();
-    }
-    void takeXEmbedTray()
-    {
-        if (m_hasAnswer)
-            arrive();
-    }
-    void arrive()
-    {
-        if (!std::exchange(m_hasArrived, true))
-            m_arrival.start(0);
+        hasBusReply = true;
+        if (isOnBus || xEmbedTray.isAvailable())
+            notify();
     }
 
-    XEmbedTray m_xEmbedTray;
-    QDBusServiceWatcher m_watcher;
-    QTimer m_arrival;
-    bool m_hasAnswer = false;
-    bool m_hasArrived = false;
+    void notify()
+    {
+        if (!std::exchange(hasNotified, true))
+            notification.start(0);
+    }
+
+    XEmbedTray xEmbedTray {[this] {
+        if (hasBusReply)
+            notify();
+    }};
+    QDBusServiceWatcher watcher {
+        statusNotifierWatcher(), QDBusConnection::sessionBus(), QDBusServiceWatcher::WatchForRegistration};
+    QTimer notification {};
+    bool hasBusReply = false;
+    bool hasNotified = false;
 };
 
-} // namespace
-
-std::unique_ptr<TrayAvailability> watchForTray(std::function<void()> arrived)
+TrayAvailability::TrayAvailability(std::function<void()> available)
+    : m_system(std::make_unique<System>(std::move(available)))
 {
-    return std::make_unique<LinuxTrayWatch>(std::move(arrived));
 }
 
-/// On the bus (com.canonical.dbusmenu) "_" stands before an access key, "__" for itself, and "&" is a letter like any
-/// other. The toolkit makes the first "&" that is not the last letter a "_" and leaves the rest to us (Qt 6.4).
+TrayAvailability::~TrayAvailability() = default;
+
+/// On the bus (com.canonical.dbusmenu) "_" precedes an access key, "__" is a literal "_", and "&" is an ordinary
+/// letter. Qt converts the first "&" that is not the last letter to "_" and nothing else (Qt 6.4).
 QString exportedMenuText(QString title)
 {
     title.replace(QLatin1Char('_'), QStringLiteral("__"));

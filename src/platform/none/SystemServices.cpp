@@ -21,24 +21,30 @@ public:
     Seconds uptime() override { return std::chrono::steady_clock::now().time_since_epoch(); }
 };
 
-class NoServices final : public SystemServices {
-public:
-    Clock& clock() override { return m_clock; }
-    Accessibility& accessibility() override { return m_accessibility; }
-    Desktop desktop() override { return {m_captureExclusion, m_hotKeys, m_windowSystem}; }
-    void start() override { }
-
-private:
-    StandardClock m_clock;
-    NoAccessibility m_accessibility;
-    NoCaptureExclusion m_captureExclusion;
-    NoHotKeys m_hotKeys;
-    NoWindowSystem m_windowSystem;
-};
-
 } // namespace
 
-std::unique_ptr<SystemServices> makeSystemServices(QtAppearance&, MainQueue&) { return std::make_unique<NoServices>(); }
+struct SystemServices::System {
+    StandardClock clock {};
+    NoAccessibility accessibility {};
+    NoCaptureExclusion captureExclusion {};
+    NoHotKeys hotKeys {};
+    NoWindowSystem windowSystem {};
+};
+
+SystemServices::SystemServices(QtAppearance&, QtWindowEvents&, MainQueue&)
+    : m_system(std::make_unique<System>())
+{
+}
+
+SystemServices::~SystemServices() = default;
+
+Clock& SystemServices::clock() { return m_system->clock; }
+
+Accessibility& SystemServices::accessibility() { return m_system->accessibility; }
+
+Desktop SystemServices::desktop() { return {m_system->captureExclusion, m_system->hotKeys, m_system->windowSystem}; }
+
+void SystemServices::start() { }
 
 std::optional<FileError> syncFile(int) { return std::nullopt; }
 

@@ -1,9 +1,9 @@
 #include "platform/qt/QtAppearance.h"
 
 #include "platform/qt/ApplicationPalette.h"
+#include "platform/qt/QtWindowEvents.h"
 
 #include <QApplication>
-#include <QEvent>
 #include <QPainter>
 #include <QProxyStyle>
 #include <QStyleOption>
@@ -13,9 +13,8 @@ namespace cuebright {
 
 namespace {
 
-/// Fusion, but that a long menu scrolls instead of spreading over columns, and that the arrow of a menu bar without
-/// room for all its titles is drawn: to read its picture of one, the toolkit would load its plug-ins for all image
-/// formats, whether the arrow shows or not.
+/// Fusion with two changes: a long menu scrolls instead of using columns, and the extension arrow of a menu bar is
+/// painted, because Qt would load all its image format plug-ins to read the one of the style, shown or not.
 class Style final : public QProxyStyle {
 public:
     Style()
@@ -47,7 +46,7 @@ private:
     static constexpr int kArrowSize = 12;
 };
 
-void show(bool isDark)
+void applyPalette(bool isDark)
 {
     const auto palette = applicationPalette(isDark);
     QApplication::setPalette(palette);
@@ -56,13 +55,18 @@ void show(bool isDark)
 
 } // namespace
 
-QtAppearance::QtAppearance()
+QtAppearance::QtAppearance(QtWindowEvents& windowEvents)
     : m_guessedDark(looksDark(QApplication::palette()))
     , m_isDark(m_guessedDark)
+    , m_themeSubscription(windowEvents.themeChanged.subscribe([this] {
+        if (!m_reportedDark)
+            m_guessSoon.start(); // once, after the last window was notified
+    }))
 {
     QApplication::setStyle(new Style);
-    show(m_isDark);
-    qApp->installEventFilter(this);
+    applyPalette(m_isDark);
+    m_guessSoon.setSingleShot(true);
+    QObject::connect(&m_guessSoon, &QTimer::timeout, &m_guessSoon, [this] { guess(); });
 }
 
 void QtAppearance::choose(Choice choice)
@@ -82,21 +86,11 @@ bool QtAppearance::looksDark(const QPalette& palette)
     return palette.color(QPalette::Window).lightnessF() < palette.color(QPalette::WindowText).lightnessF();
 }
 
-bool QtAppearance::eventFilter(QObject*, QEvent* event)
+void QtAppearance::guess()
 {
-    // Every window is told, one after the other; one look at the end is enough.
-    if (event->type() == QEvent::ThemeChange && !m_reportedDark && !std::exchange(m_guessWaits, true))
-        QMetaObject::invokeMethod(
-            this, [this] { guessAgain(); }, Qt::QueuedConnection);
-    return false;
-}
-
-void QtAppearance::guessAgain()
-{
-    m_guessWaits = false;
-    QApplication::setPalette(QPalette()); // the desktop's own shows only while there is none of ours
+    QApplication::setPalette(QPalette()); // gives access to the desktop's palette
     m_guessedDark = looksDark(QApplication::palette());
-    show(m_isDark);
+    applyPalette(m_isDark);
     update();
 }
 
@@ -107,7 +101,7 @@ void QtAppearance::update()
     if (isDark == m_isDark)
         return;
     m_isDark = isDark;
-    show(isDark);
+    applyPalette(isDark);
     changed.notify();
 }
 

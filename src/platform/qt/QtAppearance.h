@@ -1,8 +1,9 @@
 #pragma once
 
+#include "foundation/Signal.h"
 #include "platform/Appearance.h"
 
-#include <QObject>
+#include <QTimer>
 
 #include <optional>
 
@@ -10,34 +11,35 @@ class QPalette;
 
 namespace cuebright {
 
-/// The look of all widgets: Fusion style with the program's own palette, light or dark.
+class QtWindowEvents;
+
+/// The look of all widgets: Fusion style with the program's palette, light or dark.
 ///
-/// What the system wants is guessed from the palette that the desktop gave to the application, until somebody who knows
-/// reports it. Make it after the application and before the first widget.
-class QtAppearance final : public QObject, public Appearance {
+/// The system's setting is guessed from the desktop's palette until `setSystemIsDark` reports it. Make it before the
+/// first widget.
+class QtAppearance final : public Appearance {
 public:
-    QtAppearance();
+    explicit QtAppearance(QtWindowEvents& windowEvents);
 
     void choose(Choice choice) override;
     bool isDark() override { return m_isDark; }
 
-    /// From now on this counts and not the desktop's palette; nothing: the palette again.
+    /// Overrides the guess; nothing: guess again.
     void setSystemIsDark(std::optional<bool> isDark);
 
-    /// Whether a palette writes light on dark.
+    /// Whether the text is lighter than the background.
     [[nodiscard]] static bool looksDark(const QPalette& palette);
 
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
-    void guessAgain();
+    void guess();
     void update();
 
     Choice m_choice = Choice::FollowSystem;
     bool m_guessedDark;
     std::optional<bool> m_reportedDark;
     bool m_isDark;
-    bool m_guessWaits = false;
+    QTimer m_guessSoon;
+    Subscription m_themeSubscription;
 };
 
 } // namespace cuebright

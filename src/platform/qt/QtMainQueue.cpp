@@ -1,5 +1,7 @@
 #include "platform/qt/QtMainQueue.h"
 
+#include "platform/qt/QtWindowEvents.h"
+
 #include <QCoreApplication>
 #include <QEvent>
 #include <QMetaObject>
@@ -30,15 +32,11 @@ void end(QTimer* timer)
 
 } // namespace
 
-QtMainQueue::QtMainQueue() { QCoreApplication::instance()->installEventFilter(&m_owner); }
-
-/// Qt delivers queued input before posted events, so a key could reach a widget that the previous key closed. Runs
-/// posted work before each input event; a QWindow sees every event exactly once.
-bool QtMainQueue::Owner::eventFilter(QObject* watched, QEvent* event)
+// Qt delivers queued input before posted events, so a key could reach a widget that the previous key closed.
+QtMainQueue::QtMainQueue(QtWindowEvents& windowEvents)
+    : m_inputSubscription(
+        windowEvents.inputArrives.subscribe([this] { QCoreApplication::sendPostedEvents(&m_owner, QEvent::MetaCall); }))
 {
-    if (event->isInputEvent() && watched->isWindowType())
-        QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
-    return false;
 }
 
 PendingTask QtMainQueue::post(std::function<void()> work)

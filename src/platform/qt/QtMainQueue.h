@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/Signal.h"
 #include "platform/MainQueue.h"
 
 #include <QObject>
@@ -8,27 +9,23 @@ class QTimer;
 
 namespace cuebright {
 
-/// Qt's event loop of the main thread. Times are kept to the millisecond.
-///
-/// What still waits when the queue is destroyed never runs.
+class QtWindowEvents;
+
+/// Qt's event loop of the main thread. Times have a resolution of 1 ms. Pending work is dropped on destruction; handles
+/// may outlive the queue.
 class QtMainQueue final : public MainQueue {
 public:
-    QtMainQueue();
+    explicit QtMainQueue(QtWindowEvents& windowEvents);
 
     PendingTask post(std::function<void()> work) override;
     PendingTask after(Seconds delay, std::function<void()> work) override;
     PendingTask every(Seconds interval, std::function<void()> work) override;
 
 private:
-    /// Parent of every timer, target of every posted call.
-    class Owner final : public QObject {
-    protected:
-        bool eventFilter(QObject* watched, QEvent* event) override;
-    };
-
     PendingTask start(QTimer* timer);
 
-    Owner m_owner;
+    QObject m_owner; ///< parent of every timer, receiver of every posted call
+    Subscription m_inputSubscription;
 };
 
 } // namespace cuebright

@@ -7,39 +7,37 @@
 #include "platform/qt/QtMainQueue.h"
 #include "platform/qt/QtPreferences.h"
 #include "platform/qt/QtUuidSource.h"
+#include "platform/qt/QtWindowEvents.h"
 #include "platform/qt/StdoutLog.h"
+#include "platform/system/SystemServices.h"
 
 #include <filesystem>
-#include <memory>
 
 namespace cuebright {
 
-class SystemServices;
-
-/// Owns all services of a running program; outlives whatever uses them. Make it after the `QApplication` and let it go
-/// before that.
+/// Owns the adapters behind all ports. Must be destroyed before the `QApplication` and after whatever uses the ports.
 class QtPlatform final {
 public:
     explicit QtPlatform(const std::filesystem::path& preferencesFile = defaultPreferencesFile());
-    ~QtPlatform();
 
-    /// `Cuebright/Cuebright.conf` in the user's folder for settings.
+    /// `Cuebright/Cuebright.conf` in the user's configuration folder.
     [[nodiscard]] static std::filesystem::path defaultPreferencesFile();
 
     [[nodiscard]] Platform services();
     [[nodiscard]] Desktop desktop();
 
-    /// Asks the desktop for what the first frame did not need. Call once, after that frame.
+    /// Begins the requests that the first frame does not need. Call once, after that frame.
     void start();
 
 private:
     QtUuidSource m_uuids;
     StdoutLog m_log;
-    QtMainQueue m_mainQueue;
+    QtWindowEvents m_windowEvents;
+    QtMainQueue m_mainQueue {m_windowEvents};
     QtFileSystem m_fileSystem;
     QtPreferences m_preferences;
-    QtAppearance m_appearance;
-    std::unique_ptr<SystemServices> m_system;
+    QtAppearance m_appearance {m_windowEvents};
+    SystemServices m_system {m_appearance, m_windowEvents, m_mainQueue};
 };
 
 } // namespace cuebright

@@ -10,23 +10,27 @@ class Accessibility;
 class Clock;
 class MainQueue;
 class QtAppearance;
+class QtWindowEvents;
 
-/// The services of one system that Qt does not offer.
-class SystemServices {
+/// The ports that Qt cannot implement. Defined once for each system.
+class SystemServices final {
 public:
-    virtual ~SystemServices() = default;
+    /// Needs the application object. `appearance` is given the system's light or dark look. The arguments must outlive
+    /// this.
+    SystemServices(QtAppearance& appearance, QtWindowEvents& windowEvents, MainQueue& mainQueue);
+    ~SystemServices();
 
-    [[nodiscard]] virtual Clock& clock() = 0;
-    [[nodiscard]] virtual Accessibility& accessibility() = 0;
-    [[nodiscard]] virtual Desktop desktop() = 0;
+    [[nodiscard]] Clock& clock();
+    [[nodiscard]] Accessibility& accessibility();
+    [[nodiscard]] Desktop desktop();
 
-    /// Begins what would hold up the first frame: questions to other processes. Call once, after that frame. Until
-    /// then and until they answer, each service gives its most careful answer.
-    virtual void start() = 0;
+    /// Begins what would delay the first frame: requests to other processes. Call once, after that frame. Until they
+    /// answer, each service gives its most cautious answer.
+    void start();
+
+private:
+    struct System;
+    std::unique_ptr<System> m_system;
 };
-
-/// Call after the application object is made. What the system says about its light or dark look goes to `appearance`.
-/// Both outlive the services. Defined once for each system, in its own folder.
-[[nodiscard]] std::unique_ptr<SystemServices> makeSystemServices(QtAppearance& appearance, MainQueue& mainQueue);
 
 } // namespace cuebright

@@ -7,18 +7,20 @@
 
 namespace cuebright {
 
-/// Waits for a place where status items can be.
-class TrayAvailability {
+/// Waits until the desktop can show tray icons. Defined once for each system.
+class TrayAvailability final {
 public:
-    virtual ~TrayAvailability() = default;
+    /// `available` runs once, from the event loop, as soon as there is a tray, which may be never. Not after this
+    /// object is destroyed, which `available` may do itself.
+    explicit TrayAvailability(std::function<void()> available);
+    ~TrayAvailability();
+
+private:
+    struct System;
+    std::unique_ptr<System> m_system;
 };
 
-/// Looks at once, without waiting for another process. `arrived` runs once, from the event loop, as soon as there is a
-/// place, which may be never; not any more when the watch is gone, and it may let the watch go itself.
-[[nodiscard]] std::unique_ptr<TrayAvailability> watchForTray(std::function<void()> arrived);
-
-/// The action's text with which an item shows exactly `title`, one line, in a status item's menu that the desktop
-/// draws.
+/// The `QAction` text that shows as exactly `title` (one line) in a tray icon's menu that the desktop draws.
 [[nodiscard]] QString exportedMenuText(QString title);
 
 } // namespace cuebright

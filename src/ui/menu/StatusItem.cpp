@@ -45,7 +45,7 @@ StatusItem::StatusItem(const UiContext& context, PanelController& panelControlle
     : m_context(context)
     , m_panelController(panelController)
     , m_quit(std::move(quit))
-    , m_trayWatch(watchForTray([this] { appear(); }))
+    , m_trayWatch(std::make_unique<TrayAvailability>([this] { appear(); }))
     , m_refresh(context.platform.mainQueue, [this] { rebuildStatusMenu(); })
 {
     rebuildStatusMenu();

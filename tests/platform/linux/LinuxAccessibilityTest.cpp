@@ -113,7 +113,7 @@ TEST_F(LinuxAccessibilityTest, TransparencyFollowsTheCompositorFromTheBeginning)
     EXPECT_FALSE(accessibility.reduceTransparency());
     hasCompositor = false;
     for (int i = 0; i < 2; ++i)
-        accessibility.compositorMayHaveChanged();
+        accessibility.updateCompositor();
     EXPECT_TRUE(accessibility.reduceTransparency());
     expect(true, false, 1);
 }

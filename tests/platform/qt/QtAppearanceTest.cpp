@@ -2,6 +2,7 @@
 
 #include "platform/qt/ApplicationPalette.h"
 #include "platform/qt/QtColors.h"
+#include "platform/qt/QtWindowEvents.h"
 #include "support/EventLoop.h"
 
 #include <QApplication>
@@ -21,7 +22,7 @@ protected:
     void start(const QPalette& desktop = {})
     {
         QApplication::setPalette(desktop);
-        appearance.emplace();
+        appearance.emplace(windowEvents);
         subscription = appearance->changed.subscribe([this] { ++changes; });
     }
     ~QtAppearanceTest() override { QApplication::setPalette(QPalette()); }
@@ -33,6 +34,7 @@ protected:
         EXPECT_EQ(QApplication::palette().color(QPalette::Window), paper);
     }
 
+    QtWindowEvents windowEvents;
     std::optional<QtAppearance> appearance;
     int changes = 0;
     Subscription subscription;

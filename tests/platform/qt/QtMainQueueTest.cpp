@@ -1,4 +1,5 @@
 #include "platform/qt/QtMainQueue.h"
+#include "platform/qt/QtWindowEvents.h"
 
 #include "support/EventLoop.h"
 
@@ -28,13 +29,14 @@ protected:
     [[nodiscard]] bool letPass(Seconds delay)
     {
         bool hasPassed = false;
-        QtMainQueue other;
+        QtMainQueue other(windowEvents);
         const auto end = other.after(delay, [&] { hasPassed = true; });
         return waitUntil([&] { return hasPassed; });
     }
 
     std::string ran;
-    std::optional<QtMainQueue> queue {std::in_place};
+    QtWindowEvents windowEvents;
+    std::optional<QtMainQueue> queue {std::in_place, windowEvents};
 };
 
 } // namespace

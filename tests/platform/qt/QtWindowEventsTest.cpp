@@ -1,4 +1,4 @@
-#include "platform/qt/QtTopLevelWatch.h"
+#include "platform/qt/QtWindowEvents.h"
 
 #include "support/EventLoop.h"
 
@@ -17,25 +17,25 @@ namespace cuebright::test {
 
 namespace {
 
-class QtTopLevelWatchTest : public testing::Test {
+class QtWindowEventsTest : public testing::Test {
 protected:
     [[nodiscard]] bool hasAppeared(const QWidget& widget) const
     {
         return std::ranges::find(appeared, widget.winId()) != appeared.end();
     }
 
-    QtTopLevelWatch watch;
+    QtWindowEvents events;
     std::vector<WindowSystem::WindowId> appeared;
     std::vector<WindowSystem::WindowId> gone;
-    Subscription appears = watch.appears.subscribe([this](auto window) { appeared.push_back(window); });
-    Subscription goes = watch.goes.subscribe([this](auto window) { gone.push_back(window); });
+    Subscription appears = events.topLevelAppears.subscribe([this](auto window) { appeared.push_back(window); });
+    Subscription goes = events.topLevelGoes.subscribe([this](auto window) { gone.push_back(window); });
 };
 
-TEST_F(QtTopLevelWatchTest, SignalsAWindowBeforeItIsExposedAndWhenItIsDestroyed)
+TEST_F(QtWindowEventsTest, SignalsAWindowBeforeItIsExposedAndWhenItIsDestroyed)
 {
     auto widget = std::make_unique<QWidget>();
     std::optional<bool> wasExposed;
-    const auto looks = watch.appears.subscribe([&](auto) {
+    const auto looks = events.topLevelAppears.subscribe([&](auto) {
         if (!wasExposed)
             wasExposed = widget && widget->windowHandle() && widget->windowHandle()->isExposed();
     });
@@ -55,7 +55,7 @@ TEST_F(QtTopLevelWatchTest, SignalsAWindowBeforeItIsExposedAndWhenItIsDestroyed)
     EXPECT_EQ(gone, std::vector {id});
 }
 
-TEST_F(QtTopLevelWatchTest, SignalsMenusAndNoWindowsInsideOthers)
+TEST_F(QtWindowEventsTest, SignalsMenusAndNoWindowsInsideOthers)
 {
     QWidget widget;
     QWidget inside(&widget);
