@@ -21,7 +21,7 @@ int main(int, char* argv[])
     ProcessSetup process;
 
     // The program has no command-line options, so Qt gets none of the user's either.
-    auto options = ProcessSetup::toolkitOptions();
+    auto options = ProcessSetup::qtOptions();
     std::vector<char*> arguments {argv[0]};
     for (auto& option : options)
         arguments.push_back(option.data());

@@ -4,7 +4,7 @@
 
 namespace cuebright {
 
-// Not run on Windows or macOS yet. Windows may only flash the task bar's button.
+// Not run on Windows or macOS yet. Windows may only flash the taskbar button.
 void activateForUser(QWidget& window, const std::string&) { window.activateWindow(); }
 
 void endLaunch(QWidget&, const std::string&) { }

@@ -4,7 +4,7 @@
 
 namespace cuebright {
 
-/// For a system whose settings cannot be asked: nobody has asked for anything.
+/// For a system whose settings cannot be read.
 class NoAccessibility final : public Accessibility {
 public:
     bool reduceMotion() override { return false; }

@@ -4,7 +4,7 @@
 
 namespace cuebright {
 
-/// For a system that nothing can be asked of, and of which this much is known.
+/// For a system that offers nothing; the state is what is known of it.
 class NoCaptureExclusion final : public CaptureExclusion {
 public:
     explicit NoCaptureExclusion(State known = State::Unknown)

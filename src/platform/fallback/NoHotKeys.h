@@ -4,7 +4,7 @@
 
 namespace cuebright {
 
-/// For a system on which no program can have a key of its own.
+/// For a system without global hot keys.
 class NoHotKeys final : public HotKeys {
 public:
     std::unique_ptr<HotKeyRegistration> registerHotKey(const HotKey&, std::function<void()>) override { return {}; }

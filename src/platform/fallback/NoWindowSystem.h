@@ -4,7 +4,7 @@
 
 namespace cuebright {
 
-/// For a system on which the toolkit's own means are all there is.
+/// For a system that offers no more than Qt.
 class NoWindowSystem final : public WindowSystem {
 public:
     void keepAboveFullScreen(WindowId) override { }

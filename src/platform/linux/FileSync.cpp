@@ -11,7 +11,7 @@ namespace cuebright {
 
 std::optional<FileError> syncFile(int fileDescriptor)
 {
-    // Some file systems cannot sync and say so with EINVAL or ENOSYS: that is no failure to write.
+    // EINVAL or ENOSYS: the file system does not support it.
     if (::fsync(fileDescriptor) == 0 || errno == EINVAL || errno == ENOSYS)
         return std::nullopt;
     return FileError {std::generic_category().message(errno)};

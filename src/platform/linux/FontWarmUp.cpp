@@ -9,9 +9,9 @@ namespace cuebright {
 FontWarmUp::FontWarmUp()
 {
     try {
-        m_thread = std::jthread([] { FcInit(); }); // safe from any thread, and does nothing the second time
+        m_thread = std::jthread([] { FcInit(); }); // thread-safe; later calls do nothing
     } catch (const std::system_error&) {
-        // No thread is to be had: the toolkit reads it later.
+        // Qt reads it later.
     }
 }
 

@@ -17,7 +17,7 @@ LinuxAccessibility::LinuxAccessibility(
     : m_mainQueue(mainQueue)
     , m_hasCompositor(std::move(hasCompositor))
     , m_systemIsDark(std::move(systemIsDark))
-    , m_wishes {.reduceTransparency = !m_hasCompositor()}
+    , m_settings {.reduceTransparency = !m_hasCompositor()}
 {
 }
 
@@ -26,32 +26,31 @@ LinuxAccessibility::~LinuxAccessibility() = default;
 void LinuxAccessibility::start(const QDBusConnection& sessionBus)
 {
     if (!sessionBus.isConnected()) {
-        settle({});
+        apply({});
         return;
     }
-    m_timeout = m_mainQueue.after(kReplyTimeout, [this] { settle({}); });
-    m_portal =
-        std::make_unique<SettingsPortal>(sessionBus, [this](const DesktopSettings& settings) { settle(settings); });
+    m_timeout = m_mainQueue.after(kReplyTimeout, [this] { apply({}); });
+    m_portal = std::make_unique<SettingsPortal>(sessionBus, [this](const DesktopSettings& desktop) { apply(desktop); });
 }
 
 void LinuxAccessibility::updateCompositor()
 {
-    auto wishes = m_wishes;
-    wishes.reduceTransparency = !m_hasCompositor();
-    become(wishes);
+    auto settings = m_settings;
+    settings.reduceTransparency = !m_hasCompositor();
+    set(settings);
 }
 
-void LinuxAccessibility::settle(const DesktopSettings& settings)
+void LinuxAccessibility::apply(const DesktopSettings& desktop)
 {
     m_timeout.cancel();
-    if (std::exchange(m_isDark, settings.isDark()) != m_isDark)
+    if (std::exchange(m_isDark, desktop.isDark()) != m_isDark)
         m_systemIsDark(m_isDark);
-    become({settings.reduceMotion(), m_wishes.reduceTransparency, settings.increaseContrast()});
+    set({desktop.reduceMotion(), m_settings.reduceTransparency, desktop.increaseContrast()});
 }
 
-void LinuxAccessibility::become(const Wishes& wishes)
+void LinuxAccessibility::set(const Settings& settings)
 {
-    if (std::exchange(m_wishes, wishes) != wishes)
+    if (std::exchange(m_settings, settings) != settings)
         changed.notify();
 }
 

@@ -14,41 +14,42 @@ namespace cuebright {
 
 class SettingsPortal;
 
-/// The user's wishes as the settings portal tells them. Until it has told or has been silent for three seconds nothing
-/// moves. No desktop here has a wish for less transparency: without a compositor there is none to be had.
+/// Accessibility settings from the settings portal. Motion is reduced until the portal answers or 3 s pass. The portal
+/// has no setting for transparency: it is reduced where no compositor runs.
 class LinuxAccessibility final : public Accessibility {
 public:
-    /// `systemIsDark` hears of each change of the desktop's light or dark look; nothing: it has no preference.
+    /// `systemIsDark` is called with each change of the desktop's colour scheme; with nothing where it has no
+    /// preference.
     LinuxAccessibility(MainQueue& mainQueue, std::function<bool()> hasCompositor,
         std::function<void(std::optional<bool>)> systemIsDark);
     ~LinuxAccessibility() override;
 
-    /// Begins to ask; settles at once where there is no bus.
+    /// Asks the portal. Call once.
     void start(const QDBusConnection& sessionBus);
 
-    /// Looks again whether there is a compositor.
+    /// Calls `hasCompositor` again.
     void updateCompositor();
 
-    bool reduceMotion() override { return m_wishes.reduceMotion; }
-    bool reduceTransparency() override { return m_wishes.reduceTransparency; }
-    bool increaseContrast() override { return m_wishes.increaseContrast; }
+    bool reduceMotion() override { return m_settings.reduceMotion; }
+    bool reduceTransparency() override { return m_settings.reduceTransparency; }
+    bool increaseContrast() override { return m_settings.increaseContrast; }
 
 private:
-    struct Wishes {
+    struct Settings {
         bool reduceMotion = true;
         bool reduceTransparency = false;
         bool increaseContrast = false;
 
-        bool operator==(const Wishes&) const = default;
+        bool operator==(const Settings&) const = default;
     };
 
-    void settle(const DesktopSettings& settings);
-    void become(const Wishes& wishes);
+    void apply(const DesktopSettings& desktop);
+    void set(const Settings& settings);
 
     MainQueue& m_mainQueue;
     std::function<bool()> m_hasCompositor;
     std::function<void(std::optional<bool>)> m_systemIsDark;
-    Wishes m_wishes;
+    Settings m_settings;
     std::optional<bool> m_isDark;
     std::unique_ptr<SettingsPortal> m_portal;
     PendingTask m_timeout;

@@ -1,7 +1,6 @@
 #include "platform/fallback/NoHotKeys.h"
 #include "platform/fallback/NoWindowSystem.h"
 #include "platform/linux/LinuxAccessibility.h"
-#include "platform/linux/SystemClock.h"
 #include "platform/linux/base/DesktopSession.h"
 #include "platform/linux/capture/SessionCaptureExclusion.h"
 #include "platform/linux/portal/PortalHotKeys.h"
@@ -96,7 +95,6 @@ struct SystemServices::System {
     MainQueue& mainQueue;
     const DesktopSession session = DesktopSession::fromEnvironment();
     const std::unique_ptr<X11Services> x11;
-    SystemClock clock;
     LinuxAccessibility accessibility;
     const std::unique_ptr<CaptureExclusion> captureExclusion;
     std::optional<PortalHotKeys> portalHotKeys;
@@ -112,8 +110,6 @@ SystemServices::SystemServices(QtAppearance& appearance, QtWindowEvents&, MainQu
 }
 
 SystemServices::~SystemServices() = default;
-
-Clock& SystemServices::clock() { return m_system->clock; }
 
 Accessibility& SystemServices::accessibility() { return m_system->accessibility; }
 

@@ -43,9 +43,9 @@ ProcessSetup::ProcessSetup()
 
 ProcessSetup::~ProcessSetup() = default;
 
-/// A Wayland client may neither float nor place itself, so the way through XWayland comes first. Said in an option: the
-/// environment is read by the fonts' thread, and inherited by programs that make their own choice.
-std::vector<std::string> ProcessSetup::toolkitOptions()
+/// XWayland first, because a Wayland client can neither stay on top nor position itself. By an option, because the font
+/// thread reads the environment and child processes inherit it.
+std::vector<std::string> ProcessSetup::qtOptions()
 {
     if (!DesktopSession::fromEnvironment().isWayland || qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         return {};

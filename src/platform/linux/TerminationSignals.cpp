@@ -52,7 +52,7 @@ FileDescriptor openSignals()
 void TerminationSignals::claim()
 {
     auto set = allSignals();
-    if (isIgnored(SIGHUP)) // a blocked signal would arrive although it is ignored
+    if (isIgnored(SIGHUP)) // a blocked signal is delivered to signalfd even if ignored
         sigdelset(&set, SIGHUP);
     pthread_sigmask(SIG_BLOCK, &set, nullptr);
     ::signal(SIGPIPE, SIG_IGN);

@@ -30,7 +30,7 @@ xcb_client_message_event_t clientMessage(xcb_window_t window, xcb_atom_t type, s
     return event;
 }
 
-/// Extended Window Manager Hints: on behalf of the user, whom the toolkit has not heard of since the last key press.
+/// As EWMH defines it. Not through Qt, whose time stamp is that of the last input to this program.
 void activateOnX11(const X11Connection& x11, xcb_window_t window, std::uint32_t time)
 {
     constexpr std::uint32_t kDirectUserAction = 2;
@@ -41,7 +41,7 @@ void activateOnX11(const X11Connection& x11, xcb_window_t window, std::uint32_t 
     xcb_flush(x11.get());
 }
 
-/// Startup Notification Protocol: a text in pieces of 20 bytes, ended by a zero.
+/// Startup Notification Protocol: a text in pieces of 20 bytes, terminated by a zero.
 void broadcast(const X11Connection& x11, xcb_window_t window, const std::string& text)
 {
     auto event = clientMessage(window, x11.atom("_NET_STARTUP_INFO_BEGIN"), 8);
@@ -64,7 +64,7 @@ void activateForUser(QWidget& window, const std::string& token)
         endLaunch(window, token);
         return;
     }
-    // That is where the toolkit looks for it on Wayland; programs started from here are not to find it.
+    // Qt reads it from there on Wayland. Child processes must not inherit it.
     qputenv(kTokenVariable, QByteArray::fromStdString(token));
     window.activateWindow();
     qunsetenv(kTokenVariable);

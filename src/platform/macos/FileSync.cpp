@@ -8,12 +8,12 @@
 
 namespace cuebright {
 
-// Not compiled or run on a Mac yet. fsync() alone leaves the data in the drive's own memory.
+// Not compiled or run on a Mac yet. fsync() alone leaves the data in the drive's cache.
 std::optional<FileError> syncFile(int fileDescriptor)
 {
     if (::fcntl(fileDescriptor, F_FULLFSYNC) == 0 || ::fsync(fileDescriptor) == 0)
         return std::nullopt;
-    // Some file systems cannot sync: that is no failure to write.
+    // The file system does not support it.
     if (errno == EINVAL || errno == ENOTSUP)
         return std::nullopt;
     return FileError {std::generic_category().message(errno)};

@@ -6,7 +6,7 @@
 
 namespace cuebright {
 
-/// The page "Display" of the accessibility settings. Not compiled or run on a Mac yet.
+/// The accessibility settings of the page "Display". Not compiled or run on a Mac yet.
 class MacAccessibility final : public Accessibility {
 public:
     MacAccessibility();

@@ -12,7 +12,7 @@ MacAccessibility::MacAccessibility()
     : m_observation(std::make_unique<Observation>())
 {
     NSNotificationCenter* const center = NSWorkspace.sharedWorkspace.notificationCenter;
-    // Without a queue: a block that waits in one could run when this is gone. It is posted on the main thread.
+    // Without a queue, where a pending block could outlive this object. It is posted on the main thread.
     m_observation->observer =
         [center addObserverForName:NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification
                             object:nil

@@ -6,7 +6,7 @@
 
 namespace cuebright {
 
-/// The look that macOS gives to the application. Needs the application object. Not compiled or run on a Mac yet.
+/// The application's light or dark appearance. Needs the application object. Not compiled or run on a Mac yet.
 class MacAppearance final {
 public:
     MacAppearance();

@@ -14,7 +14,7 @@ bool isMacOs15OrLater()
     return [NSProcessInfo.processInfo isOperatingSystemAtLeastVersion:NSOperatingSystemVersion {15, 0, 0}];
 }
 
-bool isAskedFor(WindowSystem::WindowId window)
+bool isUnshared(WindowSystem::WindowId window)
 {
     NSWindow* const native = nativeWindow(window);
     return native && native.sharingType == NSWindowSharingNone;
@@ -46,11 +46,11 @@ void MacCaptureExclusion::windowGoes(WindowSystem::WindowId window)
 void MacCaptureExclusion::applyToAll()
 {
     for (const auto window : m_windows) {
-        if (!isAskedFor(window))
+        if (!isUnshared(window))
             nativeWindow(window).sharingType = NSWindowSharingNone;
     }
-    const bool isOut = !m_isIgnored && std::ranges::all_of(m_windows, isAskedFor);
-    const auto state = isOut ? State::Unknown : State::Visible;
+    const bool areUnshared = !m_isIgnored && std::ranges::all_of(m_windows, isUnshared);
+    const auto state = areUnshared ? State::Unknown : State::Visible;
     if (std::exchange(m_state, state) != state)
         changed.notify();
 }

@@ -9,13 +9,13 @@ namespace cuebright {
 
 namespace {
 
-/// Where the keys A to Z are on an ANSI keyboard; the letters of other layouts are elsewhere.
+/// The keys A to Z of an ANSI keyboard; other layouts have other letters there.
 constexpr UInt32 kKeyCodes[] = {kVK_ANSI_A, kVK_ANSI_B, kVK_ANSI_C, kVK_ANSI_D, kVK_ANSI_E, kVK_ANSI_F, kVK_ANSI_G,
     kVK_ANSI_H, kVK_ANSI_I, kVK_ANSI_J, kVK_ANSI_K, kVK_ANSI_L, kVK_ANSI_M, kVK_ANSI_N, kVK_ANSI_O, kVK_ANSI_P,
     kVK_ANSI_Q, kVK_ANSI_R, kVK_ANSI_S, kVK_ANSI_T, kVK_ANSI_U, kVK_ANSI_V, kVK_ANSI_W, kVK_ANSI_X, kVK_ANSI_Y,
     kVK_ANSI_Z};
 
-/// What the handler runs. The handler outlives every registration, so it can be given no pointer to one.
+/// Global, because the installed handler outlives every registration.
 std::function<void()>& pressedHandler()
 {
     static std::function<void()> handler;
@@ -59,7 +59,7 @@ std::unique_ptr<HotKeyRegistration> MacHotKeys::registerHotKey(const HotKey& key
 
     const EventTargetRef target = GetApplicationEventTarget();
     EventHandlerRef handler = nullptr;
-    // A second time it answers that the handler is there already.
+    // Fails if the handler is already installed.
     InstallEventHandler(target, hotKeyHandler, 1, &kKeyPressed, nullptr, &handler);
     EventHotKeyRef registered = nullptr;
     const EventHotKeyID id {key.signature, key.id};

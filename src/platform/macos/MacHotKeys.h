@@ -4,10 +4,8 @@
 
 namespace cuebright {
 
-/// Hot keys through the Carbon event interface, which still is the one that needs no permission of the user's. Not
-/// compiled or run on a Mac yet.
-///
-/// Holds one key at a time: the handler stays for the life of the process and is called with no word about which key.
+/// Hot keys through Carbon events, the only interface that needs no permission from the user. One key at a time,
+/// because the handler stays installed and does not distinguish keys. Not compiled or run on a Mac yet.
 class MacHotKeys final : public HotKeys {
 public:
     std::unique_ptr<HotKeyRegistration> registerHotKey(const HotKey& key, std::function<void()> pressed) override;

@@ -1,7 +1,6 @@
 #include "platform/macos/MacAccessibility.h"
 #include "platform/macos/MacAppearance.h"
 #include "platform/macos/MacCaptureExclusion.h"
-#include "platform/macos/MacClock.h"
 #include "platform/macos/MacHotKeys.h"
 #include "platform/macos/MacWindowSystem.h"
 #include "platform/qt/QtAppearance.h"
@@ -21,7 +20,6 @@ struct SystemServices::System {
         appearance.setSystemIsDark(systemAppearance.isDark());
     }
 
-    MacClock clock;
     MacAccessibility accessibility;
     MacAppearance systemAppearance;
     MacCaptureExclusion captureExclusion;
@@ -38,8 +36,6 @@ SystemServices::SystemServices(QtAppearance& appearance, QtWindowEvents& windowE
 }
 
 SystemServices::~SystemServices() = default;
-
-Clock& SystemServices::clock() { return m_system->clock; }
 
 Accessibility& SystemServices::accessibility() { return m_system->accessibility; }
 

@@ -4,10 +4,8 @@
 
 namespace cuebright {
 
-/// Lets the panel join the spaces of full-screen windows. Not compiled or run on a Mac yet; whether macOS lets a window
-/// of an ordinary program, which is no non-activating panel, into the full-screen space of another one is to be tried.
-///
-/// No glass: the toolkit's view fills the window, and nothing can be put behind it without taking it apart.
+/// Lets the panel join the spaces of full-screen windows. Not compiled or run on a Mac yet; untried whether macOS
+/// allows that for a window that is not a non-activating panel. Blur is not implemented: Qt's view fills the window.
 class MacWindowSystem final : public WindowSystem {
 public:
     void keepAboveFullScreen(WindowId window) override;

@@ -8,8 +8,8 @@ namespace {
 
 constexpr NSWindowCollectionBehavior kFloating =
     NSWindowCollectionBehaviorCanJoinAllSpaces | NSWindowCollectionBehaviorFullScreenAuxiliary;
-/// What must not be set beside the second of the above; the toolkit gives the first to windows with a zoom button.
-constexpr NSWindowCollectionBehavior kOpposite =
+/// Excluded by FullScreenAuxiliary; Qt sets the first for windows with a zoom button.
+constexpr NSWindowCollectionBehavior kConflicting =
     NSWindowCollectionBehaviorFullScreenPrimary | NSWindowCollectionBehaviorFullScreenNone;
 
 } // namespace
@@ -17,7 +17,7 @@ constexpr NSWindowCollectionBehavior kOpposite =
 void MacWindowSystem::keepAboveFullScreen(WindowId window)
 {
     NSWindow* const native = nativeWindow(window);
-    native.collectionBehavior = (native.collectionBehavior & ~kOpposite) | kFloating;
+    native.collectionBehavior = (native.collectionBehavior & ~kConflicting) | kFloating;
 }
 
 void MacWindowSystem::release(WindowId window)

@@ -6,7 +6,7 @@
 
 namespace cuebright {
 
-/// The window of a toolkit's window, whose handle is a view. Null while it has none.
+/// The NSWindow of a `QWindow`, whose id is an NSView. Null while it has none.
 [[nodiscard]] inline NSWindow* nativeWindow(WindowSystem::WindowId window)
 {
     return ((__bridge NSView*)reinterpret_cast<void*>(window)).window;

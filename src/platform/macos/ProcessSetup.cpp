@@ -16,7 +16,7 @@ ProcessSetup::ProcessSetup()
 
 ProcessSetup::~ProcessSetup() = default;
 
-std::vector<std::string> ProcessSetup::toolkitOptions() { return {}; }
+std::vector<std::string> ProcessSetup::qtOptions() { return {}; }
 
 void ProcessSetup::onApplicationCreated()
 {

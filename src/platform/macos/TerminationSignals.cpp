@@ -21,8 +21,8 @@ void notifyRequested(void* signals) { static_cast<TerminationSignals*>(signals)-
 
 dispatch_source_t watch(int signal, TerminationSignals* signals)
 {
-    // The source sees the signal besides its handler. Unlike an ignored signal, a handled one has its default effect
-    // again in the programs that are started from here.
+    // The source receives the signal in addition to the handler. A handler, because child processes would inherit
+    // SIG_IGN.
     ::signal(signal, [](int) {});
     const auto number = static_cast<uintptr_t>(signal);
     const auto source = dispatch_source_create(DISPATCH_SOURCE_TYPE_SIGNAL, number, 0, dispatch_get_main_queue());

@@ -8,11 +8,10 @@
 
 namespace cuebright {
 
-/// SIGTERM, SIGINT and SIGHUP on the main queue, which the application's event loop runs. Not compiled or run on a Mac
-/// yet.
+/// SIGTERM, SIGINT and SIGHUP as events of the main queue. Not compiled or run on a Mac yet.
 ///
-/// Make it first of all: from then on they end the process no more. A SIGHUP that was ignored from the start (nohup)
-/// stays ignored, and so does SIGPIPE.
+/// Make it first: from then on the signals no longer end the process. A SIGHUP that was ignored from the start (nohup)
+/// stays ignored. SIGPIPE is ignored too.
 class TerminationSignals final {
 public:
     TerminationSignals();
@@ -20,7 +19,6 @@ public:
     TerminationSignals& operator=(const TerminationSignals&) = delete;
     ~TerminationSignals();
 
-    /// One of the signals has arrived.
     Signal<> requested;
 
 private:

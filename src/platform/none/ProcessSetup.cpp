@@ -8,7 +8,7 @@ ProcessSetup::ProcessSetup() = default;
 
 ProcessSetup::~ProcessSetup() = default;
 
-std::vector<std::string> ProcessSetup::toolkitOptions() { return {}; }
+std::vector<std::string> ProcessSetup::qtOptions() { return {}; }
 
 void ProcessSetup::onApplicationCreated() { }
 

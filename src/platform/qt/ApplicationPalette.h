@@ -4,7 +4,7 @@
 
 namespace cuebright {
 
-/// Every role of every widget in the light or the dark look; nothing is left to the desktop's own colours.
+/// Sets every role, so that no colour of the desktop's palette is used.
 [[nodiscard]] QPalette applicationPalette(bool isDark);
 
 } // namespace cuebright

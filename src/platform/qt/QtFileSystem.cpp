@@ -16,7 +16,7 @@ namespace cuebright {
 namespace {
 
 constexpr auto kOwnerOnly = QFile::ReadOwner | QFile::WriteOwner;
-constexpr std::size_t kReadStep = 262'144; // stays in the cache between being made and being filled
+constexpr std::size_t kReadStep = 262'144; // fits the CPU cache between zeroing and reading
 
 QString toQString(const std::filesystem::path& path) { return QFileInfo(path).filePath(); }
 
@@ -34,11 +34,11 @@ std::optional<std::string> readAll(QFile& file, std::size_t spareCapacity)
         if (count == 0)
             break;
     }
-    content.reserve(content.size() + spareCapacity); // the file may have grown since it was measured
+    content.reserve(content.size() + spareCapacity); // the file may have grown
     return content;
 }
 
-/// A short write sets no error: the reason comes with the attempt to write the rest.
+/// A short write sets no error; writing the rest does.
 bool writeAll(QSaveFile& file, std::string_view content)
 {
     while (!content.empty()) {
@@ -85,7 +85,7 @@ std::optional<std::string> QtFileSystem::readFile(const std::filesystem::path& p
         return std::nullopt;
     try {
         return readAll(file, spareCapacity);
-    } catch (const std::exception&) { // larger than the memory
+    } catch (const std::exception&) { // larger than memory
         return std::nullopt;
     }
 }
@@ -97,7 +97,7 @@ std::optional<FileError> QtFileSystem::writeFileAtomically(
     if (!isNew && readers == Readers::Owner && !QFileInfo(path).isWritable())
         QFile::setPermissions(toQString(path), kOwnerOnly);
     QSaveFile file(toQString(path));
-    // Without a buffer nothing is left for commit(), which ignores it when its last write fails (seen in Qt 6.4.2).
+    // commit() ignores a failure to write what is buffered (seen in Qt 6.4.2).
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         return lastError(file);
     if (isNew && readers == Readers::Owner)

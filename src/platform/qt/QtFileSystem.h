@@ -4,7 +4,7 @@
 
 namespace cuebright {
 
-/// The real disk, through Qt.
+/// The real file system.
 class QtFileSystem final : public FileSystem {
 public:
     std::optional<std::filesystem::path> applicationSupportDirectory() override;

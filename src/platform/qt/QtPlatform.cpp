@@ -18,8 +18,7 @@ std::filesystem::path QtPlatform::defaultPreferencesFile()
 
 Platform QtPlatform::services()
 {
-    return {m_system.clock(), m_uuids, m_mainQueue, m_fileSystem, m_preferences, m_system.accessibility(), m_appearance,
-        m_log};
+    return {m_clock, m_uuids, m_mainQueue, m_fileSystem, m_preferences, m_system.accessibility(), m_appearance, m_log};
 }
 
 Desktop QtPlatform::desktop() { return m_system.desktop(); }

@@ -9,6 +9,7 @@
 #include "platform/qt/QtUuidSource.h"
 #include "platform/qt/QtWindowEvents.h"
 #include "platform/qt/StdoutLog.h"
+#include "platform/qt/SystemClock.h"
 #include "platform/system/SystemServices.h"
 
 #include <filesystem>
@@ -30,6 +31,7 @@ public:
     void start();
 
 private:
+    SystemClock m_clock;
     QtUuidSource m_uuids;
     StdoutLog m_log;
     QtWindowEvents m_windowEvents;

@@ -1,5 +1,7 @@
 #include "platform/qt/QtPreferences.h"
 
+#include "platform/qt/TextConversion.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -33,10 +35,10 @@ template <typename Number> QString shortest(Number number)
     return QString::fromLatin1(text.data(), end - text.data());
 }
 
-/// Half a surrogate pair, which a damaged file can hold, would not read back as it was written.
-QString asWritten(const QString& text) { return QString::fromUtf8(text.toUtf8()); }
+/// Replaces unpaired surrogates, which a damaged file can contain and which would not read back as written.
+QString valid(const QString& text) { return toQString(toUtf8(text)); }
 
-/// A text with bare commas comes as a list, one that somebody put in by hand: it is a text all the same.
+/// A text with unquoted commas, as a user may type it, is read as a list.
 std::optional<QString> toText(const QVariant& value)
 {
     if (value.typeId() == QMetaType::QStringList)
@@ -61,12 +63,12 @@ QtPreferences::~QtPreferences() { write(); }
 QtPreferences::Texts QtPreferences::readFile(const QString& file)
 {
     Texts values;
-    if (!QFileInfo(file).isFile()) // opening a pipe would wait for its other end
+    if (!QFileInfo(file).isFile()) // opening a pipe would block
         return values;
     const QSettings settings(file, QSettings::IniFormat);
     for (const auto& key : settings.allKeys()) {
         if (const auto text = toText(settings.value(key)))
-            values.insert(asWritten(key), asWritten(*text));
+            values.insert(valid(key), valid(*text));
     }
     return values;
 }
@@ -85,7 +87,7 @@ std::optional<std::int64_t> QtPreferences::integer(std::string_view key)
     const auto written = text(key);
     if (const auto whole = written ? parseWhole<std::int64_t>(*written) : std::nullopt)
         return whole;
-    const auto value = number(key); // somebody may have written 150.0
+    const auto value = number(key); // a user may have typed 150.0
     constexpr double kTooLarge = 9223372036854775808.0;
     const bool isWhole = value && std::trunc(*value) == *value && std::abs(*value) < kTooLarge;
     return isWhole ? std::optional(static_cast<std::int64_t>(*value)) : std::nullopt;
@@ -101,7 +103,7 @@ std::optional<double> QtPreferences::number(std::string_view key)
 std::optional<std::string> QtPreferences::text(std::string_view key)
 {
     const auto value = m_values.constFind(toKey(key));
-    return value == m_values.cend() ? std::nullopt : std::optional(value->toStdString());
+    return value == m_values.cend() ? std::nullopt : std::optional(toUtf8(*value));
 }
 
 Preferences::Numbers QtPreferences::numbers(std::string_view key)
@@ -109,7 +111,7 @@ Preferences::Numbers QtPreferences::numbers(std::string_view key)
     const auto prefix = std::string(key) + '/';
     Numbers found;
     for (const auto& member : m_values.keys()) {
-        const auto name = member.toStdString();
+        const auto name = toUtf8(member);
         if (!name.starts_with(prefix))
             continue;
         if (const auto value = number(name))
@@ -127,10 +129,7 @@ void QtPreferences::setInteger(std::string_view key, std::int64_t value) { set(t
 
 void QtPreferences::setNumber(std::string_view key, double value) { set(toKey(key), shortest(value)); }
 
-void QtPreferences::setText(std::string_view key, std::string_view value)
-{
-    set(toKey(key), QString::fromUtf8(value.data(), static_cast<qsizetype>(value.size())));
-}
+void QtPreferences::setText(std::string_view key, std::string_view value) { set(toKey(key), toQString(value)); }
 
 void QtPreferences::setNumbers(std::string_view key, const Numbers& values)
 {
@@ -162,8 +161,8 @@ void QtPreferences::scheduleWrite()
     m_pendingWrite = m_mainQueue.post([this] { write(); });
 }
 
-/// On a full disk QSettings can leave an empty file and call it a success (seen in Qt 6.4.2): it writes a new file,
-/// which takes the old one's place only if it reads back whole.
+/// On a full disk QSettings can leave an empty file and report success (seen in Qt 6.4.2). So it writes a new file,
+/// which replaces the old one only if it reads back completely.
 void QtPreferences::write()
 {
     if (m_values == m_written)
@@ -178,9 +177,9 @@ void QtPreferences::write()
         for (auto value = m_values.cbegin(); value != m_values.cend(); ++value)
             settings.setValue(value.key(), value.value());
     }
-    // QSettings remembers files by their names: only under a fresh one is it read from the disk.
+    // QSettings caches files by name: only under a new name is it read from the disk.
     const auto check = scratch + QString::number(++m_writeCount);
-    QFile::remove(check); // a killed run may have left it
+    QFile::remove(check); // left by a crash
     if (!QFile::rename(scratch, check))
         return;
     std::error_code error;

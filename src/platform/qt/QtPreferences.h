@@ -10,10 +10,10 @@
 
 namespace cuebright {
 
-/// Preferences in a settings file of QSettings, one text for each key.
+/// Preferences in a QSettings file, stored as texts. Keys must be ASCII.
 ///
-/// All changes of one turn of the event loop are written together at its end, and the last ones on destruction. What
-/// could not be written is tried again with the next change. Keys are plain ASCII words.
+/// The changes of one event loop iteration are written together, and pending ones on destruction. What could not be
+/// written is tried again with the next change.
 class QtPreferences final : public Preferences {
 public:
     /// Reads the file; `mainQueue` must outlive this.

@@ -4,7 +4,7 @@
 
 namespace cuebright {
 
-/// Standard output, line by line. A closed or full one swallows the line.
+/// Writes to standard output. Lines that cannot be written are dropped.
 class StdoutLog final : public Log {
 public:
     void writeLine(std::string_view line) override;

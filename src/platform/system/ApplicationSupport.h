@@ -5,8 +5,8 @@
 
 namespace cuebright {
 
-/// The folder in which programs keep a user's data; nothing where there is none. Defined once for each system: what Qt
-/// calls generic is another folder on Windows.
+/// The folder for the user's application data; nothing where there is none. Defined once for each system: on Windows,
+/// Qt's GenericDataLocation is another folder.
 [[nodiscard]] std::optional<std::filesystem::path> applicationSupportFolder();
 
 } // namespace cuebright

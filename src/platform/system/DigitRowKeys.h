@@ -5,9 +5,8 @@
 
 namespace cuebright {
 
-/// The digit that a key of the row above the letters stands for on most keyboards, whatever the layout in use types
-/// with it; nothing for other keys, and where keys have no numbers. `scanCode` is the toolkit's native one. Defined
-/// once for each system, in its own folder.
+/// The digit of a key in the row above the letters, whatever the layout types with it; nothing for other keys, and on
+/// systems without scan codes. `scanCode` is `QKeyEvent::nativeScanCode`. Defined once for each system.
 [[nodiscard]] std::optional<int> digitRowKey(std::uint32_t scanCode);
 
 } // namespace cuebright

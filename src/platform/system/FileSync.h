@@ -7,12 +7,12 @@
 
 namespace cuebright {
 
-// Defined once for each system, in its own folder.
+// Defined once for each system.
 
-/// Brings what was written to an open file to the disk; the reason when that fails. Silent where it cannot be asked.
+/// Flushes an open file to the disk. No error where the file system does not support that.
 [[nodiscard]] std::optional<FileError> syncFile(int fileDescriptor);
 
-/// Brings a folder's entries to the disk, so that a file renamed into it outlives a power cut. Best effort.
+/// Flushes a folder's entries to the disk, so that a file renamed into it survives a power cut. Best effort.
 void syncDirectory(const std::filesystem::path& directory);
 
 } // namespace cuebright

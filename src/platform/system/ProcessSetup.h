@@ -8,20 +8,20 @@
 
 namespace cuebright {
 
-/// What a system wants from the process before the application object is made, and before any thread starts. Keep it to
-/// the end; defined once for each system, in its own folder.
+/// What a system needs before the application object is made and before any thread starts. Keep it until the process
+/// ends. Defined once for each system.
 class ProcessSetup final {
 public:
     ProcessSetup();
     ~ProcessSetup();
 
-    /// The command-line options that the toolkit is to get here.
-    [[nodiscard]] static std::vector<std::string> toolkitOptions();
+    /// Command-line options for the application object.
+    [[nodiscard]] static std::vector<std::string> qtOptions();
 
-    /// Call once, as soon as the application object is there.
+    /// Call once, right after the application object is made.
     void onApplicationCreated();
 
-    /// The user or the system asks the program to leave; on the main thread, not before `onApplicationCreated`.
+    /// The user or the system asks the program to quit; emitted on the main thread, after `onApplicationCreated`.
     Signal<> terminationRequested;
 
 private:

@@ -7,7 +7,6 @@
 namespace cuebright {
 
 class Accessibility;
-class Clock;
 class MainQueue;
 class QtAppearance;
 class QtWindowEvents;
@@ -20,7 +19,6 @@ public:
     SystemServices(QtAppearance& appearance, QtWindowEvents& windowEvents, MainQueue& mainQueue);
     ~SystemServices();
 
-    [[nodiscard]] Clock& clock();
     [[nodiscard]] Accessibility& accessibility();
     [[nodiscard]] Desktop desktop();
 

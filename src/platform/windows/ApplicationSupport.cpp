@@ -6,7 +6,7 @@
 
 namespace cuebright {
 
-// Not run on a Windows machine yet.
+// Not run on Windows yet.
 std::optional<std::filesystem::path> applicationSupportFolder()
 {
     PWSTR folder = nullptr;

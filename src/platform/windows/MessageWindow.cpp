@@ -27,7 +27,7 @@ HWND createWindow()
     windowClass.lpfnWndProc = windowProcedure;
     windowClass.hInstance = program;
     windowClass.lpszClassName = kClassName;
-    RegisterClassExW(&windowClass); // fails harmlessly where it is registered already
+    RegisterClassExW(&windowClass); // fails if it is already registered, which does not matter
     return CreateWindowExW(0, kClassName, L"", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, program, nullptr);
 }
 
@@ -76,7 +76,7 @@ bool MessageWindow::receive(std::uint32_t message, std::uintptr_t parameter)
     case kTerminate:
         terminationRequested.notify();
         return true;
-    case WM_CLOSE: // sent to every window by whoever wants the program to leave; the panel answers that
+    case WM_CLOSE: // sent to every window of a program that is to quit; the panel handles it
         return true;
     default:
         return false;

@@ -6,11 +6,11 @@
 
 namespace cuebright {
 
-/// A window that never shows and receives what Windows tells a program. Compiled for Windows, not run on it yet.
+/// A hidden window that receives system messages. Compiled for Windows, not run on it yet.
 ///
-/// A window of its own, and not the thread's queue, because the system's own loops (a native menu, a window being
-/// dragged) deliver to windows only. It is a top level: broadcasts pass over message-only windows. Listeners run on the
-/// thread that makes it, which must have a message loop.
+/// Not the thread's message queue, because modal loops of Windows (a native menu, a window being dragged) dispatch to
+/// windows only. A top-level window, because message-only windows receive no broadcasts. Listeners run on the thread
+/// that makes it, which must have a message loop.
 class MessageWindow final {
 public:
     MessageWindow();
@@ -18,25 +18,24 @@ public:
     MessageWindow& operator=(const MessageWindow&) = delete;
     ~MessageWindow();
 
-    /// The HWND; null where it could not be made.
+    /// The HWND; null where it could not be created.
     [[nodiscard]] void* handle() const { return m_handle; }
 
-    /// Asks for `sessionChanged`. May wait for another process.
+    /// Enables `sessionChanged`. May block on another process.
     void watchSession();
 
-    /// Has the `terminationRequested` of the window with this handle notified soon. From any thread, and harmless when
-    /// the window is gone.
+    /// Posts `terminationRequested` to the window with this handle. Thread-safe; no effect on a destroyed window.
     static void requestTermination(void* handle);
 
-    /// The key registered under this id was pressed.
+    /// With the id of the hot key.
     Signal<std::uint32_t> hotKeyPressed;
-    /// One of the user's settings has changed, whichever it is.
+    /// Some setting of the user has changed.
     Signal<> settingsChanged;
-    /// The session was connected to or disconnected from a screen, here or remote.
+    /// The session was connected to or disconnected from a local or remote screen.
     Signal<> sessionChanged;
     Signal<> terminationRequested;
 
-    /// For the window procedure: passes one message on. True if that was all there is to do.
+    /// For the window procedure: handles a message. False if the default handling is needed too.
     bool receive(std::uint32_t message, std::uintptr_t parameter);
 
 private:

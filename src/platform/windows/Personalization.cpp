@@ -6,7 +6,7 @@ namespace cuebright {
 
 namespace {
 
-/// Whether a switch is there and off. All are on by default.
+/// Whether a switch exists and is off. They are on by default.
 bool isSwitchedOff(const wchar_t* name)
 {
     DWORD value = 0;

@@ -2,7 +2,7 @@
 
 namespace cuebright {
 
-// The user's choices on the page "Colours" of the settings, for which Windows has no call: read anew each time.
+// Settings of the page "Colours", read from the registry at each call because Windows has no function for them.
 // Compiled for Windows, not run on it yet.
 
 [[nodiscard]] bool appsAreDark();

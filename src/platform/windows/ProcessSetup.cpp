@@ -10,23 +10,23 @@ namespace cuebright {
 
 namespace {
 
-/// Where the console's thread finds the main one: Windows calls it with no word about whom it is for.
-std::atomic<void*> listenerHandle = nullptr;
+/// Global, because the console control handler gets no user data.
+std::atomic<void*> messageWindow = nullptr;
 
-BOOL WINAPI leaveWithConsole(DWORD event)
+BOOL WINAPI onConsoleControl(DWORD event)
 {
-    void* const listener = listenerHandle;
-    if (!listener)
+    void* const window = messageWindow;
+    if (!window)
         return FALSE;
-    MessageWindow::requestTermination(listener);
+    MessageWindow::requestTermination(window);
     if (event != CTRL_C_EVENT && event != CTRL_BREAK_EVENT)
-        Sleep(INFINITE); // the process ends as soon as this returns, and else after some seconds
+        Sleep(INFINITE); // Windows ends the process when this returns, or after some seconds
     return TRUE;
 }
 
 } // namespace
 
-// Not run on a Windows machine yet. The end of the session arrives through the toolkit.
+// Not run on Windows yet. Qt reports the end of the session.
 struct ProcessSetup::System {
     MessageWindow messages;
     Subscription subscription {};
@@ -38,19 +38,19 @@ ProcessSetup::~ProcessSetup()
 {
     if (!m_system)
         return;
-    SetConsoleCtrlHandler(leaveWithConsole, FALSE);
-    listenerHandle = nullptr;
+    SetConsoleCtrlHandler(onConsoleControl, FALSE);
+    messageWindow = nullptr;
 }
 
-std::vector<std::string> ProcessSetup::toolkitOptions() { return {}; }
+std::vector<std::string> ProcessSetup::qtOptions() { return {}; }
 
 void ProcessSetup::onApplicationCreated()
 {
     m_system = std::make_unique<System>();
     m_system->subscription =
         m_system->messages.terminationRequested.subscribe([this] { terminationRequested.notify(); });
-    listenerHandle = m_system->messages.handle();
-    SetConsoleCtrlHandler(leaveWithConsole, TRUE);
+    messageWindow = m_system->messages.handle();
+    SetConsoleCtrlHandler(onConsoleControl, TRUE);
 }
 
 } // namespace cuebright

@@ -1,6 +1,6 @@
 #pragma once
 
-// The system's own header, without the macros that break the standard library's names. For sources only.
+// windows.h without the macros that clash with the standard library. Include it in sources only.
 #ifndef NOMINMAX
 #define NOMINMAX
 #endif

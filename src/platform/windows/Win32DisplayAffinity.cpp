@@ -27,7 +27,7 @@ std::optional<std::uint32_t> Win32DisplayAffinity::affinity(WindowSystem::Window
 
 std::uint32_t Win32DisplayAffinity::buildNumber()
 {
-    // GetVersionEx answers with the version that the program's manifest names; this one does not.
+    // GetVersionEx returns at most the version that the program's manifest names.
     using GetVersion = LONG(WINAPI*)(OSVERSIONINFOW*);
     const HMODULE library = GetModuleHandleW(L"ntdll.dll");
     const auto function = library ? GetProcAddress(library, "RtlGetVersion") : nullptr;

@@ -4,7 +4,7 @@
 
 namespace cuebright {
 
-/// The running Windows. Compiled for it, not run on it yet.
+/// The calls to Windows. Compiled for it, not run on it yet.
 class Win32DisplayAffinity final : public DisplayAffinity {
 public:
     bool setAffinity(WindowSystem::WindowId window, std::uint32_t affinity) override;

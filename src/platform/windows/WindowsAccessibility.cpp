@@ -10,8 +10,8 @@
 namespace cuebright {
 
 WindowsAccessibility::WindowsAccessibility(MessageWindow& messages)
-    : m_lastSeen(readAll())
-    , m_subscription(messages.settingsChanged.subscribe([this] { lookAgain(); }))
+    : m_last(readAll())
+    , m_subscription(messages.settingsChanged.subscribe([this] { update(); }))
 {
 }
 
@@ -36,10 +36,10 @@ std::array<bool, 3> WindowsAccessibility::readAll()
     return {reduceMotion(), reduceTransparency(), increaseContrast()};
 }
 
-void WindowsAccessibility::lookAgain()
+void WindowsAccessibility::update()
 {
     const auto now = readAll();
-    if (std::exchange(m_lastSeen, now) != now)
+    if (std::exchange(m_last, now) != now)
         changed.notify();
 }
 

@@ -22,9 +22,9 @@ public:
 
 private:
     std::array<bool, 3> readAll();
-    void lookAgain();
+    void update();
 
-    std::array<bool, 3> m_lastSeen;
+    std::array<bool, 3> m_last;
     Subscription m_subscription;
 };
 

@@ -42,7 +42,7 @@ std::unique_ptr<HotKeyRegistration> WindowsHotKeys::registerHotKey(const HotKey&
 {
     constexpr UINT kModifiers = MOD_CONTROL | MOD_SHIFT | MOD_NOREPEAT;
     const auto window = static_cast<HWND>(m_messages.handle());
-    // The virtual key of a letter is the letter itself.
+    // A letter's virtual-key code is its character code.
     if (!window || !RegisterHotKey(window, static_cast<int>(key.id), kModifiers, static_cast<UINT>(key.letter)))
         return {};
     return std::make_unique<Registration>(m_messages, key.id, std::move(pressed));

@@ -6,8 +6,7 @@ namespace cuebright {
 
 class MessageWindow;
 
-/// Hot keys as Windows offers them: for one program each, whatever has the keyboard. Compiled for Windows, not run on
-/// it yet.
+/// Hot keys by RegisterHotKey. Compiled for Windows, not run on it yet.
 class WindowsHotKeys final : public HotKeys {
 public:
     /// `messages` must outlive this and its registrations.

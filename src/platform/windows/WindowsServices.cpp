@@ -6,7 +6,6 @@
 #include "platform/windows/Personalization.h"
 #include "platform/windows/Win32DisplayAffinity.h"
 #include "platform/windows/WindowsAccessibility.h"
-#include "platform/windows/WindowsClock.h"
 #include "platform/windows/WindowsHotKeys.h"
 #include "platform/windows/capture/WindowsCaptureExclusion.h"
 
@@ -25,7 +24,6 @@ struct SystemServices::System {
     }
 
     MessageWindow messages;
-    WindowsClock clock;
     WindowsAccessibility accessibility {messages};
     Win32DisplayAffinity displayAffinity;
     WindowsCaptureExclusion captureExclusion {displayAffinity};
@@ -43,8 +41,6 @@ SystemServices::SystemServices(QtAppearance& appearance, QtWindowEvents& windowE
 }
 
 SystemServices::~SystemServices() = default;
-
-Clock& SystemServices::clock() { return m_system->clock; }
 
 Accessibility& SystemServices::accessibility() { return m_system->accessibility; }
 

@@ -7,7 +7,7 @@
 
 namespace cuebright {
 
-/// What Windows can be asked about windows and screen captures. Its numbers are those of SetWindowDisplayAffinity.
+/// Calls to Windows about windows and screen capture. The numbers are those of SetWindowDisplayAffinity.
 class DisplayAffinity {
 public:
     static constexpr std::uint32_t kNone = 0x00;
@@ -19,16 +19,16 @@ public:
 
     virtual ~DisplayAffinity() = default;
 
-    /// False where Windows refuses. Only `affinity` tells what came of it.
+    /// False where Windows refuses. Read the effect with `affinity`.
     virtual bool setAffinity(WindowSystem::WindowId window, std::uint32_t affinity) = 0;
 
-    /// Absent where Windows does not answer.
+    /// Absent where the call fails.
     [[nodiscard]] virtual std::optional<std::uint32_t> affinity(WindowSystem::WindowId window) = 0;
 
     /// The build of the running Windows.
     [[nodiscard]] virtual std::uint32_t buildNumber() = 0;
 
-    /// Whether the user looks at the program through a remote desktop: that is a capture too.
+    /// Whether the user sees the program through a remote desktop, which is a capture too.
     [[nodiscard]] virtual bool isRemoteSession() = 0;
 };
 

@@ -6,7 +6,7 @@ namespace cuebright {
 
 namespace {
 
-/// From the best to the worst.
+/// 0 is best.
 int rank(CaptureExclusion::State state)
 {
     switch (state) {
@@ -84,7 +84,7 @@ CaptureExclusion::State WindowsCaptureExclusion::stateOf(std::optional<std::uint
 void WindowsCaptureExclusion::apply(WindowSystem::WindowId window)
 {
     if (const auto wanted = wantedAffinity(); m_affinity.affinity(window) != wanted)
-        m_affinity.setAffinity(window, wanted); // what came of it is read back
+        m_affinity.setAffinity(window, wanted); // update() reads the effect back
 }
 
 void WindowsCaptureExclusion::applyToAll()

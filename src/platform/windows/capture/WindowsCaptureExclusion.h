@@ -10,11 +10,11 @@
 
 namespace cuebright {
 
-/// Keeps the program's windows out of captures through their display affinity. Tested against a fake, not run on a
-/// Windows machine yet.
+/// Keeps the program's windows out of captures by their display affinity. Tested against a fake, not run on Windows
+/// yet.
 ///
-/// Its state is what Windows reads back for the windows it was told of; the worst one counts. Before the first one it
-/// is not settled. Over a remote desktop the windows stay in, or their own user would not see them.
+/// The state is the worst affinity read back from the windows; it is not settled before the first one appears. Windows
+/// are not excluded over a remote desktop, because their user would not see them.
 class WindowsCaptureExclusion final : public CaptureExclusion {
 public:
     /// `affinity` must outlive this.
@@ -24,12 +24,12 @@ public:
     bool isSettled() override { return !m_windows.empty(); }
     void reapplyIfLost() override;
 
-    /// Call for every top-level window when it is made, at each show and once it shows: hide and show, and becoming
-    /// translucent, can lose the affinity.
+    /// Call for every top-level window when it is created, at each show and when it is exposed: Windows can reset the
+    /// affinity when a window is hidden and shown, or becomes translucent.
     void windowAppears(WindowSystem::WindowId window);
     void windowGoes(WindowSystem::WindowId window);
 
-    /// Call when a remote desktop may have been connected or left.
+    /// Call when a remote desktop may have been connected or disconnected.
     void sessionChanged();
 
 private:
@@ -43,7 +43,7 @@ private:
     DisplayAffinity& m_affinity;
     bool m_canExclude;
     std::vector<WindowSystem::WindowId> m_windows;
-    State m_state = State::Unknown; ///< as told to listeners
+    State m_state = State::Unknown; ///< as last notified
     bool m_wasSettled = false;
     bool m_wasExcluded = false;
 };

@@ -4,7 +4,7 @@
 
 namespace cuebright {
 
-/// The system's real-time clock, and the one that runs on through suspend (CLOCK_BOOTTIME).
+/// The system's clocks.
 class SystemClock final : public Clock {
 public:
     Instant now() override;

@@ -1,12 +1,10 @@
-#include "platform/linux/SystemClock.h"
+#include "platform/system/Uptime.h"
 
 #include <time.h>
 
 namespace cuebright {
 
-Instant SystemClock::now() { return std::chrono::floor<Instant::duration>(std::chrono::system_clock::now()); }
-
-Seconds SystemClock::uptime()
+Seconds systemUptime()
 {
     timespec time {};
     clock_gettime(CLOCK_BOOTTIME, &time);
