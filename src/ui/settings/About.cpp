@@ -76,8 +76,10 @@ void fill(QWidget& page, std::initializer_list<QWidget*> rows)
     column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     column->setSpacing(kGap);
     column->addStretch(1);
-    for (const auto row : rows)
-        column->addWidget(row);
+    for (const auto row : rows) {
+        const bool isFixed = row->sizePolicy().horizontalPolicy() == QSizePolicy::Fixed;
+        column->addWidget(row, 0, isFixed ? Qt::AlignHCenter : Qt::Alignment());
+    }
     column->addStretch(1);
 }
 

@@ -75,6 +75,15 @@ TEST_F(SettingsWindowTest, EscapeAndCtrlWPutItAwayAndOpeningBringsItBackAsItWas)
     EXPECT_EQ(window.winId(), handle);
 }
 
+TEST_F(SettingsWindowTest, TheSupportLinkIsCentred)
+{
+    open();
+    tabs().setCurrentIndex(2);
+    processEvents();
+    const auto link = find(window, "support@cuebright.example.org");
+    EXPECT_NEAR(link->geometry().center().x(), link->parentWidget()->rect().center().x(), 1);
+}
+
 TEST_F(SettingsWindowTest, EverythingIsResetOnlyWhenTheUserConfirmsIt)
 {
     const auto pressing = [this](Qt::Key key) {
