@@ -52,6 +52,12 @@ TEST(SingleInstance, AFurtherLaunchThatSharesOnlyTheBusFocusesThePanel)
     EXPECT_EQ(launchAgain(home, {{"XDG_RUNTIME_DIR", folder.path()}}), "");
     EXPECT_TRUE(panel.isOnScreen());
     EXPECT_TRUE(panel.isActive());
+
+    panel.press("ctrl+shift+s");
+    ASSERT_TRUE(panel.isOffScreen());
+    ASSERT_TRUE(std::filesystem::remove(desktop().environment().at("XDG_RUNTIME_DIR") + "/cuebright/instance"));
+    EXPECT_EQ(launchAgain(home, {}), "") << "the lock is held, its socket is gone";
+    EXPECT_TRUE(panel.isOnScreen());
 }
 
 TEST(SingleInstance, NoBusIsStartedWhereThereIsNone)

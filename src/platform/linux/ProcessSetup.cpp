@@ -5,6 +5,7 @@
 #include "platform/linux/base/DesktopSession.h"
 
 #include <QByteArray>
+#include <QDBusConnection>
 #include <QtGlobal>
 
 #include <memory>
@@ -13,23 +14,26 @@
 namespace cuebright {
 
 struct ProcessSetup::System {
-    FontWarmUp fontWarmUp;
+    std::optional<FontWarmUp> fontWarmUp {std::in_place};
     std::optional<TerminationSignals> terminationSignals {};
     Subscription terminationSubscription {};
 };
 
 namespace {
 
+constexpr auto kBusAddress = "DBUS_SESSION_BUS_ADDRESS";
+constexpr auto kNoBus = "disabled:";
+
 /// Where the session has no bus, libdbus would start one that outlives the program ("autolaunch").
 void forbidStartingBus()
 {
     std::error_code ignored;
-    const auto address = qgetenv("DBUS_SESSION_BUS_ADDRESS");
+    const auto address = qgetenv(kBusAddress);
     const auto socket = DesktopSession::fromEnvironment().runtimeDirectory / "bus"; // the default address
     const bool hasBus = address.isEmpty() ? socket.is_absolute() && std::filesystem::is_socket(socket, ignored)
                                           : !address.startsWith("autolaunch:");
     if (!hasBus)
-        qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
+        qputenv(kBusAddress, kNoBus);
 }
 
 } // namespace
@@ -54,6 +58,11 @@ std::vector<std::string> ProcessSetup::qtOptions()
 
 void ProcessSetup::onApplicationCreated()
 {
+    if (qgetenv(kBusAddress) == kNoBus) { // not for the programs that links start
+        m_system->fontWarmUp.reset(); // that thread reads the environment
+        static_cast<void>(QDBusConnection::sessionBus()); // libdbus reads the address once
+        qunsetenv(kBusAddress);
+    }
     m_system->terminationSignals.emplace();
     m_system->terminationSubscription =
         m_system->terminationSignals->requested.subscribe([this] { terminationRequested.notify(); });

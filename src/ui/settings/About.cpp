@@ -114,6 +114,7 @@ AboutWindow::AboutWindow(const UiContext& context)
     fill(*this,
         {icon, makeText(context, product::name(), systemFont(kWindowNameSize, QFont::DemiBold), ColorRole::Text, this),
             makeText(context, product::versionAndBuildText(), font, ColorRole::Text, this), credits});
+    credits->raise(); // screen readers read in stacking order
     setFixedSize(kWindowSize);
 }
 

@@ -23,15 +23,18 @@ namespace {
 
 constexpr std::size_t kLongestToken = 1024;
 constexpr int kPollInterval = 20; ///< milliseconds between two attempts to take the lock
-constexpr std::size_t kLongestSocketPath = sizeof(sockaddr_un::sun_path) - 1;
 
-FileDescriptor openLockFile(const std::filesystem::path& folder)
+FileDescriptor openFolder(const std::filesystem::path& folder)
 {
     std::error_code ignored;
     std::filesystem::create_directories(folder.parent_path(), ignored);
     ::mkdir(folder.c_str(), S_IRWXU);
-    return FileDescriptor(
-        ::open((folder / "lock").c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR));
+    return FileDescriptor(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+}
+
+FileDescriptor openLockFile(const FileDescriptor& folder)
+{
+    return FileDescriptor(::openat(folder.get(), "lock", O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR));
 }
 
 FileDescriptor openSocket() { return FileDescriptor(::socket(AF_UNIX, SOCK_DGRAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0)); }
@@ -78,12 +81,13 @@ std::vector<std::filesystem::path> InstanceLock::defaultFolders()
 InstanceLock::InstanceLock(const std::vector<std::filesystem::path>& folders)
 {
     for (const auto& folder : folders) {
-        m_socketPath = folder / "instance";
-        if (m_socketPath.size() > kLongestSocketPath)
+        m_folder.emplace(openFolder(folder));
+        m_lock.emplace(openLockFile(*m_folder));
+        if (m_lock->get() < 0)
             continue;
-        m_lock.emplace(openLockFile(folder));
-        if (m_lock->get() >= 0)
-            return;
+        // Through the open folder, because a socket's address holds only 107 bytes.
+        m_socketPath = "/proc/self/fd/" + std::to_string(m_folder->get()) + "/instance";
+        return;
     }
     m_lock.reset();
 }

@@ -38,6 +38,7 @@ private:
     void listen();
     void receive() const;
 
+    std::optional<FileDescriptor> m_folder;
     std::string m_socketPath;
     std::optional<FileDescriptor> m_lock;
     std::optional<FileDescriptor> m_socket;

@@ -55,6 +55,7 @@ struct SingleInstance::System {
     const QVariantMap data = launchData();
     InstanceLock lock {};
     std::optional<ApplicationService> service {};
+    bool isLockUnreachable = false; ///< held by an instance without a socket, which may still be on the bus
 };
 
 SingleInstance::SingleInstance()
@@ -67,7 +68,9 @@ SingleInstance::~SingleInstance() = default;
 std::optional<int> SingleInstance::claimLock()
 {
     const auto& data = m_system->data;
-    return exitStatusFor(m_system->lock.claim(data.isEmpty() ? std::string() : data.first().toString().toStdString()));
+    const auto claim = m_system->lock.claim(data.isEmpty() ? std::string() : data.first().toString().toStdString());
+    m_system->isLockUnreachable = claim == InstanceClaim::Unreachable;
+    return m_system->isLockUnreachable ? std::nullopt : exitStatusFor(claim);
 }
 
 /// Two programs may share one bus but no folder for the lock.
@@ -75,7 +78,9 @@ std::optional<int> SingleInstance::claimName()
 {
     m_system->service.emplace(
         QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("application service")));
-    return exitStatusFor(m_system->service->claim(m_system->data));
+    const auto claim = m_system->service->claim(m_system->data);
+    const bool isHandedOver = claim == InstanceClaim::HandedOver || claim == InstanceClaim::Queued;
+    return exitStatusFor(m_system->isLockUnreachable && !isHandedOver ? InstanceClaim::Unreachable : claim);
 }
 
 void SingleInstance::deliver(std::function<void(const RemoteRequest&)> perform)

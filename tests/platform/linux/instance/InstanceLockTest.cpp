@@ -37,11 +37,11 @@ TEST_F(InstanceLockTest, TheFirstUsableFolderIsTakenForTheUserAlone)
 {
     const auto blocked = folder.write("file", "") / "run";
     const auto deep = folder.file(std::string(120, 'x')) / "run"; // longer than the address of a socket
-    EXPECT_EQ(InstanceLock({blocked, deep}).claim({}), InstanceClaim::Unavailable);
-    InstanceLock first({blocked, deep, folders[0]});
+    EXPECT_EQ(InstanceLock({blocked}).claim({}), InstanceClaim::Unavailable);
+    InstanceLock first({blocked, deep});
     EXPECT_EQ(first.claim({}), InstanceClaim::Granted);
-    EXPECT_EQ(TemporaryFolder::modeOf(folders[0]), 0700U);
-    EXPECT_EQ(InstanceLock(folders).claim({}, kMoment), InstanceClaim::Queued);
+    EXPECT_EQ(TemporaryFolder::modeOf(deep), 0700U);
+    EXPECT_EQ(InstanceLock({deep}).claim({}, kMoment), InstanceClaim::Queued);
 }
 
 } // namespace
