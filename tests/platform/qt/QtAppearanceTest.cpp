@@ -3,6 +3,7 @@
 #include "platform/qt/ApplicationPalette.h"
 #include "platform/qt/QtColors.h"
 #include "platform/qt/QtWindowEvents.h"
+#include "support/Contrast.h"
 #include "support/EventLoop.h"
 
 #include <QApplication>
@@ -84,6 +85,24 @@ TEST_F(QtAppearanceTest, ThePaletteLeavesNoRoleToTheDesktop)
                 EXPECT_TRUE(isSet || role == QPalette::NoRole) << group << ' ' << role;
             }
         }
+    }
+}
+
+TEST_F(QtAppearanceTest, TextsOfThePaletteCanBeRead)
+{
+    // 4.5 is for running text, 3 for short labels and large text.
+    const std::tuple<QPalette::ColorRole, QPalette::ColorRole, double> pairs[] = {
+        {QPalette::WindowText, QPalette::Window, 4.5}, {QPalette::Text, QPalette::Base, 4.5},
+        {QPalette::Text, QPalette::AlternateBase, 4.5}, {QPalette::ButtonText, QPalette::Button, 4.5},
+        {QPalette::ToolTipText, QPalette::ToolTipBase, 4.5}, {QPalette::HighlightedText, QPalette::Highlight, 3},
+        {QPalette::Link, QPalette::Base, 3}};
+    for (const bool isDark : {false, true}) {
+        const auto color = [palette = applicationPalette(isDark)](QPalette::ColorRole role) {
+            const auto shown = palette.color(role);
+            return Color {shown.redF(), shown.greenF(), shown.blueF()};
+        };
+        for (const auto& [text, ground, least] : pairs)
+            EXPECT_GE(contrast(color(text), color(ground)), least) << isDark << text;
     }
 }
 

@@ -1,5 +1,6 @@
 #include "ui/panel/FooterContent.h"
 
+#include "support/Contrast.h"
 #include "ui/base/ColorRole.h"
 #include "ui/panel/FooterView.h"
 #include "ui/panel/PanelFixture.h"
@@ -7,24 +8,12 @@
 
 #include <QTest>
 
-#include <algorithm>
 #include <cmath>
 #include <tuple>
 
 namespace cuebright::test {
 
 namespace {
-
-/// Contrast ratio of two opaque colours as WCAG 2 defines it.
-double contrast(const Color& a, const Color& b)
-{
-    const auto luminance = [](const Color& color) {
-        const auto linear = [](double c) { return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
-        return 0.2126 * linear(color.red) + 0.7152 * linear(color.green) + 0.0722 * linear(color.blue);
-    };
-    const auto [darker, lighter] = std::minmax({luminance(a), luminance(b)});
-    return (lighter + 0.05) / (darker + 0.05);
-}
 
 Color over(const Color& front, const Color& back)
 {
