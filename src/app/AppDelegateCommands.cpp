@@ -116,7 +116,8 @@ void AppDelegate::showPanel()
     panelWindow().activate();
 }
 
-/// Asks about the card on show; deletes the one that is active when "Delete" is pressed.
+/// Asks before deleting. While the question is open nothing but a reset of all data can change the active card: every
+/// other way is blocked with the panel or checks `isWaitingForAnswer`.
 void AppDelegate::deleteCard()
 {
     if (!m_shell)

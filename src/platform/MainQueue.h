@@ -31,7 +31,10 @@ public:
     virtual ~MainQueue() = default;
 
     /// Runs `work` after the current event, and before a widget receives the next key or click, even one that is queued
-    /// already. So it must be quick, and must not destroy windows.
+    /// already.
+    ///
+    /// `work` must be quick, because that key waits for it, and must not destroy windows, because the key may already
+    /// be on its way to one.
     virtual PendingTask post(std::function<void()> work) = 0;
 
     /// Runs `work` once, `delay` from now.

@@ -25,6 +25,7 @@ public:
     virtual void setBlurBehind(WindowId window, bool isOn) = 0;
 
     /// Emitted when a window kept above was minimised only because the full-screen window below it was.
+    /// `PanelController` then shows the panel again.
     Signal<WindowId> minimisedWithFullScreen;
 };
 

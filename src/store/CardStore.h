@@ -128,12 +128,13 @@ public:
     /// Cancels a pending save and saves immediately.
     void flushToDisk();
     /// Deletes the state file, resets all preferences except word count and speaking pace, loads the sample decks and
-    /// empties the undo manager. An open edit stays open. Schedules no save.
+    /// empties the undo manager. An open edit stays open. Schedules no save. The two exceptions describe the speaker,
+    /// not the look, and the settings' text, which names what is reset, does not mention them.
     void resetAllData();
     /// Set while the last save has failed; results of a save arrive after the current event.
     [[nodiscard]] const std::optional<std::string>& persistentError() const { return m_persistentError; }
     [[nodiscard]] bool errorDismissed() const { return m_errorDismissed; }
-    /// Sets `errorDismissed`; the next failed save clears it.
+    /// Hides the error until the next save ends: a failed one shows it again, a successful one removes it.
     void dismissError();
     [[nodiscard]] const std::filesystem::path& appSupportDir() const { return m_appSupportDir; }
     [[nodiscard]] std::filesystem::path stateURL() const;

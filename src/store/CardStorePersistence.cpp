@@ -26,7 +26,7 @@ void CardStore::openAppSupportDir()
     if (!directory)
         std::abort(); // every supported system has one
     m_appSupportDir = *directory / "Cuebright";
-    m_platform.fileSystem.createDirectories(m_appSupportDir); // saving reports a failure
+    m_platform.fileSystem.createDirectories(m_appSupportDir); // a failure shows at the first save
 }
 
 std::filesystem::path CardStore::stateURL() const { return m_appSupportDir / "state.json"; }

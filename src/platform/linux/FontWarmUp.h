@@ -4,8 +4,8 @@
 
 namespace cuebright {
 
-/// Reads the font configuration on a thread while Qt connects to the display, which would do so afterwards: saves 3 ms
-/// of 50 until the first paint where two cores are free, nothing on a busy machine. Make it before the application
+/// Reads the font configuration on a thread while Qt connects to the display, so that Qt need not read it later: saves
+/// 3 ms of 50 until the first paint where two cores are free, nothing on a busy machine. Make it before the application
 /// object.
 class FontWarmUp final {
 public:

@@ -18,8 +18,8 @@ class SettingsPortal;
 /// has no setting for transparency: it is reduced where no compositor runs.
 class LinuxAccessibility final : public Accessibility {
 public:
-    /// `systemIsDark` is called with each change of the desktop's colour scheme; with nothing where it has no
-    /// preference.
+    /// `systemIsDark` is called with each change of the desktop's colour scheme; `nullopt` if the desktop
+    /// states no preference.
     LinuxAccessibility(MainQueue& mainQueue, std::function<bool()> hasCompositor,
         std::function<void(std::optional<bool>)> systemIsDark);
     ~LinuxAccessibility() override;

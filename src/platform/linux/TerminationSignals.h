@@ -15,9 +15,9 @@ public:
     /// Blocks the three signals until an object of this class receives them, and ignores SIGPIPE. Call it before any
     /// thread starts, because threads inherit the signal mask.
     ///
-    /// Undone in child processes made by fork(), as by `QProcess::startDetached` and `QDesktopServices::openUrl`.
-    /// Others must call `releaseInChild` (`QProcess::setChildProcessModifier`) or set a signal mask
-    /// (`posix_spawnattr_setsigmask`).
+    /// Child processes made by fork(), as by `QProcess::startDetached` and `QDesktopServices::openUrl`, get the
+    /// defaults back automatically. Other ways of starting one must restore them: with `releaseInChild`
+    /// (`QProcess::setChildProcessModifier`) or `posix_spawnattr_setsigmask` and `posix_spawnattr_setsigdefault`.
     static void claim();
 
     /// Restores the signals' default effects. Safe between fork and exec.

@@ -24,7 +24,7 @@ public:
     void choose(Choice choice) override;
     bool isDark() override { return m_isDark; }
 
-    /// Overrides the guess; nothing: guess again.
+    /// Overrides the guess; `nullopt` returns to guessing.
     void setSystemIsDark(std::optional<bool> isDark);
 
     /// Whether the text is lighter than the background.

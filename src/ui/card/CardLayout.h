@@ -26,7 +26,7 @@ namespace cuebright {
 /// left corner.
 class CardLayout final {
 public:
-    /// A rectangle to click or to focus. A link has one on each line that it covers.
+    /// A rectangle to click or to focus. A wrapped link is several of these, one on each line.
     struct Link {
         std::string target; ///< as written
         QString text;
@@ -75,7 +75,7 @@ private:
         double top;
         double bottom; ///< without the space below the block
         double baseline; ///< of the first line
-        int lineCount; ///< `text` may have one more, which begins the next piece
+        int lineCount; ///< `text` may hold one extra line; it is laid out again as the first of the next piece
         bool isFirst;
         std::unique_ptr<QTextLayout> text;
         std::unique_ptr<QTextLayout> label; ///< a numbered item's number

@@ -33,7 +33,7 @@ public:
     [[nodiscard]] std::string title(Command undoOrRedo) const;
     [[nodiscard]] bool isEnabled(Command undoOrRedo) const;
 
-    /// Another widget has the focus, or Undo or Redo has become available or unavailable in the focused text.
+    /// Emitted when the focus moves or Undo or Redo becomes available or unavailable in the focused text.
     Signal<> targetChanged;
 
 private:

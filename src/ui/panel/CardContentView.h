@@ -62,7 +62,7 @@ private:
     CardArea::Content m_cardContent = CardArea::Content::Stale;
     std::optional<Animation> m_cardAnimation;
     std::optional<Animation> m_editAnimation;
-    bool m_editBegins = true; ///< even if another one ended in the same turn
+    bool m_editBegins = true; ///< an edit has begun since the last refresh, even if one also ended
     CoalescedCall m_refresh;
     Subscription m_storeSubscription;
     Subscription m_appearanceSubscription;

@@ -9,7 +9,8 @@ namespace cuebright {
 class DismissButton;
 class Label;
 
-/// A dot, the error's text and a button that dismisses it. Too narrow, the text is elided down to nothing.
+/// A dot, the error's text and a button that dismisses it. Where there is too little room, the text is elided down to
+/// nothing.
 class ErrorNotice final : public QWidget {
 public:
     ErrorNotice(const UiContext& context, QWidget* parent);

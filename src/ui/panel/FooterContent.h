@@ -53,8 +53,8 @@ struct FooterPlaces {
 
 constexpr int kFooterGap = 12; ///< between items
 
-/// One row with the buttons at its right end. Too narrow, it shrinks the error, then the feedback, then the word count,
-/// each to a few letters; then it leaves out the feedback, then the word count.
+/// One row with the buttons at its right end. Where there is too little room, it shrinks the error, then the feedback,
+/// then the word count, each to a few letters; then it leaves out the feedback, then the word count.
 [[nodiscard]] FooterPlaces footerPlaces(FooterWidths widths, int available);
 
 } // namespace cuebright

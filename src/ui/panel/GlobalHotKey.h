@@ -20,7 +20,7 @@ inline constexpr HotKey kTogglePanelHotKey {
     .purpose = "Show / Hide window",
 };
 
-/// What the hot key does; nothing else.
+/// Runs at each press of the hot key.
 inline void hotkeyHandler(NotificationCenter& notifications) { notifications.post(kTogglePanelNotification); }
 
 } // namespace cuebright

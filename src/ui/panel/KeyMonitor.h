@@ -16,8 +16,9 @@ struct UiContext;
 /// A key press goes on to the next of these until one takes it:
 /// 1. an open pop-up or sheet, or the menu bar while it has focus;
 /// 2. this monitor, by `panelKeyAction()`;
-/// 3. the shortcuts of the menus;
-/// 4. the focused widget, then its parents.
+/// 3. the focused widget, if it accepts the ShortcutOverride (the editor's own keys, MarkdownEditorInput.cpp);
+/// 4. the shortcuts of the menus;
+/// 5. the focused widget, then its parents.
 class KeyMonitor final : public QObject {
 public:
     /// Call when `panel` has its native window. `isPanelVisible` is false as soon as the panel begins to hide. All that

@@ -37,7 +37,7 @@ public:
     /// Emitted whoever shows, hides or minimises the panel.
     Signal<> isOnScreenChanged;
 
-    /// A modal dialog begins or ends to block the panel.
+    /// Emitted when a modal dialog starts or stops blocking the panel.
     Signal<> isBlockedChanged;
 
 protected:

@@ -85,7 +85,7 @@ void PanelController::togglePanel()
 void PanelController::showPanel()
 {
     m_context.desktop.captureExclusion.reapplyIfLost(); // before anything can be seen
-    m_isMeantToShow = true; // before followPanel() hears of the show
+    m_isMeantToShow = true; // followPanel() runs during orderFront() and must see it set
     prepareToShow();
     m_panel->orderFront();
     // Both need the panel on the screen.
@@ -164,7 +164,7 @@ void PanelController::installArrowKeyMonitor()
 
 void PanelController::observeStore()
 {
-    // Any change restarts the delay, also one that the window does not show.
+    // Any change restarts the delay, even one that title and opacity do not depend on.
     m_storeSubscription = m_context.store.willChange.subscribe([this](const Change&) {
         m_storeUpdate = m_context.platform.mainQueue.after(kStoreDebounce, [this] { followStore(); });
     });

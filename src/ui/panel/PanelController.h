@@ -61,7 +61,7 @@ private:
     FrameMemory m_frameMemory;
     ShowHideAnimation m_showHideAnimation;
     std::unique_ptr<HotKeyRegistration> m_hotkeyRef;
-    std::unique_ptr<KeyMonitor> m_arrowKeyMonitor; ///< of all keys of the panel
+    std::unique_ptr<KeyMonitor> m_arrowKeyMonitor; ///< filters all keys of the panel
     std::optional<Seconds> m_lastHideTime; ///< by `Clock::uptime`
     bool m_isMeantToShow = false;
     bool m_isShareStatusDue = true;

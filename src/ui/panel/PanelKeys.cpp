@@ -43,8 +43,8 @@ constexpr std::array kRows {
     Row {kCommandShift | Qt::Key_W, ToggleWordCount, ToggleWordCount},
 };
 
-/// In this order: the state, the table, the deck digits. A key of the table is no digit even where a layout has it in
-/// the digit row.
+/// The state decides first, then the table, then the deck digits. A key in the table never counts as a digit, even
+/// where the layout has it in the digit row.
 std::optional<PanelKeyAction> actionFor(const KeyStroke& stroke, const Row* row, PanelState state)
 {
     if (state == PanelState::Hiding)

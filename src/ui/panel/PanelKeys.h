@@ -10,12 +10,12 @@ namespace cuebright {
 enum class PanelState {
     Reading,
     Editing,
-    Hiding, ///< still on the screen, but the user is with another program already
+    Hiding, ///< fading out; the user has already moved on to another program
 };
 
 /// What a key of the panel does.
 enum class PanelCommand {
-    Swallow, ///< nothing; no menu and no widget gets the key either
+    Swallow, ///< takes the key and does nothing
     TogglePanel,
     AskToDeleteCard,
     Undo,

@@ -14,8 +14,8 @@ namespace cuebright {
 
 [[nodiscard]] Preferences::Numbers storedFrame(const QRect& frame, const QRect& primaryScreen);
 
-/// Whether a part of the window or of the title bar above it is in one of `screens`, given without panels and docks.
-/// The title bar is enough to drag the window back.
+/// Whether a part of the window or of the title bar above it is in one of `screens`. The title bar is enough to drag
+/// the window back. `screens`: available areas, without panels and docks.
 [[nodiscard]] bool isSeen(const QRect& frame, const QList<QRect>& screens);
 
 /// The frame in `stored`, not smaller than `minimumSize`. Absent if a number is missing or the frame is not seen.

@@ -13,7 +13,7 @@ inline constexpr double kFocusRingWidth = 2;
 void drawFocusRing(QPainter& painter, const QRectF& rect, double cornerRadius, const Colors& colors);
 
 /// A focus ring for a widget that has no room for its own, drawn by the widget's grandparent. Derives from QFocusFrame
-/// only because screen readers ignore that class.
+/// so that screen readers ignore it.
 class FocusRing final : public QFocusFrame {
 public:
     /// When the ring shows: whenever `target` has focus, or only after it was reached by Tab or Shift+Tab.

@@ -10,7 +10,7 @@ namespace cuebright {
 
 namespace {
 
-/// Two windows minimised within this time were minimised together by the window manager, not one by one by the user.
+/// Two windows minimised within this time were minimised by the window manager as a group, not separately by the user.
 constexpr Seconds kMinimisedTogether {0.1};
 
 } // namespace
@@ -33,7 +33,8 @@ X11WindowSystem::X11WindowSystem(const X11Connection& x11, MainQueue& mainQueue)
 void X11WindowSystem::keepAboveFullScreen(WindowId window)
 {
     m_windows.try_emplace(static_cast<xcb_window_t>(window));
-    // 0: no focus when the window is mapped. Qt 6.4 writes that only after mapping a window that was minimised.
+    // 0: no focus when the window is mapped. For a window that was minimised Qt 6.4 sets this too late, after mapping
+    // it.
     m_x11.setProperty(static_cast<xcb_window_t>(window), m_userTimeAtom, XCB_ATOM_CARDINAL, {0});
     followActiveWindow();
     updateTransience(static_cast<xcb_window_t>(window));
@@ -140,7 +141,7 @@ void X11WindowSystem::checkMinimised(xcb_window_t window)
         const bool isMinimisedTogether = std::ranges::any_of(below, [this](auto other) { return isMinimised(other); });
         if (!isMinimised(window) || !isMinimisedTogether)
             return;
-        m_formerFullScreenWindow = XCB_WINDOW_NONE; // the next time it is minimised on its own
+        m_formerFullScreenWindow = XCB_WINDOW_NONE; // from now on, minimising counts as the user's
         minimisedWithFullScreen.notify(window);
     });
 }

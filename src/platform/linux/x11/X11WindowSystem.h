@@ -13,7 +13,8 @@ namespace cuebright {
 /// Keeps windows above others on X11, with the Extended Window Manager Hints and KWin's blur hint.
 ///
 /// An active full-screen window is stacked above windows in the state "above". While there is one, the windows kept
-/// above are made transient for it, which raises them over it and leaves the focus where it is.
+/// above are made transient for it: window managers stack transient windows over their parent, and the focus stays
+/// where it is.
 class X11WindowSystem final : public WindowSystem, public QAbstractNativeEventFilter {
 public:
     X11WindowSystem(const X11Connection& x11, MainQueue& mainQueue);

@@ -12,9 +12,9 @@ class DisplayAffinity {
 public:
     static constexpr std::uint32_t kNone = 0x00;
     static constexpr std::uint32_t kMonitor = 0x01; ///< a black box in captures
-    static constexpr std::uint32_t kExcludeFromCapture = 0x11; ///< acts as `kMonitor` before `kFirstBuildToExclude`
+    static constexpr std::uint32_t kExcludeFromCapture = 0x11; ///< on older builds has the effect of `kMonitor`
 
-    /// Windows 10, version 2004.
+    /// The first build with `kExcludeFromCapture`: Windows 10, version 2004.
     static constexpr std::uint32_t kFirstBuildToExclude = 19041;
 
     virtual ~DisplayAffinity() = default;
